@@ -1,0 +1,370 @@
+// Draws every picture of the wizard and writes it where the program expects it:
+// forms/images (compiled into the program) and images (loaded from the program folder).
+//
+// Usage: draw_images SOURCE_ROOT
+//
+// The one idea behind all of them: five sepals that open from one stem, one for each of the five
+// steps, in ink and greys with a single green. A side-bar picture is drawn once and written both
+// as XPM and as bitmap, so that a button looks the same whichever of the two it shows.
+//
+// The captions are set in Liberation Sans; the pictures are committed, so that a build needs
+// neither that face nor this program.
+
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QHashSeed>
+#include <QImage>
+#include <QPainter>
+#include <QPainterPath>
+#include <QTextStream>
+#include <algorithm>
+#include <array>
+#include <map>
+#include <vector>
+
+namespace {
+
+const QColor ink(0x22, 0x27, 0x2b);
+const QColor slate(0x4a, 0x53, 0x5b);
+const QColor grey(0x9a, 0xa1, 0xa6);
+const QColor mist(0xd3, 0xd7, 0xda);
+const QColor ground(0xf5, 0xf6, 0xf6);
+const QColor green(0x3f, 0x8f, 0x6b);
+
+const int steps = 5;
+
+QImage blank(int width, int height, const QColor &background = Qt::white)
+{
+    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+    image.fill(background);
+    return image;
+}
+
+QFont capitals(int pixelSize, qreal spacing)
+{
+    QFont font(QStringLiteral("Liberation Sans"));
+    font.setPixelSize(pixelSize);
+    font.setBold(true);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, spacing);
+    font.setHintingPreference(QFont::PreferFullHinting);
+    return font;
+}
+
+/// One sepal: a leaf that starts at \a foot, \a length pixels long and leaning by \a degrees from
+/// the vertical.
+QPainterPath sepal(const QPointF &foot, qreal length, qreal degrees)
+{
+    QPainterPath leaf;
+    const qreal width = length * 0.27;
+    leaf.cubicTo(-width, -length * 0.30, -width * 0.9, -length * 0.68, 0, -length);
+    leaf.cubicTo(width * 0.9, -length * 0.68, width, -length * 0.30, 0, 0);
+    return QTransform().translate(foot.x(), foot.y()).rotate(degrees).map(leaf);
+}
+
+/// The five sepals on their foot; the outermost are drawn first, so that the middle one lies on
+/// top. \a outer to \a middle are the colours from the outside in.
+void drawSepals(QPainter &painter, const QPointF &foot, qreal length,
+                const std::array<QColor, 3> &outerToMiddle)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    const qreal spread[] = {68, 34, 0};
+    const qreal share[] = {0.80, 0.92, 1.0};
+    for (int ring = 0; ring < 3; ++ring) {
+        painter.setBrush(outerToMiddle[ring]);
+        for (const qreal side : {-1.0, 1.0})
+            painter.drawPath(sepal(foot, length * share[ring], side * spread[ring]));
+    }
+}
+
+/// A horizontal bar with a colour that runs from \a left to \a right.
+void drawBar(QPainter &painter, const QRectF &bar, const QColor &left, const QColor &right)
+{
+    QLinearGradient gradient(bar.topLeft(), bar.topRight());
+    gradient.setColorAt(0, left);
+    gradient.setColorAt(1, right);
+    painter.fillRect(bar, gradient);
+}
+
+QImage icon()
+{
+    QImage image = blank(32, 32, Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ink);
+    painter.drawRoundedRect(QRectF(0, 0, 32, 32), 6, 6);
+    drawSepals(painter, QPointF(16, 26), 21, {slate, mist, green});
+    return image;
+}
+
+/// The banner: an ink bar with a thin grey one under it. \a height is that of the whole picture.
+QImage bannerLeft(int width, int height)
+{
+    QImage image = blank(width, height);
+    QPainter painter(&image);
+    drawBar(painter, QRectF(0, 0, width, 25), ink, slate);
+    drawBar(painter, QRectF(0, 28, width, height - 28), grey, mist);
+    drawSepals(painter, QPointF(20, 20), 14, {slate, mist, green});
+    painter.setPen(Qt::white);
+    painter.setFont(capitals(13, 4));
+    painter.drawText(QRect(38, 0, 200, 25), Qt::AlignVCenter | Qt::AlignLeft, "CALYX");
+    return image;
+}
+
+QImage bannerRight(int width, int height)
+{
+    QImage image = blank(width, height);
+    QPainter painter(&image);
+    drawBar(painter, QRectF(0, 0, width, 25), slate, ink);
+    drawBar(painter, QRectF(0, 28, width, height - 28), mist, grey);
+    painter.setClipRect(0, 0, width, 25);
+    const std::array<QColor, 3> faint {QColor(255, 255, 255, 22), QColor(255, 255, 255, 40),
+                                       QColor(63, 143, 107, 190)};
+    for (int step = 0; step < steps; ++step)
+        drawSepals(painter, QPointF(28 + step * 40, 27), 22, faint);
+    return image;
+}
+
+/// The band along the bottom mirrors the banner: grey above, ink below.
+QImage band(int width, int height, const QColor &left, const QColor &right, const QColor &greyLeft,
+            const QColor &greyRight)
+{
+    QImage image = blank(width, height);
+    QPainter painter(&image);
+    drawBar(painter, QRectF(0, 0, width, 5), greyLeft, greyRight);
+    drawBar(painter, QRectF(0, 8, width, height - 8), left, right);
+    return image;
+}
+
+QImage makersLogo()
+{
+    QImage image = blank(169, 54);
+    QPainter painter(&image);
+    drawSepals(painter, QPointF(28, 44), 33, {mist, grey, green});
+    painter.setFont(capitals(19, 4));
+    QLinearGradient text(60, 0, 165, 0);
+    text.setColorAt(0, ink);
+    text.setColorAt(1, slate);
+    painter.setPen(QPen(QBrush(text), 1));
+    painter.drawText(QRect(58, 8, 111, 24), Qt::AlignVCenter | Qt::AlignLeft, "VANTOR");
+    drawBar(painter, QRectF(59, 34, 100, 2), green, mist);
+    painter.setFont(capitals(8, 2.2));
+    painter.setPen(slate);
+    painter.drawText(QRect(59, 38, 110, 11), Qt::AlignVCenter | Qt::AlignLeft, "CODE ANALYSIS");
+    return image;
+}
+
+QImage productLogo(int width, int height, const QString &name, const QString &language)
+{
+    QImage image = blank(width, height);
+    QPainter painter(&image);
+    painter.setFont(capitals(29, 2));
+    QLinearGradient text(0, 10, 0, 42);
+    text.setColorAt(0, slate);
+    text.setColorAt(1, ink);
+    painter.setPen(QPen(QBrush(text), 1));
+    painter.drawText(QRect(46, 8, width - 46, 34), Qt::AlignVCenter | Qt::AlignLeft, name);
+    drawSepals(painter, QPointF(22, 52), 27, {mist, grey, green});
+    drawBar(painter, QRectF(48, 43, width - 56, 2), green, mist);
+    painter.setFont(capitals(8, 2));
+    painter.setPen(slate);
+    painter.drawText(QRect(48, 47, width - 48, 12), Qt::AlignVCenter | Qt::AlignLeft, language);
+    return image;
+}
+
+QImage arrow(bool up)
+{
+    QImage image = blank(18, 18);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(slate);
+    painter.drawPolygon(QPolygonF({QPointF(9, 4), QPointF(15, 13), QPointF(3, 13)}));
+    return up ? image : image.mirrored(false, true);
+}
+
+QImage sideBarButton(const QString &caption, bool highlighted)
+{
+    QImage image = blank(175, 23, ground);
+    QPainter painter(&image);
+    if (highlighted) {
+        drawBar(painter, QRectF(0, 0, 175, 23), ink, slate);
+        painter.fillRect(0, 0, 5, 23, green);
+    } else {
+        painter.setPen(grey);
+        painter.drawRect(0, 0, 174, 22);
+        painter.fillRect(0, 0, 5, 23, grey);
+    }
+    painter.setPen(highlighted ? QColor(Qt::white) : ink);
+    painter.setFont(capitals(10, 1.4));
+    painter.drawText(QRect(14, 0, 161, 23), Qt::AlignVCenter | Qt::AlignLeft, caption);
+    return image;
+}
+
+using Histogram = std::vector<std::pair<QRgb, int>>;
+
+Histogram histogram(const QImage &image)
+{
+    std::map<QRgb, int> counts;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            ++counts[image.pixel(x, y) | 0xff000000];
+    return {counts.begin(), counts.end()};
+}
+
+int channel(QRgb colour, int index)
+{
+    return (colour >> (8 * index)) & 0xff;
+}
+
+/// The colour that stands for all of \a box: the one that most of its pixels have, so that a ground
+/// stays what it is, or else their mean.
+QRgb representative(const Histogram &box)
+{
+    qint64 pixels = 0;
+    std::array<qint64, 3> sums {};
+    for (const auto &[colour, count] : box) {
+        pixels += count;
+        for (int c = 0; c < 3; ++c)
+            sums[c] += qint64(count) * channel(colour, c);
+    }
+    const auto byCount = [](const auto &a, const auto &b) { return a.second < b.second; };
+    const auto &[commonest, count] = *std::max_element(box.begin(), box.end(), byCount);
+    if (2 * count > pixels)
+        return commonest;
+    return qRgb(int(sums[2] / pixels), int(sums[1] / pixels), int(sums[0] / pixels));
+}
+
+/// The median cut: splits the colours of \a image until there are \a limit boxes, and returns the
+/// image with every colour replaced by the one that stands for its box. An image with no more than
+/// \a limit colours comes back as it is.
+QImage withColours(QImage image, std::size_t limit)
+{
+    image = image.convertToFormat(QImage::Format_RGB32);
+    std::vector<Histogram> boxes {histogram(image)};
+    while (boxes.size() < limit) {
+        int widest = 0, axis = 0;
+        std::size_t chosen = 0;
+        for (std::size_t i = 0; i < boxes.size(); ++i) {
+            for (int c = 0; c < 3; ++c) {
+                const auto byChannel = [c](const auto &a, const auto &b) {
+                    return channel(a.first, c) < channel(b.first, c);
+                };
+                const auto [low, high] =
+                    std::minmax_element(boxes[i].begin(), boxes[i].end(), byChannel);
+                const int range = channel(high->first, c) - channel(low->first, c);
+                if (range > widest) {
+                    widest = range;
+                    axis = c;
+                    chosen = i;
+                }
+            }
+        }
+        if (widest == 0)
+            break;
+        Histogram &box = boxes[chosen];
+        std::sort(box.begin(), box.end(), [axis](const auto &a, const auto &b) {
+            return channel(a.first, axis) < channel(b.first, axis);
+        });
+        const auto middle = box.begin() + std::ptrdiff_t(box.size() / 2);
+        Histogram upper(middle, box.end());
+        box.erase(middle, box.end());
+        boxes.push_back(std::move(upper));
+    }
+    std::map<QRgb, QRgb> replacement;
+    for (const Histogram &box : boxes) {
+        const QRgb colour = representative(box);
+        for (const auto &entry : box)
+            replacement[entry.first] = colour;
+    }
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            image.setPixel(x, y, replacement.at(image.pixel(x, y)));
+    return image;
+}
+
+bool write(const QImage &image, const QString &path, const char *format)
+{
+    if (image.save(path, format))
+        return true;
+    QTextStream(stderr) << "draw_images: cannot write " << path << '\n';
+    return false;
+}
+
+struct BuiltIn
+{
+    const char *name;    ///< of the file, without its extension
+    std::size_t colours; ///< at most
+    QImage image;
+};
+
+struct SideBarStep
+{
+    const char *builtIn; ///< first word of the built-in images' names
+    const char *bitmap;  ///< file name of the plain bitmap without its extension
+    const char *caption;
+};
+
+const SideBarStep sideBar[steps] = {
+    {"product", "product_output", "PRODUCT & OUTPUT"},
+    {"compiler", "compiler_command", "COMPILER COMMAND"},
+    {"search", "search_directories", "SEARCH DIRECTORIES"},
+    {"defines", "defines_switches", "DEFINES & SWITCHES"},
+    {"review", "review", "REVIEW"},
+};
+
+bool drawAll(const QString &root)
+{
+    const QString compiledIn = root + "/forms/images/";
+    bool written = true;
+    const BuiltIn pictures[] = {
+        {"logo", 893, makersLogo()},
+        {"bannerLeft", 80, bannerLeft(532, 36)},
+        {"bannerRight", 301, bannerRight(217, 32)},
+        {"bandLeft", 77, band(532, 19, ink, slate, grey, mist)},
+        {"bandRight", 126, band(220, 19, slate, ink, mist, grey)},
+        {"kovLogo", 517, productLogo(134, 66, "KOV", "FOR C")},
+        {"kovppLogo", 511, productLogo(165, 65, "KOV++", "FOR C++")},
+        {"upArrow", 11, arrow(true)},
+        {"downArrow", 11, arrow(false)},
+    };
+    for (const BuiltIn &picture : pictures) {
+        written &= write(withColours(picture.image, picture.colours),
+                         compiledIn + picture.name + ".xpm", "XPM");
+    }
+    for (const SideBarStep &step : sideBar) {
+        for (const bool highlighted : {false, true}) {
+            const QImage image =
+                withColours(sideBarButton(step.caption, highlighted), highlighted ? 89 : 4);
+            written &= write(
+                image, compiledIn + step.builtIn + (highlighted ? "On" : "Off") + ".xpm", "XPM");
+            written &=
+                write(image, root + "/images/" + step.bitmap + (highlighted ? "_shd" : "") + ".bmp",
+                      "BMP");
+        }
+    }
+    written &=
+        write(icon().convertToFormat(QImage::Format_RGBA8888), compiledIn + "icon.png", "PNG");
+    return written;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The XPM writer lists the colours in the order of a hash table.
+    QHashSeed::setDeterministicGlobalSeed();
+    QGuiApplication application(argc, argv);
+    const QStringList arguments = application.arguments();
+    if (arguments.size() != 2) {
+        QTextStream(stderr) << "usage: draw_images SOURCE_ROOT\n";
+        return 2;
+    }
+    if (!QFontDatabase::families().contains("Liberation Sans")) {
+        QTextStream(stderr) << "draw_images: the face Liberation Sans is not installed\n";
+        return 1;
+    }
+    return drawAll(arguments[1]) ? 0 : 1;
+}
