@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QTextBrowser>
+
+/// A read-only text that grows at its end. Everything is shown literally, never as markup.
+class LogBrowser : public QTextBrowser
+{
+    Q_OBJECT
+
+public:
+    explicit LogBrowser(QWidget *parent = nullptr);
+
+    /// Replaces the whole text.
+    void setText(const QString &text);
+    /// Adds \a text as a new paragraph, or in the last one when that is still empty, so that text
+    /// that ends with a line feed leaves no empty line before what is appended next.
+    void append(const QString &text);
+    /// Adds \a text right behind the last character.
+    void continueLine(const QString &text);
+};

@@ -1,0 +1,128 @@
+#include "app/calyx.h"
+#include "forms/log_browser.h"
+#include "generation/answers.h"
+#include "generation/generator_arguments.h"
+#include "generation/generator_process.h"
+#include "platform/paths.h"
+
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSaveFile>
+#include <QTextStream>
+
+namespace {
+
+struct LogFile
+{
+    const char *heading;
+    const char *name;
+};
+
+const LogFile logFiles[] = {
+    {"\n\nCommand Attempted:\n", "compile.bat"},
+    {"\n ---- stdout details ----\n", "stdout.log"},
+    {"\n ---- stderr details ----\n", "stderr.log"},
+};
+
+} // namespace
+
+void Calyx::accept()
+{
+    auto *process = new GeneratorProcess(this);
+    generatorProcess = process;
+    DetailsText->setText(QStringLiteral("Initialising Compiler Personality Generation ...\n"));
+    unfinishedLineOf = nullptr;
+    connect(process, &QProcess::readyReadStandardOutput, this, &Calyx::readFromStdout);
+    connect(process, &QProcess::finished, this, &Calyx::processExit);
+    connect(process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart) {
+            appendToDetails(
+                QStringLiteral("Compiler Personality Generation could not be executed: Please "
+                               "ensure Bexlor is set on the path.\n"));
+        }
+    });
+    process->startProgram(generatorArguments(answers()));
+    setFinishEnabled(Page4, false);
+}
+
+void Calyx::readFromStdout()
+{
+    auto *process = qobject_cast<GeneratorProcess *>(sender());
+    const QString text = process->readText();
+    if (text.isEmpty())
+        return;
+    // A read may end in the middle of a line; what follows belongs to the same line.
+    if (unfinishedLineOf == process)
+        DetailsText->continueLine(text);
+    else
+        DetailsText->append(text);
+    unfinishedLineOf = text.endsWith(QLatin1Char('\n')) ? nullptr : process;
+}
+
+void Calyx::appendToDetails(const QString &text)
+{
+    DetailsText->append(text);
+    unfinishedLineOf = nullptr;
+}
+
+void Calyx::processExit()
+{
+    // A run may end while a later one goes on, so the end is that of the sender.
+    const auto *process = qobject_cast<GeneratorProcess *>(sender());
+    if (process->exitStatus() != QProcess::NormalExit)
+        return;
+    SaveLogBtn->setEnabled(true);
+    if (process->exitCode() == 0) {
+        appendToDetails(QStringLiteral("Personality Generated Successfully!"));
+        setButtonText(QWizard::CancelButton, tr("Close"));
+        AddCompilerBtn->setEnabled(true);
+        return;
+    }
+    QMessageBox::about(nullptr, QStringLiteral("Calyx"),
+                       QStringLiteral("Personality Generation Failed!\nPlease check the details on "
+                                      "screen and try again."));
+    showFailureDetails();
+}
+
+void Calyx::showFailureDetails()
+{
+    for (const LogFile &file : logFiles) {
+        appendToDetails(QLatin1String(file.heading));
+        showLogFile(QLatin1String(file.name));
+    }
+}
+
+void Calyx::showLogFile(const QString &name)
+{
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly))
+        return;
+    QTextStream stream(&file);
+    stream.setEncoding(QStringConverter::System);
+    QString line;
+    while (stream.readLineInto(&line)) {
+        DetailsText->append(line);
+        DetailsText->append(QStringLiteral("\n"));
+    }
+}
+
+void Calyx::SaveLogBtn_clicked()
+{
+    QFileDialog dialog(this, QStringLiteral("Save Log File as .."),
+                       platform::hostPath(PersonDestEdit->text()),
+                       QStringLiteral("Log Files (*.txt *.log)"));
+    dialog.setObjectName(QStringLiteral("save log dialog"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    QSaveFile file(dialog.selectedFiles().value(0));
+    if (!file.open(QIODevice::WriteOnly))
+        return;
+    QTextStream stream(&file);
+    stream.setEncoding(QStringConverter::System);
+    stream << detailsText << '\n' << DetailsText->toPlainText();
+    stream.flush();
+    file.commit();
+}

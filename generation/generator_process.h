@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QProcess>
+#include <QStringDecoder>
+
+/// One run of the generator.
+class GeneratorProcess : public QProcess
+{
+    Q_OBJECT
+
+public:
+    explicit GeneratorProcess(QObject *parent);
+
+    /// Starts the program \a arguments[0] with the others as its arguments, without a shell, in the
+    /// current directory. The program is looked for along the PATH and then beside the wizard's
+    /// own. Reports a failure through errorOccurred().
+    void startProgram(const QStringList &arguments);
+
+    /// The standard output that has arrived since the last call, from the local encoding, with line
+    /// feeds as line ends. A character or a line end of which only the first bytes have arrived
+    /// waits for the rest.
+    QString readText();
+
+private:
+    QStringDecoder m_decoder {QStringDecoder::System};
+    bool m_carriageReturnWaits = false;
+};
