@@ -1,0 +1,50 @@
+#pragma once
+
+#include "bexlor/arguments.h"
+
+#include <QByteArray>
+
+/// The user's compiler, ready to be started: from the same command line everything about it is
+/// asked.
+struct Compiler
+{
+    QStringList command; ///< the program's path, its options, and the switches
+    QString outputFlag;
+    QString objectFlag;
+    QString defineFlag;
+    QString order;
+    QStringList defines;
+};
+
+/// The words of a command as it was typed into one field. The wizard puts quotes around a command
+/// with spaces, be it a path that holds them or a program with its options; \a isProgram tells
+/// which of the two it is.
+QStringList commandWords(const QString &command, bool (*isProgram)(const QString &word));
+
+/// The compiler of \a arguments, its program looked for like the command interpreter does. When
+/// there is no such program the first word stays as it was typed.
+Compiler findCompiler(const Arguments &arguments);
+
+/// The command that compiles \a source, in the given order. Where it names an output, that is
+/// \a object. A token without a trailing space is joined to the next one. An output flag that is
+/// empty leaves out the output's name too.
+QStringList compileCommand(const Compiler &compiler, const QString &source, const QString &object);
+
+/// \a command as one line that a command interpreter takes, words with spaces in double quotes.
+QString commandLine(const QStringList &command);
+
+/// How a program ended, and what it wrote.
+struct ProgramRun
+{
+    enum Ending { Exited, NotStarted, Crashed, TimedOut };
+    Ending ending = NotStarted;
+    int exitCode = -1;
+    QByteArray output;
+    QByteArray errors;
+
+    bool succeeded() const { return ending == Exited && exitCode == 0; }
+};
+
+/// Runs \a command in \a directory with nothing on its standard input and its messages in English,
+/// and waits until it ends. After half a minute it is ended.
+ProgramRun runProgram(const QStringList &command, const QString &directory);

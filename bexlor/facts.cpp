@@ -1,0 +1,44 @@
+#include "bexlor/facts.h"
+
+#include <QDir>
+
+QList<Macro> parseMacros(const QByteArray &listing)
+{
+    const QByteArray directive = "#define ";
+    QList<Macro> macros;
+    for (const QByteArray &text : listing.split('\n')) {
+        const QByteArray line = text.trimmed();
+        if (!line.startsWith(directive))
+            continue;
+        const QByteArray definition = line.mid(directive.size());
+        const qsizetype firstSpace = definition.indexOf(' ');
+        const qsizetype parenthesis = definition.indexOf('(');
+        const bool hasParameters = parenthesis >= 0 && (firstSpace < 0 || parenthesis < firstSpace);
+        qsizetype end = firstSpace;
+        if (hasParameters)
+            end = definition.indexOf(')', parenthesis) + 1;
+        if (end < 0)
+            end = definition.size();
+        macros.append({definition.left(end), definition.mid(end).trimmed()});
+    }
+    return macros;
+}
+
+QStringList parseSearchPath(const QByteArray &listing)
+{
+    const qsizetype start = listing.indexOf("#include \"...\" search starts here:");
+    const qsizetype end = listing.indexOf("End of search list.", start);
+    if (start < 0 || end < 0)
+        return {};
+    QStringList directories;
+    for (const QByteArray &line : listing.mid(start, end - start).split('\n')) {
+        // Directories are indented, headings are not.
+        if (!line.startsWith(' '))
+            continue;
+        const QString directory = QString::fromLocal8Bit(line.trimmed());
+        const QString canonical = QDir(directory).canonicalPath();
+        directories << (canonical.isEmpty() ? directory : canonical);
+    }
+    directories.removeDuplicates();
+    return directories;
+}
