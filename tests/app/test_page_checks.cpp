@@ -1,0 +1,224 @@
+#include "tests/support/wizard_test.h"
+
+#include <QCheckBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTest>
+
+namespace {
+
+const QString missing = "Destination folder does not exist please select a different folder.";
+const QString notOnPath = "Command specified is not on the path, please amend the path or fully "
+                          "qualify this command.";
+const QString specify = "Please complete the command as per the <specify> entries.";
+
+QColor textColour(const QLineEdit *edit)
+{
+    return edit->palette().color(QPalette::Text);
+}
+
+QStringList rows(const QListWidget *list)
+{
+    QStringList texts;
+    for (int row = 0; row < list->count(); ++row)
+        texts << list->item(row)->text();
+    return texts;
+}
+
+QString pick(const WizardUser &user, QPushButton *button, const QString &path)
+{
+    return withFileDialog([&] { user.click(button); }, path);
+}
+
+} // namespace
+
+class TestPageChecks : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void checksTheDestination_data()
+    {
+        QTest::addColumn<QString>("destination");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("exists");
+        QTest::addColumn<bool>("next");
+        QTest::newRow("folder") << "..\\out"
+                                << "mine" << true << true;
+        QTest::newRow("file") << "..\\tools\\cc"
+                              << "mine" << true << true;
+        QTest::newRow("no name") << "..\\out"
+                                 << "" << true << false;
+        QTest::newRow("name of spaces") << "..\\out"
+                                        << "  " << true << true;
+        QTest::newRow("missing") << "..\\oat"
+                                 << "mine" << false << false;
+        QTest::newRow("not trimmed") << "..\\out "
+                                     << "mine" << false << false;
+        QTest::newRow("empty") << ""
+                               << "mine" << false << false;
+    }
+    void checksTheDestination()
+    {
+        QFETCH(QString, destination);
+        QFETCH(QString, name);
+        QFETCH(bool, exists);
+        const ProgramFolder folder;
+        const WizardUser user;
+        user.type(user->PersonDestEdit, destination);
+        user.type(user->PersonNameEdit, name);
+        QTEST(user.nextIsEnabled(), "next");
+        QCOMPARE(textColour(user->PersonDestEdit), QColor(exists ? Qt::black : Qt::red));
+        QCOMPARE(user->DestErrorLabel->text(), exists ? QString() : missing);
+        QCOMPARE(user->PersonDestEdit->toolTip(),
+                 exists ? "Destination folder for the Personality." : missing);
+    }
+
+    void checksAgainOnEveryKey()
+    {
+        const ProgramFolder folder;
+        const WizardUser user;
+        user.answerFirstPages();
+        user->showPage(user->Page0);
+        QVERIFY(QDir().rmdir("../out"));
+        QTest::keyRelease(user->PersonNameEdit, Qt::Key_Shift);
+        QVERIFY(!user.nextIsEnabled());
+
+        user->showPage(user->Page1);
+        QFile::remove("../tools/cc");
+        QTest::keyRelease(user->CmpExeEdit, Qt::Key_Shift);
+        QVERIFY(!user.nextIsEnabled());
+    }
+
+    void checksTheCommand_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QString>("problem"); // empty: none
+        QTest::newRow("found") << "cc -c"
+                               << "";
+        QTest::newRow("not found") << "dd -c" << notOnPath;
+        QTest::newRow("placeholder") << "cc <specify device>" << specify;
+        QTest::newRow("not found, placeholder") << "dd <specify device>" << notOnPath;
+    }
+    void checksTheCommand()
+    {
+        QFETCH(QString, command);
+        QFETCH(QString, problem);
+        const ProgramFolder folder;
+        const WizardUser user;
+        user->showPage(user->Page1);
+        user.type(user->CmpExeEdit, command);
+        QCOMPARE(user.nextIsEnabled(), problem.isEmpty());
+        QCOMPARE(user->CmpPathErrorLabel->text(), problem);
+        QCOMPARE(textColour(user->CmpExeEdit), QColor(problem.isEmpty() ? Qt::black : Qt::red));
+        QCOMPARE(user->CmpExeEdit->toolTip(),
+                 problem.isEmpty() ? "Specify the command required to invoke the compiler from the "
+                                     "command line."
+                                   : problem);
+        // An emptied field keeps its marking, but is no command.
+        user->CmpExeEdit->clear();
+        QVERIFY(!user.nextIsEnabled());
+        QCOMPARE(user->CmpPathErrorLabel->text(), problem);
+    }
+
+    void opensTheLaterPagesForGood()
+    {
+        const ProgramFolder folder;
+        const WizardUser user;
+        const auto nextOn = [&user](WizardPage *page) {
+            user->showPage(page);
+            return user.nextIsEnabled();
+        };
+        QVERIFY(!nextOn(user->Page2) && !nextOn(user->Page3));
+        user->CmpExeEdit->setText("cc");
+        QVERIFY(nextOn(user->Page1) && nextOn(user->Page2) && nextOn(user->Page3));
+        user->CmpExeEdit->setText("dd");
+        QVERIFY(!nextOn(user->Page1) && nextOn(user->Page2) && nextOn(user->Page3));
+    }
+
+    void followsEveryEditInThePreview()
+    {
+        const ProgramFolder folder;
+        const WizardUser user;
+        user->showPage(user->Page1);
+        user.type(user->CmpExeEdit, "cc");
+        user.type(user->CmpExeFlagEdit, "-o");
+        user.click(user->CmpExeFlagChkBox);
+        user.type(user->CmpDefFlagEdit, "-D");
+        user.type(user->CmpCmpFlagEdit, "<b>");
+        QCOMPARE(user->CmpCmdOrder->text(), "cc -o <exe file> -DXXX <b> <src file> ");
+        user->CmpOrderListBox->setCurrentRow(5);
+        user.click(user->CmdOrderUpBtn);
+        user.click(user->CmdOrderDwnBtn);
+        user.click(user->CmdOrderDwnBtn);
+        user.click(user->CmdOrderUpBtn);
+        user.click(user->CmdOrderUpBtn);
+        user.click(user->CmpDefFlagChkBox);
+        QCOMPARE(user->CmpOrderListBox->currentRow(), 3);
+        QCOMPARE(user->CmpCmdOrder->text(), "cc -o <exe file> <src file> -D XXX <b> ");
+        QCOMPARE(user->SearchCompileCmdTxt->text(),
+                 "Compile Command - cc -o <exe file> <src file> -D XXX <b> ");
+        QCOMPARE(user->DefSwitchCompileCmdTxt->text(), user->SearchCompileCmdTxt->text());
+        QCOMPARE(user->CmpCmdOrder->textFormat(), Qt::PlainText);
+    }
+
+    void givesACrossCompilerNoOutputFlag()
+    {
+        const ProgramFolder folder;
+        const WizardUser user;
+        user->showPage(user->Page1);
+        user.type(user->CmpExeFlagEdit, "-o");
+        user.click(user->CmpExeFlagChkBox);
+        user.click(user->CrossCmpCheckBox);
+        QVERIFY(user->CmpExeFlagEdit->text().isEmpty() && !user->CmpExeFlagEdit->isEnabled());
+        QVERIFY(!user->CmpExeFlagChkBox->isChecked() && !user->CmpExeFlagChkBox->isEnabled());
+        user.click(user->CrossCmpCheckBox);
+        QVERIFY(user->CmpExeFlagEdit->text().isEmpty() && user->CmpExeFlagEdit->isEnabled());
+        QVERIFY(!user->CmpExeFlagChkBox->isChecked() && user->CmpExeFlagChkBox->isEnabled());
+    }
+
+    void listsHeaderDirectories()
+    {
+        const ProgramFolder folder;
+        const WizardUser user;
+        user->showPage(user->Page2);
+        QListWidget *list = user->CmpHdrDirListBox;
+        const QString out = folder.path("out").replace('/', '\\');
+        const QString tools = folder.path("tools").replace('/', '\\');
+        pick(user, user->CmpHdrDirAddBtn, folder.path("out"));
+        QCOMPARE(pick(user, user->CmpHdrDirAddBtn, folder.path("out")), folder.path("out"));
+        pick(user, user->CmpHdrDirAddBtn, QString());
+        QCOMPARE(rows(list), QStringList({out, out}));
+
+        list->setCurrentRow(-1);
+        pick(user, user->CmpHdrDirEditBtn, folder.path("tools"));
+        user.click(user->CmpHdrDirDeleteBtn);
+        QCOMPARE(rows(list), QStringList({out, out}));
+
+        list->setCurrentRow(1);
+        QCOMPARE(pick(user, user->CmpHdrDirEditBtn, folder.path("tools")), folder.path("out"));
+        QCOMPARE(rows(list), QStringList({out, tools}));
+        list->setCurrentRow(0);
+        user.click(user->CmpHdrDirDeleteBtn);
+        QCOMPARE(rows(list), QStringList {tools});
+    }
+
+    void browsesForTheDestination()
+    {
+        const ProgramFolder folder;
+        const WizardUser user;
+        user.type(user->PersonNameEdit, "mine");
+        pick(user, user->PersonDestBrowseBtn, folder.path("out"));
+        QCOMPARE(user->PersonDestEdit->text(), folder.path("out").replace('/', '\\'));
+        QVERIFY(user.nextIsEnabled());
+        QCOMPARE(pick(user, user->PersonDestBrowseBtn, QString()), folder.path("out"));
+        QCOMPARE(user->PersonDestEdit->text(), QString());
+        QVERIFY(!user.nextIsEnabled());
+    }
+};
+
+QTEST_MAIN(TestPageChecks)
+#include "test_page_checks.moc"

@@ -1,0 +1,70 @@
+#include "bexlor/arguments.h"
+
+#include <QTest>
+
+class TestArguments : public QObject
+{
+    Q_OBJECT
+
+private:
+    static QStringList plain()
+    {
+        return {"kov", "cmp", "cc", "-o", "-c", "-D", ".o", "%c %s ", "-op", "out\\x.p_c"};
+    }
+
+private slots:
+    void takesTheWholeList()
+    {
+        const std::optional<Arguments> arguments = parseArguments(
+            {"kovpp",  "ccmp",         "\"cc -m32\"", "",         "-c",   "",      "",
+             "%c %s ", "-i",           "..\\a b",     "-i",       "-op",  "-op",   "x.p_c",
+             "-xd",    "A, B=(1,2) ,", "-xs",         "-x -y,-z", "-tpl", "..\\t", "-fi",
+             "f",      "-sub",         "s",           "-rfs"});
+        QVERIFY(arguments);
+        QVERIFY(arguments->isCpp && arguments->crossCompiler && arguments->reduceFileSize);
+        QCOMPARE(arguments->headerDirectories, QStringList({"../a b", "-op"}));
+        QCOMPARE(arguments->personality, "x.p_c");
+        QCOMPARE(arguments->defines, QStringList({"A", "B=(1,2)"}));
+        QCOMPARE(arguments->switches, QStringList({"-x -y", "-z"}));
+        QCOMPARE(arguments->templateFile, "../t");
+        QCOMPARE(arguments->forceIncludeFile + arguments->substituteHeaders, "fs");
+    }
+
+    void refusesOtherLists_data()
+    {
+        QTest::addColumn<QStringList>("list");
+        QTest::newRow("none") << QStringList();
+        QTest::newRow("too short") << plain().mid(0, 9);
+        QTest::newRow("no output") << plain().mid(0, 8);
+        QTest::newRow("unknown product") << QStringList("c") + plain().mid(1);
+        QTest::newRow("unknown option") << plain() + QStringList {"-x", "y"};
+        QTest::newRow("option without a value") << plain() + QStringList {"-xd"};
+        QTest::newRow("wrong order") << plain() + QStringList {"-rfs", "-xd", "A"};
+    }
+    void refusesOtherLists()
+    {
+        QVERIFY(parseArguments(plain()));
+        QFETCH(QStringList, list);
+        QVERIFY(!parseArguments(list));
+    }
+
+    void splitsCommaLists_data()
+    {
+        QTest::addColumn<QString>("list");
+        QTest::addColumn<QStringList>("items");
+        QTest::newRow("spaces") << " ONE,TWO=2, THREE=3 "
+                                << QStringList {"ONE", "TWO=2", "THREE=3"};
+        QTest::newRow("parameters") << "F(a,b)=a,G" << QStringList {"F(a,b)=a", "G"};
+        QTest::newRow("string") << "S=\"a,(b\",G" << QStringList {"S=\"a,(b\"", "G"};
+        QTest::newRow("stray parenthesis") << "A=),B" << QStringList {"A=)", "B"};
+        QTest::newRow("nothing") << ",, ," << QStringList();
+    }
+    void splitsCommaLists()
+    {
+        QFETCH(QString, list);
+        QTEST(splitCommaList(list), "items");
+    }
+};
+
+QTEST_APPLESS_MAIN(TestArguments)
+#include "test_arguments.moc"

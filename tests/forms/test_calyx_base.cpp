@@ -1,0 +1,223 @@
+#include "forms/log_browser.h"
+#include "tests/support/wizard_test.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRandomGenerator>
+#include <QStyleOptionButton>
+#include <QTest>
+#include <QTextEdit>
+
+namespace {
+
+// A form whose texts can be set again from outside.
+class Form : public CalyxBase
+{
+public:
+    using CalyxBase::languageChange;
+};
+
+QSize room(const QAbstractButton *button, QStyle::SubElement contents)
+{
+    QStyleOptionButton option;
+    option.initFrom(button);
+    return button->style()->subElementRect(contents, &option, button).size();
+}
+
+QString cutOff(const QWidget *widget, const QSize &needed, const QSize &available)
+{
+    if (needed.width() <= available.width() && needed.height() <= available.height())
+        return QString();
+    return QString("%1 needs %2 x %3 and has %4 x %5\n")
+        .arg(widget->objectName())
+        .arg(needed.width())
+        .arg(needed.height())
+        .arg(available.width())
+        .arg(available.height());
+}
+
+} // namespace
+
+class TestCalyxBase : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void showsTheWholePageInTheGivenSize()
+    {
+        const WizardUser user;
+        QCOMPARE(user->size(), QSize(768, 455));
+        QCOMPARE(user->focusWidget(), user->KOVRadioButton);
+        for (const int id : user->pageIds()) {
+            user->showPage(qobject_cast<WizardPage *>(user->page(id)));
+            QTest::qWait(20);
+            QCOMPARE(user->size(), QSize(768, 455));
+            QVERIFY(
+                QRect(QPoint(), QSize(760, 380))
+                == (user->currentPage()->visibleRegion().boundingRect() & QRect(0, 0, 760, 380)));
+        }
+    }
+
+    void hasRoomForEveryText()
+    {
+        const WizardUser user;
+        user->DestErrorLabel->setText(
+            "Destination folder does not exist please select a different folder.");
+        user->CmpPathErrorLabel->setText("Command specified is not on the path, please amend the "
+                                         "path or fully qualify this command.");
+        QString problems;
+        int texts = 0;
+        for (const QLabel *label :
+             user->findChildren<QLabel *>(QRegularExpression("^text|Error"))) {
+            QSize needed = label->sizeHint();
+            if (label->wordWrap())
+                needed = QSize(0, label->heightForWidth(label->width()));
+            problems += cutOff(label, needed, label->size());
+            ++texts;
+        }
+        for (const QAbstractButton *button : user->findChildren<QAbstractButton *>()) {
+            if (button->text().isEmpty())
+                continue;
+            const bool isCheckBox = qobject_cast<const QCheckBox *>(button);
+            const QSize needed = button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
+            problems += cutOff(button, needed,
+                               room(button, isCheckBox ? QStyle::SE_CheckBoxContents
+                                                       : QStyle::SE_PushButtonContents));
+            ++texts;
+        }
+        QVERIFY2(problems.isEmpty(), qPrintable(problems));
+        QVERIFY2(texts >= 33, qPrintable(QString::number(texts)));
+    }
+
+    void leadsBackThroughTheFixedOrder()
+    {
+        const WizardUser user;
+        const QList<WizardPage *> pages {user->Page0, user->Page1, user->Page2, user->Page3,
+                                         user->Page4};
+        QRandomGenerator random(1);
+        for (int jump = 0; jump < 50; ++jump) {
+            const int target = random.bounded(5);
+            user->showPage(pages[target]);
+            QCOMPARE(user->currentPage(), pages[target]);
+            QCOMPARE(user->button(QWizard::BackButton)->isEnabled(), target > 0);
+            if (target > 0) {
+                user.press(QWizard::BackButton);
+                QCOMPARE(user->currentPage(), pages[target - 1]);
+            }
+        }
+    }
+
+    void movesTheFocusInReadingOrder()
+    {
+        const WizardUser user;
+        user->showPage(user->Page1);
+        const QList<QWidget *> expected {user->ExeCommandBtn,     user->CmpExeEdit,
+                                         user->CrossCmpCheckBox,  user->CmpExeFlagEdit,
+                                         user->CmpExeFlagChkBox,  user->CmpDefFlagEdit,
+                                         user->CmpDefFlagChkBox,  user->CmpCmpFlagEdit,
+                                         user->CmpObjExtFlagEdit, user->ReduceFileSizeCheckBox,
+                                         user->CmpOrderListBox,   user->CmdOrderUpBtn,
+                                         user->CmdOrderDwnBtn,    user->P1_PrdctBtn,
+                                         user->P1_CmpBtn,         user->P1_SrchBtn,
+                                         user->P1_DefBtn,         user->P1_RevBtn};
+        user->ExeCommandBtn->setFocus();
+        QList<QWidget *> visited;
+        for (int i = 0; i < expected.size(); ++i) {
+            visited << user->focusWidget();
+            QTest::keyClick(user->focusWidget(), Qt::Key_Tab);
+        }
+        QCOMPARE(visited, expected);
+    }
+
+    void startsEmpty()
+    {
+        const Form form;
+        QVERIFY(form.KOVRadioButton->isChecked() && !form.KOVPPRadioButton->isChecked());
+        for (const QLineEdit *edit : form.findChildren<QLineEdit *>())
+            QVERIFY(edit->text().isEmpty());
+        for (const QCheckBox *box : form.findChildren<QCheckBox *>())
+            QVERIFY(!box->isChecked());
+        QStringList disabled;
+        for (const QPushButton *button : form.findChildren<QPushButton *>()) {
+            if (!button->isEnabled() && button->window() == &form && button->parent() == form.Page4)
+                disabled << button->objectName();
+        }
+        QCOMPARE(disabled, QStringList({"SaveLogBtn", "AddCompilerBtn"}));
+    }
+
+    void setsItsTextsAgain()
+    {
+        Form form;
+        form.CmpOrderListBox->insertItem(0, form.CmpOrderListBox->takeItem(5));
+        form.CmpOrderListBox->addItem("extra");
+        form.DestErrorLabel->setText("wrong");
+        form.languageChange();
+        QStringList order;
+        for (int row = 0; row < form.CmpOrderListBox->count(); ++row)
+            order << form.CmpOrderListBox->item(row)->text();
+        QCOMPARE(order, QStringList({"Exe Command", "Output Flag", "<exe file>", "Define Flag",
+                                     "Object Flag", "<src file>"}));
+        QCOMPARE(form.DestErrorLabel->text(), QString());
+        QCOMPARE(form.CmpCmdOrder->text(), "          <exe> <src>");
+    }
+
+    void namesItsImageButtons()
+    {
+        const Form form;
+        for (const QPushButton *button :
+             form.findChildren<QPushButton *>(QRegularExpression("^(P\\d_.*|CmdOrder.*)Btn$")))
+            QVERIFY2(!button->accessibleName().isEmpty() && !button->icon().isNull(),
+                     qPrintable(button->objectName()));
+        QCOMPARE(form.P3_DefBtn->accessibleName(), "Defines & Switches");
+        QCOMPARE(form.CmdOrderUpBtn->accessibleName(), "Move up");
+    }
+
+    void showsTheSamePicturesAsTheBitmaps_data()
+    {
+        QTest::addColumn<QPixmap>("builtIn");
+        QTest::addColumn<QString>("bitmap");
+        const Form form;
+        QTest::newRow("product") << form.productOffImage << "product_output";
+        QTest::newRow("product on") << form.productOnImage << "product_output_shd";
+        QTest::newRow("compiler") << form.compilerOffImage << "compiler_command";
+        QTest::newRow("compiler on") << form.compilerOnImage << "compiler_command_shd";
+        QTest::newRow("search") << form.searchOffImage << "search_directories";
+        QTest::newRow("search on") << form.searchOnImage << "search_directories_shd";
+        QTest::newRow("defines") << form.definesOffImage << "defines_switches";
+        QTest::newRow("defines on") << form.definesOnImage << "defines_switches_shd";
+        QTest::newRow("review") << form.reviewOffImage << "review";
+        QTest::newRow("review on") << form.reviewOnImage << "review_shd";
+    }
+    void showsTheSamePicturesAsTheBitmaps()
+    {
+        const ProgramFolder folder;
+        QFETCH(QPixmap, builtIn);
+        QFETCH(QString, bitmap);
+        const QImage file(folder.path("images/" + bitmap + ".bmp"));
+        QCOMPARE(file.size(), QSize(175, 23));
+        QCOMPARE(builtIn.toImage().convertToFormat(QImage::Format_RGB32),
+                 file.convertToFormat(QImage::Format_RGB32));
+    }
+
+    void hasImagesOfTheGivenSizes()
+    {
+        const Form form;
+        QCOMPARE(form.iconImage.size(), QSize(32, 32));
+        QCOMPARE(form.logoImage.size(), QSize(169, 54));
+        QCOMPARE(form.bannerLeftImage.size(), QSize(532, 36));
+        QCOMPARE(form.bannerRightImage.size(), QSize(217, 32));
+        QCOMPARE(form.bandLeftImage.size(), QSize(532, 19));
+        QCOMPARE(form.bandRightImage.size(), QSize(220, 19));
+        QCOMPARE(form.kovLogoImage.size(), QSize(134, 66));
+        QCOMPARE(form.kovppLogoImage.size(), QSize(165, 65));
+        QCOMPARE(form.upArrowImage.size(), QSize(18, 18));
+        QCOMPARE(form.downArrowImage.size(), QSize(18, 18));
+    }
+};
+
+QTEST_MAIN(TestCalyxBase)
+#include "test_calyx_base.moc"

@@ -1,0 +1,62 @@
+#include "forms/log_browser.h"
+
+#include <QScrollBar>
+#include <QTest>
+
+class TestLogBrowser : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void startsParagraphsWhereTheLastHasText_data()
+    {
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("second");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("text after text") << "one"
+                                         << "two"
+                                         << "one\ntwo";
+        QTest::newRow("text after a line feed") << "one\n"
+                                                << "two"
+                                                << "one\ntwo";
+        QTest::newRow("text after an empty line") << "one\n\n"
+                                                  << "two"
+                                                  << "one\n\ntwo";
+        QTest::newRow("a heading with line feeds") << "one\n"
+                                                   << "\n\ntwo\n"
+                                                   << "one\n\n\ntwo\n";
+        QTest::newRow("the first text") << ""
+                                        << "two"
+                                        << "two";
+        QTest::newRow("markup") << "<b>one</b>"
+                                << "&lt;<i>"
+                                << "<b>one</b>\n&lt;<i>";
+    }
+    void startsParagraphsWhereTheLastHasText()
+    {
+        QFETCH(QString, first);
+        QFETCH(QString, second);
+        LogBrowser browser;
+        browser.setText(first);
+        browser.append(second);
+        QTEST(browser.toPlainText(), "shown");
+    }
+
+    void keepsThePlaceOfAReader()
+    {
+        LogBrowser browser;
+        browser.resize(200, 100);
+        browser.show();
+        browser.setText(QString("line\n").repeated(100));
+        QScrollBar *scrollBar = browser.verticalScrollBar();
+        scrollBar->setValue(scrollBar->maximum());
+        browser.append(QString("line\n").repeated(100));
+        QCOMPARE(scrollBar->value(), scrollBar->maximum());
+        scrollBar->setValue(10);
+        browser.append(QString("line\n").repeated(100));
+        QCOMPARE(scrollBar->value(), 10);
+    }
+};
+
+QTEST_MAIN(TestLogBrowser)
+#include "test_log_browser.moc"

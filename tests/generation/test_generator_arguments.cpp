@@ -1,0 +1,93 @@
+#include "generation/generator_arguments.h"
+
+#include <QTest>
+#include <functional>
+
+using Change = std::function<void(Answers &)>;
+Q_DECLARE_METATYPE(Change)
+
+class TestGeneratorArguments : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void listsTheAnswers_data()
+    {
+        QTest::addColumn<Change>("change");
+        QTest::addColumn<QString>("expected"); // the arguments, each followed by "|"
+        const auto row = [](const char *name, const QString &expected, const Change &change) {
+            QTest::newRow(name) << change << expected;
+        };
+        row("plain", "Bexlor.exe|kov|cmp|cc|-o|-c|-D|.obj|%c %o%e %d%j %s |-i|\\inc|-op|D\\N.p_c|",
+            [](Answers &) {});
+        row("nothing answered", "Bexlor.exe|kov|cmp||||||%c %o%e %d%j %s |-op|\\.p_c|",
+            [](Answers &answers) {
+                const QStringList order = answers.compile.order;
+                answers = Answers();
+                answers.productCode = "kov";
+                answers.compile.order = order;
+            });
+        row("everything answered",
+            "Bexlor.exe|kovpp|ccmp|\"cc -m32\"|-o|-c|-D|.o|%c %o %e %d %j %s |-i|\\b|-i|\\a|-op|"
+            "D\\N.p_c|-xd|A=1,B|-xs|-x,-y,|-tpl|..\\TemplatePersonalities\\t|-fi|\\f\\f|-sub|"
+            "..\\SubstituteHeaders\\s|-rfs|",
+            [](Answers &answers) {
+                answers.productCode = "kovpp";
+                answers.crossCompiler = true;
+                answers.compile.command = "cc -m32";
+                answers.compile.spaceAfterOutputFlag = true;
+                answers.compile.spaceAfterDefineFlag = true;
+                answers.objectExtension = ".o";
+                answers.headerDirectories = QStringList {"\\b", "\\a"};
+                answers.name = "N.p_c";
+                answers.defines = "A=1\n\nB";
+                answers.switches = "-x\n-y\n";
+                answers.templatePersonalityFile = "t";
+                answers.forceIncludeFile = "\\f\\f";
+                answers.substituteHeaders = "s";
+                answers.reduceFileSize = true;
+            });
+        row("a force-include file of the folder",
+            "Bexlor.exe|kov|cmp|cc|-o|-c|-D|.obj|%c %o%e %d%j %s |-i|\\inc|-op|D\\N.p_c|-fi|"
+            "..\\ForceIncludeFiles\\f|",
+            [](Answers &answers) { answers.forceIncludeFile = "f"; });
+    }
+    void listsTheAnswers()
+    {
+        QFETCH(Change, change);
+        Answers answers;
+        answers.productCode = "kov";
+        answers.destination = "D";
+        answers.name = "N";
+        answers.compile = {defaultOrder(), "cc", "-o", false, "-D", false, "-c"};
+        answers.objectExtension = "obj";
+        answers.headerDirectories = QStringList {"\\inc"};
+        change(answers);
+        const QStringList arguments = generatorArguments(answers);
+        QTEST(arguments.join('|') + '|', "expected");
+    }
+
+    void quotesCommandsWithSpacesOnce_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QString>("argument");
+        QTest::newRow("no space") << "cc"
+                                  << "cc";
+        QTest::newRow("space") << "cc -m32"
+                               << "\"cc -m32\"";
+        QTest::newRow("begins with a quote") << "\"c c\" -m32"
+                                             << "\"c c\" -m32";
+        QTest::newRow("ends with a quote") << "cc -D\"a b\""
+                                           << "cc -D\"a b\"";
+    }
+    void quotesCommandsWithSpacesOnce()
+    {
+        QFETCH(QString, command);
+        Answers answers;
+        answers.compile.command = command;
+        QTEST(generatorArguments(answers).at(3), "argument");
+    }
+};
+
+QTEST_APPLESS_MAIN(TestGeneratorArguments)
+#include "test_generator_arguments.moc"

@@ -1,0 +1,139 @@
+#include "tests/support/wizard_test.h"
+
+#include "forms/form_font.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+
+ProgramFolder::ProgramFolder()
+    : m_previousDirectory(QDir::currentPath()), m_previousPath(qgetenv("PATH"))
+{
+    const QDir folder(m_folder.path());
+    for (const char *name : {"bin", "tools", "images", "out"})
+        folder.mkdir(QLatin1String(name));
+    for (const QString &image : QDir(QStringLiteral(SOURCE_FOLDER "/images")).entryList({"*.bmp"}))
+        QFile::copy(QStringLiteral(SOURCE_FOLDER "/images/") + image, path("images/" + image));
+    QFile::copy(QStringLiteral(STAND_IN_GENERATOR), path("tools/Bexlor.exe"));
+    write("tools/cc", "");
+    QDir::setCurrent(path("bin"));
+    qputenv("PATH", path("tools").toLocal8Bit());
+    instruct("");
+}
+
+ProgramFolder::~ProgramFolder()
+{
+    QDir::setCurrent(m_previousDirectory);
+    qputenv("PATH", m_previousPath);
+}
+
+QString ProgramFolder::path(const QString &name) const
+{
+    return m_folder.filePath(name);
+}
+
+QString ProgramFolder::read(const QString &name) const
+{
+    QFile file(path(name));
+    return file.open(QIODevice::ReadOnly) ? QString::fromLocal8Bit(file.readAll()) : QString();
+}
+
+void ProgramFolder::write(const QString &name, const QByteArray &content) const
+{
+    QFile file(path(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+void ProgramFolder::instruct(const QByteArray &instructions)
+{
+    qputenv("STAND_IN", instructions);
+}
+
+WizardUser::WizardUser()
+{
+    QApplication::setStyle(QStringLiteral("windows"));
+    QApplication::setFont(formFont());
+    m_wizard = std::make_unique<Calyx>();
+    m_wizard->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_wizard.get()));
+}
+
+void WizardUser::click(QWidget *widget) const
+{
+    QTest::mouseClick(widget, Qt::LeftButton);
+}
+
+void WizardUser::press(QWizard::WizardButton button) const
+{
+    click(m_wizard->button(button));
+}
+
+void WizardUser::type(QWidget *edit, const QString &text) const
+{
+    edit->setFocus();
+    QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(edit, Qt::Key_Delete);
+    QTest::keyClicks(edit, text);
+}
+
+bool WizardUser::nextIsEnabled() const
+{
+    return m_wizard->button(QWizard::NextButton)->isEnabled();
+}
+
+bool WizardUser::finishIsEnabled() const
+{
+    return m_wizard->button(QWizard::FinishButton)->isEnabled();
+}
+
+void WizardUser::answerFirstPages() const
+{
+    type(m_wizard->PersonDestEdit, "..\\out");
+    type(m_wizard->PersonNameEdit, "mine");
+    press(QWizard::NextButton);
+    type(m_wizard->CmpExeEdit, "cc");
+}
+
+void WizardUser::walkToReview() const
+{
+    answerFirstPages();
+    for (int page = 1; page < 4; ++page)
+        press(QWizard::NextButton);
+}
+
+bool withDialog(const std::function<void()> &action, const std::function<void(QWidget *)> &answer)
+{
+    bool opened = false;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        QWidget *dialog = QApplication::activeModalWidget();
+        if (!dialog || opened)
+            return;
+        opened = true;
+        answer(dialog);
+    });
+    timer.start(10);
+    action();
+    return opened;
+}
+
+QString withFileDialog(const std::function<void()> &action, const QString &path)
+{
+    QString folder;
+    withDialog(action, [&](QWidget *widget) {
+        auto *dialog = qobject_cast<QFileDialog *>(widget);
+        folder = dialog->directory().path();
+        const bool isFolder = QFileInfo(path).isDir();
+        if (isFolder)
+            dialog->setDirectory(path);
+        dialog->findChild<QLineEdit *>("fileNameEdit")->setText(isFolder ? QString() : path);
+        QDialog *anyDialog = dialog;
+        path.isEmpty() ? anyDialog->reject() : anyDialog->accept();
+    });
+    return folder;
+}

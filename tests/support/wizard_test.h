@@ -1,0 +1,66 @@
+#pragma once
+
+#include "app/calyx.h"
+
+#include <QTemporaryDir>
+#include <functional>
+#include <memory>
+
+class QLineEdit;
+
+/// A program folder of its own for one test, which is the working directory while it lives. On the
+/// PATH are a compiler "cc" and the stand-in generator.
+class ProgramFolder
+{
+public:
+    ProgramFolder();
+    ~ProgramFolder();
+
+    /// The path of \a name in the folder, with slashes.
+    QString path(const QString &name) const;
+    QString read(const QString &name) const;
+    void write(const QString &name, const QByteArray &content) const;
+    /// What the stand-in generator does from now on, see there.
+    static void instruct(const QByteArray &instructions);
+
+private:
+    QTemporaryDir m_folder;
+    QString m_previousDirectory;
+    QByteArray m_previousPath;
+};
+
+/// A wizard on the screen, and what a user does with it.
+class WizardUser
+{
+public:
+    /// Opens the wizard in the current directory.
+    WizardUser();
+
+    Calyx *operator->() const { return m_wizard.get(); }
+    Calyx *wizard() const { return m_wizard.get(); }
+    /// Destroys the wizard.
+    void destroy() { m_wizard.reset(); }
+
+    void click(QWidget *widget) const;
+    void press(QWizard::WizardButton button) const;
+    /// Replaces the text of \a edit by typing.
+    void type(QWidget *edit, const QString &text) const;
+    bool nextIsEnabled() const;
+    bool finishIsEnabled() const;
+
+    /// Answers the first page with the working directory and a name, and the second with "cc".
+    void answerFirstPages() const;
+    /// The same, and goes on to the review.
+    void walkToReview() const;
+
+private:
+    std::unique_ptr<Calyx> m_wizard;
+};
+
+/// Does \a action and gives the modal dialog that it opens to \a answer, which must close it. False
+/// when none was opened.
+bool withDialog(const std::function<void()> &action, const std::function<void(QWidget *)> &answer);
+
+/// Does \a action and chooses \a path in the file dialog that it opens; an empty path cancels the
+/// dialog. Returns the folder that the dialog opened in, empty when there was none.
+QString withFileDialog(const std::function<void()> &action, const QString &path);
