@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSaveFile>
+#include <QTextBlock>
 #include <QTextStream>
 
 namespace {
@@ -25,6 +26,10 @@ const LogFile logFiles[] = {
     {"\n ---- stdout details ----\n", "stdout.log"},
     {"\n ---- stderr details ----\n", "stderr.log"},
 };
+
+// A line is laid out anew with every read that makes it longer, so that one without end would
+// freeze the window; beyond this many characters it is shown in pieces.
+const int longestLine = 100'000;
 
 } // namespace
 
@@ -58,7 +63,9 @@ void Calyx::readFromStdout()
         DetailsText->continueLine(text);
     else
         DetailsText->append(text);
-    unfinishedLineOf = text.endsWith(QLatin1Char('\n')) ? nullptr : process;
+    const QTextBlock lastLine = DetailsText->document()->lastBlock();
+    const bool goesOn = !text.endsWith(QLatin1Char('\n')) && lastLine.length() < longestLine;
+    unfinishedLineOf = goesOn ? process : nullptr;
 }
 
 void Calyx::appendToDetails(const QString &text)

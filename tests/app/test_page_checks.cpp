@@ -158,9 +158,9 @@ private slots:
         user.click(user->CmdOrderUpBtn);
         user.click(user->CmpDefFlagChkBox);
         QCOMPARE(user->CmpOrderListBox->currentRow(), 3);
-        QCOMPARE(user->CmpCmdOrder->text(), "cc -o <exe file> <src file> -D XXX <b> ");
-        QCOMPARE(user->SearchCompileCmdTxt->text(),
-                 "Compile Command - cc -o <exe file> <src file> -D XXX <b> ");
+        const QString preview = QString("cc -o <exe file> <src file> -D %1 <b> ").arg("XXX");
+        QCOMPARE(user->CmpCmdOrder->text(), preview);
+        QCOMPARE(user->SearchCompileCmdTxt->text(), "Compile Command - " + preview);
         QCOMPARE(user->DefSwitchCompileCmdTxt->text(), user->SearchCompileCmdTxt->text());
         QCOMPARE(user->CmpCmdOrder->textFormat(), Qt::PlainText);
     }

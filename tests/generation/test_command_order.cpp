@@ -25,8 +25,8 @@ private slots:
                                  << "cc -o<exe file> -DXXX -c <src file> "
                                  << "%c %o%e %d%j %s ";
         QTest::newRow("spaces after both flags")
-            << defaultOrder() << true << true << "cc -o <exe file> -D XXX -c <src file> "
-            << "%c %o %e %d %j %s ";
+            << defaultOrder() << true << true
+            << QString("cc -o <exe file> -D %1 -c <src file> ").arg("XXX") << "%c %o %e %d %j %s ";
         QTest::newRow("space after the output flag only")
             << defaultOrder() << true << false << "cc -o <exe file> -DXXX -c <src file> "
             << "%c %o %e %d%j %s ";
