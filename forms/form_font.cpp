@@ -7,16 +7,20 @@
 
 namespace {
 
-// The rectangles were drawn for a face in which the lower-case alphabet is 12.73 ems wide, as it is
-// in Arial (advance widths of its horizontal metrics table). Rounding to whole pixels at this size
-// makes a few hundredths of difference.
+// The rectangles were drawn for a face in which the lower-case alphabet is 12.73 ems wide and a
+// line 1.15 ems high, as they are in Arial (advance widths and line metrics of its tables).
+// Rounding to whole pixels at this size makes a few hundredths of difference in a text, and one
+// pixel in a line.
 const qreal alphabetInEms = 12.73;
 const qreal tolerance = 1.03;
+const qreal lineInEms = 1.15;
 
-bool isTooWide(const QFont &font)
+bool isTooLarge(const QFont &font)
 {
-    const qreal width = QFontMetricsF(font).horizontalAdvance("abcdefghijklmnopqrstuvwxyz");
-    return width > alphabetInEms * tolerance * QFontInfo(font).pixelSize();
+    const QFontMetricsF metrics(font);
+    const int em = QFontInfo(font).pixelSize();
+    return metrics.horizontalAdvance("abcdefghijklmnopqrstuvwxyz") > alphabetInEms * tolerance * em
+        || metrics.lineSpacing() > lineInEms * em + 1;
 }
 
 } // namespace
@@ -25,14 +29,14 @@ QFont formFont()
 {
     QFont font = QGuiApplication::font();
     font.setPointSize(8);
-    if (!isTooWide(font))
+    if (!isTooLarge(font))
         return font;
     const QStringList installed = QFontDatabase::families();
-    for (const char *family : {"Arial", "Liberation Sans", "Arimo", "Nimbus Sans", "FreeSans"}) {
-        if (installed.contains(QLatin1String(family))) {
-            font.setFamily(QLatin1String(family));
-            break;
-        }
+    for (const char *family : {"Arial", "Liberation Sans", "Arimo"}) {
+        QFont candidate = font;
+        candidate.setFamily(QLatin1String(family));
+        if (installed.contains(QLatin1String(family)) && !isTooLarge(candidate))
+            return candidate;
     }
     return font;
 }
