@@ -29,10 +29,16 @@ Calyx::Calyx(QWidget *parent, const char *name, bool modal, Qt::WindowFlags flag
     connectWidgets();
     installFilters();
 
+    readSettings();
+    loadCatalogue();
+    buildExeCommandMenu();
+    applyProductToMenus(productCode);
     updateCommandPreview();
     checkExeCommand();
 
     const QPalette white(Qt::white, Qt::white);
+    exeCommandMenu.setPalette(white);
+    exeCommandMenu.setStyle(style());
     for (const WizardButton which : {NextButton, BackButton, CancelButton, FinishButton}) {
         button(which)->setPalette(white);
         setBackgroundColour(button(which), Qt::white);
@@ -58,10 +64,13 @@ Calyx::~Calyx()
         process->kill();
         process->waitForFinished();
     }
+    clearExeCommandMenu();
 }
 
 void Calyx::connectWidgets()
 {
+    for (QRadioButton *button : {KOVRadioButton, KOVPPRadioButton})
+        connect(button, &QRadioButton::clicked, this, &Calyx::ProductRadioBtn_clicked);
     connect(PersonDestBrowseBtn, &QPushButton::clicked, this, &Calyx::PersonDestBrowseBtn_clicked);
     for (QLineEdit *edit : {PersonDestEdit, PersonNameEdit})
         connect(edit, &QLineEdit::textChanged, this, &Calyx::Page0LineEdit_textchanged);
@@ -74,6 +83,7 @@ void Calyx::connectWidgets()
     connect(CmpHdrDirAddBtn, &QPushButton::clicked, this, &Calyx::CmpHdrDirAddBtn_clicked);
     connect(CmpHdrDirEditBtn, &QPushButton::clicked, this, &Calyx::CmpHdrDirEditBtn_clicked);
     connect(CmpHdrDirDeleteBtn, &QPushButton::clicked, this, &Calyx::CmpHdrDirDeleteBtn_clicked);
+    connect(AddCompilerBtn, &QPushButton::clicked, this, &Calyx::AddCompilerBtn_clicked);
     connect(SaveLogBtn, &QPushButton::clicked, this, &Calyx::SaveLogBtn_clicked);
     connectSideBars();
 }

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "catalogue/compiler_catalogue.h"
 #include "forms/calyx_base.h"
 
 #include <QIcon>
+#include <QMenu>
 
 class GeneratorProcess;
+class SubPopupMenu;
 struct Answers;
 struct CompileCommand;
 
@@ -23,7 +26,15 @@ public:
     /// generated, else 1.
     int exitCode = 0;
 
+    // catalogue/calyx_menu.cpp
+    /// Fills the pages from the compiler of that family and name, or sends the user to where its
+    /// integration package is downloaded and leaves the wizard.
+    void applyCatalogueCompiler(QString family, QString name);
+
 public slots:
+    // catalogue/calyx_menu.cpp
+    void ProductRadioBtn_clicked();
+
     // generation/calyx_order.cpp
     void CmdOrderUpBtn_clicked();
     void CmdOrderDwnBtn_clicked();
@@ -33,6 +44,9 @@ public slots:
     void CmpHdrDirEditBtn_clicked();
     void CmpHdrDirDeleteBtn_clicked();
     void PersonDestBrowseBtn_clicked();
+
+    // catalogue/calyx_save.cpp
+    void AddCompilerBtn_clicked();
 
     // generation/calyx_run.cpp
     void SaveLogBtn_clicked();
@@ -93,8 +107,27 @@ private:
     QString askForDirectory(const QString &start, const QString &caption);
     static QString normalisePath(QString path);
 
+    // app/calyx_settings.cpp
+    void readSettings();
+    void writeSettings();
+
+    // catalogue/calyx_menu.cpp
+    void buildExeCommandMenu();
+    void clearExeCommandMenu();
+    void applyProductToMenus(const QString &code);
+    void applyRecord(const CompilerRecord &record);
+    void downloadIntegration(const QString &package);
+    void resetCompilerFields();
+
+    // catalogue/calyx_save.cpp
+    void loadCatalogue();
+    void saveCatalogue();
+    void updateRecordFromAnswers(CompilerRecord &record) const;
+    void addRecordFromAnswers(const QString &family, const QString &name);
+
     // generation/calyx_order.cpp
     CompileCommand compileCommand() const;
+    void applyOrderString(const QString &order);
     void updateCommandPreview();
     void moveOrderItem(int distance);
 
@@ -107,6 +140,8 @@ private:
 
     // generation/calyx_run.cpp
     void appendToDetails(const QString &text);
+    void reportSuccess();
+    void reportFailure();
     void showFailureDetails();
     void showLogFile(const QString &name);
 
@@ -121,6 +156,10 @@ private:
     QString substituteHeaders;
     QString selectedCompilerFamily;
     QString selectedCompilerName;
+    CompilerCatalogue catalogue;
+    QString compilerFamilySet; ///< when not empty, the menu shows only families that occur in it
+    QMenu exeCommandMenu;
+    QList<SubPopupMenu *> familyMenus;
 
     struct StepImages
     {

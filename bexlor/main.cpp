@@ -9,10 +9,10 @@
 #include "bexlor/compiler.h"
 #include "bexlor/facts.h"
 #include "bexlor/personality.h"
+#include "platform/text_file.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QTemporaryDir>
 #include <cstdio>
 
@@ -24,18 +24,11 @@ void say(const QString &line)
     std::fflush(stdout);
 }
 
-bool writeFile(const QString &path, const QByteArray &content)
-{
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size()
-        && file.commit();
-}
-
 void leaveLogs(const QStringList &command, const ProgramRun &run)
 {
-    writeFile(QStringLiteral("compile.bat"), commandLine(command).toLocal8Bit() + '\n');
-    writeFile(QStringLiteral("stdout.log"), run.output);
-    writeFile(QStringLiteral("stderr.log"), run.errors);
+    platform::writeFile(QStringLiteral("compile.bat"), commandLine(command).toLocal8Bit() + '\n');
+    platform::writeFile(QStringLiteral("stdout.log"), run.output);
+    platform::writeFile(QStringLiteral("stderr.log"), run.errors);
 }
 
 QString howItEnded(const ProgramRun &run)
@@ -73,7 +66,7 @@ bool generate(const Arguments &arguments)
     QTemporaryDir workshop;
     const QString source = QLatin1String(arguments.isCpp ? "probe.cpp" : "probe.c");
     const QByteArray probe = "int calyx_probe;\n";
-    if (!workshop.isValid() || !writeFile(workshop.filePath(source), probe)) {
+    if (!workshop.isValid() || !platform::writeFile(workshop.filePath(source), probe)) {
         say(QStringLiteral("No temporary file could be written: %1").arg(workshop.errorString()));
         return false;
     }
@@ -118,7 +111,8 @@ bool generate(const Arguments &arguments)
         }
         templateText = file.readAll();
     }
-    if (!writeFile(arguments.personality, personalityText(arguments, facts, templateText))) {
+    if (!platform::writeFile(arguments.personality,
+                             personalityText(arguments, facts, templateText))) {
         say(QStringLiteral("The personality cannot be written: %1").arg(arguments.personality));
         return false;
     }

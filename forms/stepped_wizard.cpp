@@ -5,13 +5,13 @@
 
 namespace {
 
-// The pages have fixed sizes and bring their own margins, so the wizard's own layout must leave
-// them 760 of 768 pixels. Button margins count on every side of the buttons' row.
-class NarrowMargins : public QProxyStyle
+class FormStyle : public QProxyStyle
 {
 public:
-    NarrowMargins() : QProxyStyle(QStringLiteral("windows")) { }
+    FormStyle() : QProxyStyle(QStringLiteral("windows")) { }
 
+    // The pages have fixed sizes and bring their own margins, so the wizard's own layout must leave
+    // them 760 of 768 pixels.
     int pixelMetric(PixelMetric metric, const QStyleOption *option,
                     const QWidget *widget) const override
     {
@@ -28,6 +28,16 @@ public:
             return QProxyStyle::pixelMetric(metric, option, widget);
         }
     }
+
+    // A menu that is higher than the screen scrolls, instead of spreading over it in columns that
+    // a long one does not fit either.
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *returnData) const override
+    {
+        return hint == SH_Menu_Scrollable
+                 ? 1
+                 : QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
 };
 
 } // namespace
@@ -42,7 +52,7 @@ void WizardPage::setComplete(bool complete)
 
 SteppedWizard::SteppedWizard(QWidget *parent, Qt::WindowFlags flags) : QWizard(parent, flags)
 {
-    auto *style = new NarrowMargins;
+    auto *style = new FormStyle;
     style->setParent(this);
     setStyle(style);
     setWizardStyle(QWizard::ClassicStyle);

@@ -20,6 +20,17 @@ CompileCommand Calyx::compileCommand() const
     return command;
 }
 
+void Calyx::applyOrderString(const QString &order)
+{
+    const StoredOrder stored = parseOrderString(order);
+    CmpOrderListBox->clear();
+    CmpOrderListBox->addItems(stored.order);
+    CmpDefFlagChkBox->setChecked(
+        stored.spaceAfterDefineFlag.value_or(CmpDefFlagChkBox->isChecked()));
+    CmpExeFlagChkBox->setChecked(
+        stored.spaceAfterOutputFlag.value_or(CmpExeFlagChkBox->isChecked()));
+}
+
 void Calyx::updateCommandPreview()
 {
     const QString preview = commandPreview(compileCommand());

@@ -4,12 +4,12 @@
 #include "generation/generator_arguments.h"
 #include "generation/generator_process.h"
 #include "platform/paths.h"
+#include "platform/text_file.h"
 
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QTextBlock>
 #include <QTextStream>
 
@@ -78,15 +78,22 @@ void Calyx::processExit()
 {
     // A run may end while a later one goes on, so the end is that of the sender.
     const auto *process = qobject_cast<GeneratorProcess *>(sender());
-    if (process->exitStatus() != QProcess::NormalExit)
-        return;
-    SaveLogBtn->setEnabled(true);
-    if (process->exitCode() == 0) {
-        appendToDetails(QStringLiteral("Personality Generated Successfully!"));
-        setButtonText(QWizard::CancelButton, tr("Close"));
-        AddCompilerBtn->setEnabled(true);
-        return;
+    if (process->exitStatus() == QProcess::NormalExit) {
+        SaveLogBtn->setEnabled(true);
+        process->exitCode() == 0 ? reportSuccess() : reportFailure();
     }
+    writeSettings();
+}
+
+void Calyx::reportSuccess()
+{
+    appendToDetails(QStringLiteral("Personality Generated Successfully!"));
+    setButtonText(QWizard::CancelButton, tr("Close"));
+    AddCompilerBtn->setEnabled(true);
+}
+
+void Calyx::reportFailure()
+{
     QMessageBox::about(nullptr, QStringLiteral("Calyx"),
                        QStringLiteral("Personality Generation Failed!\nPlease check the details on "
                                       "screen and try again."));
@@ -103,11 +110,8 @@ void Calyx::showFailureDetails()
 
 void Calyx::showLogFile(const QString &name)
 {
-    QFile file(name);
-    if (!file.open(QIODevice::ReadOnly))
-        return;
-    QTextStream stream(&file);
-    stream.setEncoding(QStringConverter::System);
+    QString text = platform::readTextFile(name).value_or(QString());
+    QTextStream stream(&text);
     QString line;
     while (stream.readLineInto(&line)) {
         DetailsText->append(line);
@@ -124,12 +128,6 @@ void Calyx::SaveLogBtn_clicked()
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    QSaveFile file(dialog.selectedFiles().value(0));
-    if (!file.open(QIODevice::WriteOnly))
-        return;
-    QTextStream stream(&file);
-    stream.setEncoding(QStringConverter::System);
-    stream << detailsText << '\n' << DetailsText->toPlainText();
-    stream.flush();
-    file.commit();
+    platform::writeTextFile(dialog.selectedFiles().value(0),
+                            detailsText + QLatin1Char('\n') + DetailsText->toPlainText());
 }

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+/// A known compiler: what the wizard fills in when it is chosen. No field holds a line break.
+struct CompilerRecord
+{
+    QString Name; ///< ends with " - C" or " - C++", or is "C" or "C++"
+    QString Family;
+    QString ExeCommand;
+    QString CrossCompiler; ///< "yes" or "no"
+    QString OutputFlag;
+    QString DefineFlag;
+    QString ObjectFlag;
+    QString ObjectFileExtension;
+    QString Order;           ///< order token string
+    QString ReduceFileSize;  ///< "yes" or "no"
+    QString CompilerDefines; ///< comma list, like the next
+    QString CompilerSwitches;
+    QString Template;         ///< file of the generator, or an integration package to download
+    QString ForceIncludeFile; ///< files of the generator, like the next
+    QString SubHeaders;
+
+    bool operator==(const CompilerRecord &) const = default;
+};
+
+/// The known compilers and their families, both in the order of the file. Nothing keeps the two
+/// lists in step: a record may have a family that is not listed, a family may have no record.
+struct CompilerCatalogue
+{
+    QStringList families;
+    QList<CompilerRecord> compilers;
+
+    bool operator==(const CompilerCatalogue &) const = default;
+};
+
+/// The first of \a compilers with that family and name, or null.
+CompilerRecord *findRecord(QList<CompilerRecord> &compilers, const QString &family,
+                           const QString &name);
+
+/// The names of those of \a compilers that are of that family, in their order.
+QStringList namesOf(const QList<CompilerRecord> &compilers, const QString &family);
+
+/// Reads the text of a catalogue file: lines with tags, of which only the start counts, each with
+/// its white space simplified. What is not understood is passed over; a record that the end of the
+/// text cuts short is kept with what was read of it.
+CompilerCatalogue parseCatalogue(const QString &text);
+
+/// The text of a catalogue file. parseCatalogue() gives the same catalogue back unless a value
+/// holds white space other than single spaces, or its own tag.
+QString catalogueText(const CompilerCatalogue &catalogue);

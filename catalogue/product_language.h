@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+/// The language of a compiler stands at the end of its name.
+
+/// Whether the menu offers the compiler \a name for the product: under "kov" not the one named
+/// "C++" nor those that end with "- C++", under "kovpp" likewise "C" and "- C".
+bool isOffered(const QString &name, const QString &productCode);
+
+/// Whether the chosen compiler \a name is of the other language than the product: under "kov" it
+/// ends with "C++", under "kovpp" with a capital "C".
+bool conflictsWith(const QString &name, const QString &productCode);

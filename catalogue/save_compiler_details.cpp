@@ -1,0 +1,210 @@
+#include "catalogue/save_compiler_details.h"
+
+#include <QComboBox>
+#include <QEvent>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QShowEvent>
+
+namespace {
+
+const QString caption = QStringLiteral("Save Compiler Details");
+
+/// Makes the last of \a list's items from \a firstItem on that equals \a text current.
+void selectLast(QComboBox *list, const QString &text, int firstItem)
+{
+    for (int item = list->count() - 1; item >= firstItem; --item) {
+        if (list->itemText(item) == text) {
+            list->setCurrentIndex(item);
+            return;
+        }
+    }
+}
+
+} // namespace
+
+SaveCompilerDetails::SaveCompilerDetails()
+{
+    connect(ExstSaveRadioButton, &QRadioButton::clicked, this,
+            &SaveCompilerDetails::ExstSaveRadioButton_clicked);
+    connect(NewSaveRadioButton, &QRadioButton::clicked, this,
+            &SaveCompilerDetails::NewSaveRadioButton_clicked);
+    connect(ExstCmpFamComboBox, &QComboBox::activated, this,
+            &SaveCompilerDetails::ExstCmpFamComboBox_selected);
+    connect(NewCmpFamComboBox, &QComboBox::activated, this,
+            &SaveCompilerDetails::NewCmpFamComboBox_selected);
+    connect(NewCmpNameComboBox, &QComboBox::activated, this,
+            &SaveCompilerDetails::NewCmpNameComboBox_selected);
+    connect(buttonOk, &QPushButton::clicked, this, &SaveCompilerDetails::accept);
+    connect(buttonCancel, &QPushButton::clicked, this, &SaveCompilerDetails::reject);
+    NewCmpFamEdit->installEventFilter(this);
+    NewCmpNameEdit->installEventFilter(this);
+}
+
+void SaveCompilerDetails::showEvent(QShowEvent *event)
+{
+    // A window that comes back from the task bar keeps its answers.
+    if (!event->spontaneous())
+        fillLists();
+    SaveCompilerDetailsBase::showEvent(event);
+}
+
+void SaveCompilerDetails::fillLists()
+{
+    const QStringList names = namesOf(compilers, currentRecord.Family);
+    for (QComboBox *list :
+         {ExstCmpFamComboBox, NewCmpFamComboBox, ExstCmpNameComboBox, NewCmpNameComboBox})
+        list->clear();
+    // The empty first entries stand for a text that is typed.
+    NewCmpFamComboBox->addItem(QString());
+    NewCmpNameComboBox->addItem(QString());
+    for (QComboBox *list : {ExstCmpFamComboBox, NewCmpFamComboBox}) {
+        const int firstFamily = list->count();
+        list->addItems(families);
+        selectLast(list, currentRecord.Family, firstFamily);
+    }
+    for (QComboBox *list : {ExstCmpNameComboBox, NewCmpNameComboBox}) {
+        const int firstName = list->count();
+        list->addItems(names);
+        selectLast(list, currentRecord.Name, firstName);
+    }
+}
+
+void SaveCompilerDetails::ExstSaveRadioButton_clicked()
+{
+    for (QWidget *widget : {ExstCmpFamComboBox, ExstCmpNameComboBox})
+        widget->setEnabled(true);
+    for (QWidget *widget : std::initializer_list<QWidget *> {
+             NewCmpFamComboBox, NewCmpFamEdit, NewCmpNameComboBox, NewCmpNameEdit, buttonGroup1})
+        widget->setEnabled(false);
+    NewSaveRadioButton->setChecked(false);
+}
+
+void SaveCompilerDetails::NewSaveRadioButton_clicked()
+{
+    NewCmpFamEdit->setText(NewCmpFamComboBox->currentText());
+    NewCmpNameEdit->setText(NewCmpNameComboBox->currentText());
+    for (QWidget *widget : std::initializer_list<QWidget *> {
+             NewCmpFamComboBox, NewCmpFamEdit, NewCmpNameComboBox, NewCmpNameEdit, buttonGroup1})
+        widget->setEnabled(true);
+    for (QWidget *widget : {ExstCmpFamComboBox, ExstCmpNameComboBox})
+        widget->setEnabled(false);
+    ExstSaveRadioButton->setChecked(false);
+}
+
+void SaveCompilerDetails::ExstCmpFamComboBox_selected(int)
+{
+    ExstCmpNameComboBox->clear();
+    ExstCmpNameComboBox->addItems(namesOf(compilers, ExstCmpFamComboBox->currentText()));
+}
+
+void SaveCompilerDetails::NewCmpFamComboBox_selected(int)
+{
+    NewCmpFamEdit->setText(NewCmpFamComboBox->currentText());
+    NewCmpNameComboBox->clear();
+    NewCmpNameComboBox->addItem(QString());
+    NewCmpNameComboBox->addItems(namesOf(compilers, NewCmpFamComboBox->currentText()));
+    NewCmpNameEdit->setText(NewCmpNameComboBox->currentText());
+}
+
+void SaveCompilerDetails::NewCmpNameComboBox_selected(int)
+{
+    NewCmpNameEdit->setText(NewCmpNameComboBox->currentText());
+}
+
+bool SaveCompilerDetails::eventFilter(QObject *watched, QEvent *event)
+{
+    // What is typed no longer comes from the list.
+    if (event->type() == QEvent::KeyRelease && watched == NewCmpFamEdit) {
+        NewCmpFamComboBox->setCurrentIndex(0);
+        return false;
+    }
+    if (event->type() == QEvent::KeyRelease && watched == NewCmpNameEdit) {
+        NewCmpNameComboBox->setCurrentIndex(0);
+        return false;
+    }
+    return SaveCompilerDetailsBase::eventFilter(watched, event);
+}
+
+QString SaveCompilerDetails::withLanguage(const QString &name) const
+{
+    if (BothRadioButton->isChecked())
+        return name;
+    const QString language = QLatin1String(CRadioButton->isChecked() ? "C" : "C++");
+    return name.isEmpty() ? language : name + QLatin1String(" - ") + language;
+}
+
+bool SaveCompilerDetails::contradictsLanguage(const QString &name) const
+{
+    const bool namesC = name == QLatin1String("C");
+    const bool namesCpp = name == QLatin1String("C++");
+    const bool spellsCpp = name == QLatin1String("Cpp") || name == QLatin1String("CPP");
+    if (CPPRadioButton->isChecked())
+        return namesC;
+    if (CRadioButton->isChecked())
+        return namesCpp || spellsCpp;
+    return namesC || namesCpp || spellsCpp;
+}
+
+bool SaveCompilerDetails::showProblem(const QString &text)
+{
+    QMessageBox::critical(nullptr, caption, text);
+    return false;
+}
+
+bool SaveCompilerDetails::isConfirmed(const QString &question)
+{
+    return QMessageBox::critical(this, caption, question, QMessageBox::Yes | QMessageBox::No)
+        == QMessageBox::Yes;
+}
+
+void SaveCompilerDetails::accept()
+{
+    if (!NewSaveRadioButton->isChecked()) {
+        if (ExstSaveRadioButton->isChecked()) {
+            resultFamily = ExstCmpFamComboBox->currentText();
+            resultName = ExstCmpNameComboBox->currentText();
+        }
+        SaveCompilerDetailsBase::accept();
+        return;
+    }
+
+    const QString family = NewCmpFamEdit->text();
+    const QString name = NewCmpNameEdit->text();
+    // A name of the list has its language already. The list's empty entry is no name.
+    const bool isListed = !name.isEmpty() && name == NewCmpNameComboBox->currentText()
+                       && family == NewCmpFamComboBox->currentText();
+    const QString savedName = isListed ? name : withLanguage(name);
+
+    bool accepted = true;
+    if (family.isEmpty() && name.isEmpty()) {
+        accepted =
+            showProblem(QStringLiteral("Compiler Family and Compiler Name cannot be empty."));
+    } else if (isListed || findRecord(compilers, family, savedName)) {
+        accepted = isConfirmed(
+            QStringLiteral("Compiler Family and Compiler Name match an existing compiler, do you "
+                           "want to overwrite this?"));
+    } else if (BothRadioButton->isChecked() && name.isEmpty()) {
+        accepted = showProblem(
+            QStringLiteral("Compiler Name cannot be empty if language: Both is selected."));
+    }
+    if (contradictsLanguage(name)) {
+        accepted &= isConfirmed(QStringLiteral(
+            "Compiler Name provided does not match the language selected,\nor describes a specific "
+            "language when 'Both' is selected.\n\nIt is advisabe to ensure that the compiler name "
+            "reflects the language. Are you sure you wish to continue with this name?"));
+    }
+    resultFamily = family;
+    resultName = savedName;
+    if (accepted)
+        SaveCompilerDetailsBase::accept();
+}
+
+void SaveCompilerDetails::reject()
+{
+    resultFamily.clear();
+    resultName.clear();
+    SaveCompilerDetailsBase::reject();
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "catalogue/compiler_catalogue.h"
+#include "forms/save_compiler_details_base.h"
+
+/// Asks under which family and name a compiler is saved: over a known one, or as a new one.
+class SaveCompilerDetails : public SaveCompilerDetailsBase
+{
+    Q_OBJECT
+
+public:
+    SaveCompilerDetails();
+
+    // To be set before the dialog is shown: the catalogue, and the family and name chosen last.
+    QStringList families;
+    QList<CompilerRecord> compilers;
+    CompilerRecord currentRecord;
+
+    // The answer; empty texts until the dialog is accepted. The name ends with its language.
+    QString resultFamily;
+    QString resultName;
+
+public slots:
+    void ExstSaveRadioButton_clicked();
+    void NewSaveRadioButton_clicked();
+    void ExstCmpFamComboBox_selected(int);
+    void NewCmpFamComboBox_selected(int);
+    void NewCmpNameComboBox_selected(int);
+
+protected slots:
+    void accept() override;
+    void reject() override;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void fillLists();
+    QString withLanguage(const QString &name) const;
+    bool contradictsLanguage(const QString &name) const;
+    bool showProblem(const QString &text);
+    bool isConfirmed(const QString &question);
+};

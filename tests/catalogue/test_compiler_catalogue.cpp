@@ -1,0 +1,148 @@
+#include "catalogue/compiler_catalogue.h"
+#include "catalogue/download.h"
+#include "catalogue/product_language.h"
+
+#include <QTest>
+
+class TestCompilerCatalogue : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void readsFields_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("indented") << "   <Name>cc - C</Name>"
+                                  << "cc - C";
+        QTest::newRow("tab, carriage return") << "\t<Name>cc - C</Name>\r"
+                                              << "cc - C";
+        QTest::newRow("space inside the tags") << "<Name> cc </Name>"
+                                               << " cc ";
+        QTest::newRow("text after the closing tag") << "<Name>cc</Name> - C"
+                                                    << "cc - C";
+        QTest::newRow("runs of white space") << "<Name>c  \t c</Name>"
+                                             << "c c";
+        QTest::newRow("repeated tags") << "<Name><Name>cc</Name></Name>"
+                                       << "cc";
+        QTest::newRow("no closing tag") << "<Name>cc"
+                                        << "cc";
+        QTest::newRow("other case") << "<name>cc</name>"
+                                    << "";
+        QTest::newRow("tag not at the start") << "x <Name>cc</Name>"
+                                              << "";
+        QTest::newRow("replaced later") << "<Name>a</Name>\n<Name>b</Name>"
+                                        << "b";
+    }
+    void readsFields()
+    {
+        QFETCH(QString, line);
+        const CompilerCatalogue read = parseCatalogue("<Compiler>\n" + line + "\n</Compiler>\n");
+        QCOMPARE(read.compilers.size(), 1);
+        QTEST(read.compilers[0].Name, "name");
+    }
+
+    void keepsToItsBlocks_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QStringList>("families");
+        QTest::addColumn<QStringList>("names");
+        QTest::newRow("nothing") << "" << QStringList() << QStringList();
+        QTest::newRow("noise") << "x\n<Name>n</Name>\n</Compiler>\n<compiler>" << QStringList()
+                               << QStringList();
+        QTest::newRow("families, one twice")
+            << "<CompilerFamily>B</CompilerFamily>\n <CompilerFamily> A\n<CompilerFamily>B"
+            << QStringList {"B", " A", "B"} << QStringList();
+        QTest::newRow("text behind a block's start and end")
+            << "<Compiler> x\n<Name>a</Name>\n</Compiler> x\n<Name>b</Name>\n </Compiler> \n"
+            << QStringList() << QStringList {"b"};
+        QTest::newRow("a family and a start inside a block")
+            << "<Compiler>\n<CompilerFamily>F\n<Compiler>\n<Name>a</Name>\n</Compiler>"
+            << QStringList() << QStringList {"a"};
+        QTest::newRow("cut short") << "<Compiler>\n<Name>a</Name>\n</Compiler>\n<Compiler>\n<Name>b"
+                                   << QStringList() << QStringList {"a", "b"};
+    }
+    void keepsToItsBlocks()
+    {
+        QFETCH(QString, text);
+        const CompilerCatalogue read = parseCatalogue(text);
+        QTEST(read.families, "families");
+        QStringList names;
+        for (const CompilerRecord &record : read.compilers)
+            names << record.Name;
+        QTEST(names, "names");
+    }
+
+    void writesWhatItReads()
+    {
+        QCOMPARE(catalogueText({}), "\n");
+        CompilerRecord record;
+        record.Name = "cc - C";
+        record.Family = "F1";
+        record.CrossCompiler = "no";
+        record.Order = "%c %o%e ";
+        record.SubHeaders = "s & <b>";
+        const CompilerCatalogue catalogue {{"F1", "F2"}, {record, CompilerRecord()}};
+        const QString text = catalogueText(catalogue);
+        QVERIFY(text.startsWith(
+            "<CompilerFamily>F1</CompilerFamily>\n<CompilerFamily>F2</CompilerFamily>\n\n"
+            " <Compiler>\n  <Name>cc - C</Name>\n  <Family>F1</Family>\n"
+            "  <ExeCommand></ExeCommand>\n  <CrossCompiler>no</CrossCompiler>\n"
+            "  <OutputFlag></OutputFlag>\n  <DefineFlag></DefineFlag>\n"
+            "  <ObjectFlag></ObjectFlag>\n  <ObjectFileExtension></ObjectFileExtension>\n"
+            "  <Order>%c %o%e </Order>\n  <ReduceFileSize></ReduceFileSize>\n"
+            "  <CompilerDefines></CompilerDefines>\n  <CompilerSwitches></CompilerSwitches>\n"
+            "  <Template></Template>\n  <ForceIncludeFile></ForceIncludeFile>\n"
+            "  <SubHeaders>s & <b></SubHeaders>\n </Compiler>\n\n <Compiler>\n"));
+        QCOMPARE(parseCatalogue(text), catalogue);
+        QCOMPARE(catalogueText(parseCatalogue(text)), text);
+    }
+
+    void tellsLanguages_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("product");
+        QTest::addColumn<bool>("offered");
+        QTest::addColumn<bool>("conflicts");
+        QTest::newRow("C++ under KOV") << "C++"
+                                       << "kov" << false << true;
+        QTest::newRow("x - C++ under KOV") << "x - C++"
+                                           << "kov" << false << true;
+        QTest::newRow("x C++ under KOV") << "x C++"
+                                         << "kov" << true << true;
+        QTest::newRow("x - C under KOV") << "x - C"
+                                         << "kov" << true << false;
+        QTest::newRow("C under KOV++") << "C"
+                                       << "kovpp" << false << true;
+        QTest::newRow("x - C under KOV++") << "x - C"
+                                           << "kovpp" << false << true;
+        QTest::newRow("XC under KOV++") << "XC"
+                                        << "kovpp" << true << true;
+        QTest::newRow("xc under KOV++") << "xc"
+                                        << "kovpp" << true << false;
+        QTest::newRow("C++ under KOV++") << "C++"
+                                         << "kovpp" << true << false;
+        QTest::newRow("none") << ""
+                              << "kovpp" << true << false;
+    }
+    void tellsLanguages()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, product);
+        QTEST(isOffered(name, product), "offered");
+        QTEST(conflictsWith(name, product), "conflicts");
+    }
+
+    void keepsCommandsOutOfAddresses()
+    {
+        QVERIFY(isDownload("Integration - x.exe") && !isDownload("integration - x"));
+        QCOMPARE(packageName("Integration - a/b.exe"), "a/b.exe");
+        QCOMPARE(downloadAddress("a/b-1.0_x~.exe"), downloadBaseAddress + "a/b-1.0_x~.exe");
+        const QString address = downloadAddress("a & del \"x\" | ^ %PATH% $(x) `y` ; <>\n?#\\ é");
+        QCOMPARE(address.mid(downloadBaseAddress.size()).remove(QRegularExpression("[A-Za-z0-9%]")),
+                 "");
+    }
+};
+
+QTEST_APPLESS_MAIN(TestCompilerCatalogue)
+#include "test_compiler_catalogue.moc"

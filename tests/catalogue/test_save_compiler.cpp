@@ -1,0 +1,242 @@
+#include "catalogue/save_compiler_details.h"
+#include "tests/support/wizard_test.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+
+using Use = std::function<void(SaveCompilerDetails &)>;
+Q_DECLARE_METATYPE(Use)
+
+namespace {
+
+const QString bothEmpty = "Compiler Family and Compiler Name cannot be empty.";
+const QString overwrite = "Compiler Family and Compiler Name match an existing compiler, do you "
+                          "want to overwrite this?";
+const QString noName = "Compiler Name cannot be empty if language: Both is selected.";
+const QString otherLanguage = "Compiler Name provided does not match";
+
+CompilerRecord compiler(const QString &family, const QString &name)
+{
+    CompilerRecord record;
+    record.Family = family;
+    record.Name = name;
+    return record;
+}
+
+void type(QLineEdit *edit, const QString &text)
+{
+    edit->selectAll();
+    QTest::keyClick(edit, Qt::Key_Delete);
+    QTest::keyClicks(edit, text);
+}
+
+void choose(QComboBox *list, const QString &text)
+{
+    list->setCurrentIndex(list->findText(text));
+    emit list->activated(list->currentIndex());
+}
+
+/// Asks for a new entry of that family and name, typed.
+Use newEntry(const QString &family, const QString &name,
+             QRadioButton *SaveCompilerDetails::*language)
+{
+    return [=](SaveCompilerDetails &dialog) {
+        dialog.NewSaveRadioButton->click();
+        type(dialog.NewCmpFamEdit, family);
+        type(dialog.NewCmpNameEdit, name);
+        (dialog.*language)->click();
+    };
+}
+
+QStringList items(const QComboBox *list)
+{
+    QStringList texts;
+    for (int item = 0; item < list->count(); ++item)
+        texts << list->itemText(item);
+    return texts;
+}
+
+} // namespace
+
+class TestSaveCompiler : public QObject
+{
+    Q_OBJECT
+
+private:
+    static void fill(SaveCompilerDetails &dialog)
+    {
+        dialog.families = QStringList {"Alpha", "Beta"};
+        dialog.compilers = {compiler("Beta", "b - C"), compiler("Alpha", "a - C"),
+                            compiler("Beta", "C++")};
+        dialog.currentRecord = compiler("Beta", "C++");
+    }
+
+private slots:
+    void asksAndAnswers_data()
+    {
+        QTest::addColumn<Use>("use");
+        QTest::addColumn<QStringList>("messages"); // a question's answer stands before it
+        QTest::addColumn<QString>("result");       // empty: the dialog stays open
+        const auto row = [](const char *name, const Use &use, const QStringList &messages,
+                            const QString &result) {
+            QTest::newRow(name) << use << messages << result;
+        };
+        const auto c = &SaveCompilerDetails::CRadioButton;
+        const auto cpp = &SaveCompilerDetails::CPPRadioButton;
+        const auto both = &SaveCompilerDetails::BothRadioButton;
+        row(
+            "the preselected entry", [](SaveCompilerDetails &) {}, {}, "Beta/C++");
+        row(
+            "another entry",
+            [](SaveCompilerDetails &dialog) { choose(dialog.ExstCmpFamComboBox, "Alpha"); }, {},
+            "Alpha/a - C");
+        row("new C", newEntry("Fam", "cc", c), {}, "Fam/cc - C");
+        row("new C++", newEntry("Beta", "cc", cpp), {}, "Beta/cc - C++");
+        row("new, both languages", newEntry("Fam", "cc", both), {}, "Fam/cc");
+        row("no name, C++", newEntry("Fam", "", cpp), {}, "Fam/C++");
+        row("no name, both", newEntry("Fam", "", both), {noName}, "");
+        row("nothing", newEntry("", "", c), {bothEmpty}, "");
+        row("no family", newEntry("", "cc", c), {}, "/cc - C");
+        row("other language, insisted", newEntry("Fam", "Cpp", c), {"Yes" + otherLanguage},
+            "Fam/Cpp - C");
+        row("other language, declined", newEntry("Fam", "C", cpp), {"No" + otherLanguage}, "");
+        row("a language for both", newEntry("Fam", "CPP", both), {"No" + otherLanguage}, "");
+        row("typed, exists with its suffix", newEntry("Beta", "b", c), {"Yes" + overwrite},
+            "Beta/b - C");
+        row("typed, exists, declined", newEntry("Beta", "", cpp), {"No" + overwrite}, "");
+        row(
+            "from the list, confirmed",
+            [](SaveCompilerDetails &dialog) {
+                dialog.NewSaveRadioButton->click();
+                choose(dialog.NewCmpFamComboBox, "Alpha");
+                choose(dialog.NewCmpNameComboBox, "a - C");
+            },
+            {"Yes" + overwrite}, "Alpha/a - C");
+        row(
+            "from the list, then typed into",
+            [](SaveCompilerDetails &dialog) {
+                dialog.NewSaveRadioButton->click();
+                QTest::keyClick(dialog.NewCmpNameEdit, Qt::Key_End);
+                QTest::keyClick(dialog.NewCmpNameEdit, Qt::Key_X);
+            },
+            {}, "Beta/C++x - C");
+        row(
+            "preselected as new, its language declined",
+            [](SaveCompilerDetails &dialog) { dialog.NewSaveRadioButton->click(); },
+            {"Yes" + overwrite, "No" + otherLanguage}, "");
+    }
+    void asksAndAnswers()
+    {
+        QFETCH(Use, use);
+        QFETCH(QStringList, messages);
+        QFETCH(QString, result);
+        SaveCompilerDetails dialog;
+        fill(dialog);
+        dialog.show();
+        use(dialog);
+        QTimer answerer;
+        QStringList unexpected;
+        connect(&answerer, &QTimer::timeout, [&] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (!box)
+                return;
+            const QString message = messages.isEmpty() ? QString() : messages.takeFirst();
+            const bool isYes = message.startsWith("Yes");
+            if (!box->text().startsWith(QString(message).remove(QRegularExpression("^(Yes|No)")))
+                || message.isEmpty() || box->windowTitle() != "Save Compiler Details")
+                unexpected << box->text();
+            const bool isQuestion = isYes || message.startsWith("No");
+            box->button(isYes        ? QMessageBox::Yes
+                        : isQuestion ? QMessageBox::No
+                                     : QMessageBox::Ok)
+                ->click();
+        });
+        answerer.start(10);
+        dialog.buttonOk->click();
+        QCOMPARE(unexpected, QStringList());
+        QCOMPARE(messages, QStringList());
+        QCOMPARE(dialog.isVisible(), result.isEmpty());
+        if (result.isEmpty()) {
+            dialog.buttonCancel->click();
+            QVERIFY(dialog.resultFamily.isEmpty() && dialog.resultName.isEmpty());
+        } else {
+            QCOMPARE(dialog.resultFamily + '/' + dialog.resultName, result);
+        }
+    }
+
+    void switchesBetweenItsGroups()
+    {
+        SaveCompilerDetails dialog;
+        fill(dialog);
+        dialog.show();
+        QCOMPARE(dialog.size(), QSize(547, 463));
+        QCOMPARE(dialog.ExstCmpNameComboBox->currentText(), "C++");
+        QVERIFY(dialog.NewCmpNameEdit->text().isEmpty());
+        dialog.NewSaveRadioButton->click();
+        QVERIFY(!dialog.ExstSaveRadioButton->isChecked()
+                && !dialog.ExstCmpFamComboBox->isEnabled());
+        QVERIFY(dialog.CRadioButton->isEnabled());
+        QCOMPARE(dialog.NewCmpFamEdit->text(), "Beta");
+        QCOMPARE(dialog.NewCmpNameEdit->text(), "C++");
+        choose(dialog.NewCmpFamComboBox, "Alpha");
+        QCOMPARE(items(dialog.NewCmpNameComboBox), QStringList({"", "a - C"}));
+        QCOMPARE(dialog.NewCmpNameEdit->text(), "");
+        dialog.ExstSaveRadioButton->click();
+        QVERIFY(!dialog.NewSaveRadioButton->isChecked() && !dialog.CRadioButton->isEnabled());
+    }
+
+    void savesIntoTheCatalogue()
+    {
+        const ProgramFolder folder;
+        folder.write("bin/compilers.txt",
+                     "<CompilerFamily>Alpha</CompilerFamily>\n<Compiler>\n<Name>a - C</Name>\n"
+                     "<Family>Alpha</Family>\n<Template>kept</Template>\n</Compiler>\n");
+        const WizardUser user;
+        user.walkToReview();
+        user.press(QWizard::FinishButton);
+        QTRY_VERIFY(user->AddCompilerBtn->isEnabled());
+        user->applyCatalogueCompiler("Alpha", "a - C");
+        user->CmpExeEdit->setText("cc -x");
+        const auto save = [&user](const Use &use) {
+            withDialog([&user] { user.click(user->AddCompilerBtn); },
+                       [&use](QWidget *widget) {
+                           auto *dialog = qobject_cast<SaveCompilerDetails *>(widget);
+                           use(*dialog);
+                           dialog->buttonOk->click();
+                       });
+        };
+        save([](SaveCompilerDetails &) {});
+        save(newEntry("Fam & Co", "dd", &SaveCompilerDetails::CPPRadioButton));
+        const QString before = folder.read("bin/compilers.txt");
+        CompilerCatalogue saved = parseCatalogue(before);
+        QCOMPARE(saved.families, QStringList({"Alpha", "Fam & Co"}));
+        QCOMPARE(saved.compilers.size(), 2);
+        for (const CompilerRecord &record : saved.compilers) {
+            QCOMPARE(record.ExeCommand, "cc -x");
+            QCOMPARE(record.Template, "kept");
+            QCOMPARE(record.CrossCompiler, "no");
+        }
+        const QMenu *menu = user->ExeCommandBtn->menu();
+        QCOMPARE(menu->actions().size(), 2);
+        const QAction *item = menu->actions().at(1)->menu()->actions().at(0);
+        QCOMPARE(item->text(), "dd - C++");
+        QVERIFY(!item->isEnabled());
+
+        save([](SaveCompilerDetails &dialog) {
+            QCOMPARE(dialog.ExstCmpNameComboBox->currentText(), "dd - C++");
+            dialog.buttonCancel->click();
+        });
+        QCOMPARE(folder.read("bin/compilers.txt"), before);
+    }
+};
+
+QTEST_MAIN(TestSaveCompiler)
+#include "test_save_compiler.moc"
