@@ -4,19 +4,30 @@
 
 namespace {
 
+struct Tag
+{
+    QString opens;
+    QString closes;
+
+    explicit Tag(const char *name)
+        : opens(QLatin1Char('<') + QLatin1String(name) + QLatin1Char('>')),
+          closes(QLatin1String("</") + QLatin1String(name) + QLatin1Char('>'))
+    { }
+
+    /// \a line without any of the tags.
+    QString strip(QString line) const { return line.remove(opens).remove(closes); }
+};
+
 struct Field
 {
-    QLatin1String name;
+    Tag tag;
     QString CompilerRecord::*value;
-
-    QString openingTag() const { return QLatin1Char('<') + name + QLatin1Char('>'); }
-    QString closingTag() const { return QLatin1String("</") + name + QLatin1Char('>'); }
 };
 
 #define FIELD(name)                                                                                \
     Field                                                                                          \
     {                                                                                              \
-        QLatin1String(#name), &CompilerRecord::name                                                \
+        Tag(#name), &CompilerRecord::name                                                          \
     }
 
 // In the order in which the file lists them.
@@ -27,22 +38,14 @@ const Field fields[] = {
     FIELD(Template),   FIELD(ForceIncludeFile), FIELD(SubHeaders),
 };
 
-const QLatin1String familyOpens("<CompilerFamily>");
-const QLatin1String familyCloses("</CompilerFamily>");
-const QLatin1String recordOpens("<Compiler>");
-const QLatin1String recordCloses("</Compiler>");
-
-QString without(QString line, const QString &openingTag, const QString &closingTag)
-{
-    return line.remove(openingTag).remove(closingTag);
-}
+const Tag familyTag("CompilerFamily");
+const Tag recordTag("Compiler");
 
 void readField(CompilerRecord &record, const QString &line)
 {
     for (const Field &field : fields) {
-        const QString openingTag = field.openingTag();
-        if (line.startsWith(openingTag)) {
-            record.*field.value = without(line, openingTag, field.closingTag());
+        if (line.startsWith(field.tag.opens)) {
+            record.*field.value = field.tag.strip(line);
             return;
         }
     }
@@ -77,14 +80,14 @@ CompilerCatalogue parseCatalogue(const QString &text)
     bool insideRecord = false;
     for (const QStringView &rawLine : QStringView(text).split(QLatin1Char('\n'))) {
         const QString line = rawLine.toString().simplified();
-        if (insideRecord && line == recordCloses) {
+        if (insideRecord && line == recordTag.closes) {
             catalogue.compilers << record;
             insideRecord = false;
         } else if (insideRecord) {
             readField(record, line);
-        } else if (line.startsWith(familyOpens)) {
-            catalogue.families << without(line, familyOpens, familyCloses);
-        } else if (line.startsWith(recordOpens)) {
+        } else if (line.startsWith(familyTag.opens)) {
+            catalogue.families << familyTag.strip(line);
+        } else if (line.startsWith(recordTag.opens)) {
             record = CompilerRecord();
             insideRecord = true;
         }
@@ -98,15 +101,15 @@ QString catalogueText(const CompilerCatalogue &catalogue)
 {
     QString text;
     for (const QString &family : catalogue.families)
-        text += familyOpens + family + familyCloses + QLatin1Char('\n');
+        text += familyTag.opens + family + familyTag.closes + QLatin1Char('\n');
     text += QLatin1Char('\n');
     for (const CompilerRecord &record : catalogue.compilers) {
-        text += QLatin1Char(' ') + recordOpens + QLatin1Char('\n');
+        text += QLatin1Char(' ') + recordTag.opens + QLatin1Char('\n');
         for (const Field &field : fields) {
-            text += QLatin1String("  ") + field.openingTag() + record.*field.value
-                  + field.closingTag() + QLatin1Char('\n');
+            text += QLatin1String("  ") + field.tag.opens + record.*field.value + field.tag.closes
+                  + QLatin1Char('\n');
         }
-        text += QLatin1Char(' ') + recordCloses + QLatin1String("\n\n");
+        text += QLatin1Char(' ') + recordTag.closes + QLatin1String("\n\n");
     }
     return text;
 }
