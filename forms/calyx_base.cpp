@@ -237,47 +237,51 @@ const Page pages[] = {
 };
 
 const TextRow texts[] = {
-    {"textLabel1_3", "text", QT_TRANSLATE_NOOP("CalyxBase", "Welcome to the Vantor :: Calyx")},
-    {"textLabel2", "text",
-     QT_TRANSLATE_NOOP(
+    {"textLabel1_3", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Welcome to the Vantor :: Calyx")}},
+    {"textLabel2",
+     "text",
+     {QT_TRANSLATE_NOOP(
          "CalyxBase",
          "This wizard will take you through the configuration required to automatically generate "
          "your compiler personality. Before we begin, it is best if your compiler is on your PATH, "
          "you have identified the executable that runs your compiler from the command line and "
          "you have write permissions to the outut directory you wish to specify. To begin, simply "
          "select the product in question and provide the output directory and personality name "
-         "you wish to use.")},
-    {"textLabel1", "text", QT_TRANSLATE_NOOP("CalyxBase", "Personality Destination")},
-    {"textLabel1_2", "text", QT_TRANSLATE_NOOP("CalyxBase", "Personality Name")},
-    {"PersonDestBrowseBtn", "text", QT_TRANSLATE_NOOP("CalyxBase", "Browse")},
+         "you wish to use.")}},
+    {"textLabel1", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Personality Destination")}},
+    {"textLabel1_2", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Personality Name")}},
+    {"PersonDestBrowseBtn", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Browse")}},
     {"PersonDestEdit", "toolTip",
      QT_TRANSLATE_NOOP3("CalyxBase", "Destination folder for the Personality.",
                         "Destination folder for the KOV/KOV++ project.")},
-    {"PersonNameEdit", "toolTip",
-     QT_TRANSLATE_NOOP("CalyxBase", "Name of the Personality; the extension .p_c is added to it.")},
-    {"buttonGroup1", "toolTip", QT_TRANSLATE_NOOP("CalyxBase", "Select Product")},
-    {"KOVRadioButton", "accessibleName", QT_TRANSLATE_NOOP("CalyxBase", "KOV")},
-    {"KOVPPRadioButton", "accessibleName", QT_TRANSLATE_NOOP("CalyxBase", "KOV++")},
-    {"DestErrorLabel", "text", ""},
+    {"PersonNameEdit",
+     "toolTip",
+     {QT_TRANSLATE_NOOP("CalyxBase",
+                        "Name of the Personality; the extension .p_c is added to it.")}},
+    {"buttonGroup1", "toolTip", {QT_TRANSLATE_NOOP("CalyxBase", "Select Product")}},
+    {"KOVRadioButton", "accessibleName", {QT_TRANSLATE_NOOP("CalyxBase", "KOV")}},
+    {"KOVPPRadioButton", "accessibleName", {QT_TRANSLATE_NOOP("CalyxBase", "KOV++")}},
+    {"DestErrorLabel", "text", {""}},
 
-    {"ExeCommandBtn", "text", QT_TRANSLATE_NOOP("CalyxBase", "Exe Command")},
-    {"CrossCmpCheckBox", "text", QT_TRANSLATE_NOOP("CalyxBase", "Cross Compiler")},
-    {"textLabel2_2", "text",
-     QT_TRANSLATE_NOOP(
+    {"ExeCommandBtn", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Exe Command")}},
+    {"CrossCmpCheckBox", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Cross Compiler")}},
+    {"textLabel2_2",
+     "text",
+     {QT_TRANSLATE_NOOP(
          "CalyxBase",
          "Please select your compiler from the drop down menu (Exe Command button), or if the "
          "compiler is not in the list, complete the options including the command to invoke the "
          "compiler. Please note, it is important to specify whether your compiler will produce an "
          "executable binary on this host or not (cross compiler). Reduce File Size avoids compiler "
-         "buffer overruns on small embedded compilers.")},
-    {"textLabel3_2_2", "text", QT_TRANSLATE_NOOP("CalyxBase", "Trailing Space")},
-    {"textLabel3_2", "text", QT_TRANSLATE_NOOP("CalyxBase", "Compile Command Order ")},
-    {"textLabel4_2", "text", QT_TRANSLATE_NOOP("CalyxBase", "Output Flag\n(e.g. -o | -e)")},
-    {"textLabel4_2_2_2", "text", QT_TRANSLATE_NOOP("CalyxBase", "Define Flag\n(e.g. -d)")},
-    {"textLabel4_2_2", "text", QT_TRANSLATE_NOOP("CalyxBase", "Object Flag\n(e.g. -c)")},
-    {"textLabel4_2_2_3", "text", QT_TRANSLATE_NOOP("CalyxBase", "Object File Ext\n(e.g. .obj)")},
-    {"ReduceFileSizeCheckBox", "text", QT_TRANSLATE_NOOP("CalyxBase", "Reduce file size")},
-    {"CmpCmdOrder", "text", QT_TRANSLATE_NOOP("CalyxBase", "          <exe> <src>")},
+         "buffer overruns on small embedded compilers.")}},
+    {"textLabel3_2_2", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Trailing Space")}},
+    {"textLabel3_2", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Compile Command Order ")}},
+    {"textLabel4_2", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Output Flag\n(e.g. -o | -e)")}},
+    {"textLabel4_2_2_2", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Define Flag\n(e.g. -d)")}},
+    {"textLabel4_2_2", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Object Flag\n(e.g. -c)")}},
+    {"textLabel4_2_2_3", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Object File Ext\n(e.g. .obj)")}},
+    {"ReduceFileSizeCheckBox", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Reduce file size")}},
+    {"CmpCmdOrder", "text", {QT_TRANSLATE_NOOP("CalyxBase", "          <exe> <src>")}},
     {"CmpExeEdit", "toolTip",
      QT_TRANSLATE_NOOP3(
          "CalyxBase", "Specify the command required to invoke the compiler from the command line.",
@@ -301,55 +305,61 @@ const TextRow texts[] = {
      QT_TRANSLATE_NOOP3("CalyxBase",
                         "Specify the extension of the object file produced by the compiler",
                         "Name of the KOV/KOV++ project.")},
-    {"CmpOrderListBox", "toolTip",
-     QT_TRANSLATE_NOOP("CalyxBase", "Specify the order of the flags specified to the compile.")},
-    {"CmpExeFlagChkBox", "accessibleName", QT_TRANSLATE_NOOP("CalyxBase", "Trailing Space")},
-    {"CmpDefFlagChkBox", "accessibleName", QT_TRANSLATE_NOOP("CalyxBase", "Trailing Space")},
-    {"CmdOrderUpBtn", "accessibleName", QT_TRANSLATE_NOOP("CalyxBase", "Move up")},
-    {"CmdOrderDwnBtn", "accessibleName", QT_TRANSLATE_NOOP("CalyxBase", "Move down")},
-    {"CmpPathErrorLabel", "text", ""},
+    {"CmpOrderListBox",
+     "toolTip",
+     {QT_TRANSLATE_NOOP("CalyxBase", "Specify the order of the flags specified to the compile.")}},
+    {"CmpExeFlagChkBox", "accessibleName", {QT_TRANSLATE_NOOP("CalyxBase", "Trailing Space")}},
+    {"CmpDefFlagChkBox", "accessibleName", {QT_TRANSLATE_NOOP("CalyxBase", "Trailing Space")}},
+    {"CmdOrderUpBtn", "accessibleName", {QT_TRANSLATE_NOOP("CalyxBase", "Move up")}},
+    {"CmdOrderDwnBtn", "accessibleName", {QT_TRANSLATE_NOOP("CalyxBase", "Move down")}},
+    {"CmpPathErrorLabel", "text", {""}},
 
-    {"textLabel3_3", "text", QT_TRANSLATE_NOOP("CalyxBase", "Compile Command - ")},
-    {"textLabel3", "text", QT_TRANSLATE_NOOP("CalyxBase", "Search Directories")},
-    {"CmpHdrDirDeleteBtn", "text", QT_TRANSLATE_NOOP("CalyxBase", "Delete")},
-    {"CmpHdrDirEditBtn", "text", QT_TRANSLATE_NOOP("CalyxBase", "Edit")},
-    {"CmpHdrDirAddBtn", "text", QT_TRANSLATE_NOOP("CalyxBase", "Add")},
-    {"SearchCompileCmdTxt", "text", QT_TRANSLATE_NOOP("CalyxBase", "Compile Command - ")},
-    {"textLabel2_2_2_2", "text",
-     QT_TRANSLATE_NOOP(
+    {"textLabel3_3", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Compile Command - ")}},
+    {"textLabel3", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Search Directories")}},
+    {"CmpHdrDirDeleteBtn", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Delete")}},
+    {"CmpHdrDirEditBtn", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Edit")}},
+    {"CmpHdrDirAddBtn", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Add")}},
+    {"SearchCompileCmdTxt", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Compile Command - ")}},
+    {"textLabel2_2_2_2",
+     "text",
+     {QT_TRANSLATE_NOOP(
          "CalyxBase",
          "Please specify the starting level directories that contain compiler include files and "
          "compiler binary files. The generator will recurse into these directories checking for "
          "whether they are on the compile path, and extracting defines and keywords. Please note "
          "that because the generator recurses, do not specify \"<font face=\"Courier "
-         "New\">C:/</font>\" or \"<font face=\"Courier New\">/usr</font>\" as a directory.")},
-    {"CmpHdrDirListBox", "toolTip",
-     QT_TRANSLATE_NOOP(
+         "New\">C:/</font>\" or \"<font face=\"Courier New\">/usr</font>\" as a directory.")}},
+    {"CmpHdrDirListBox",
+     "toolTip",
+     {QT_TRANSLATE_NOOP(
          "CalyxBase",
          "Specify the starting level directories for all system includes (note sub directories "
-         "are not required to be listed).")},
+         "are not required to be listed).")}},
 
-    {"textLabel3_3_2", "text", QT_TRANSLATE_NOOP("CalyxBase", "Compile Command - ")},
-    {"textLabel2_2_2", "text",
-     QT_TRANSLATE_NOOP(
+    {"textLabel3_3_2", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Compile Command - ")}},
+    {"textLabel2_2_2",
+     "text",
+     {QT_TRANSLATE_NOOP(
          "CalyxBase",
          "Please specify any compiler switches or implicit defines that would effect the nature of "
          "the compilation and/or pre-processing of the system header files. Enter these values as "
-         "comma or line delimted (eg ONE,TWO=2, THREE=3).")},
-    {"DefSwitchCompileCmdTxt", "text", QT_TRANSLATE_NOOP("CalyxBase", "Compile Command - ")},
-    {"textLabel4_3", "text", QT_TRANSLATE_NOOP("CalyxBase", "External Compiler Switches")},
-    {"textLabel4", "text", QT_TRANSLATE_NOOP("CalyxBase", "Implicit Compiler Defines")},
-    {"CmpSwtchEdit", "toolTip",
-     QT_TRANSLATE_NOOP(
+         "comma or line delimted (eg ONE,TWO=2, THREE=3).")}},
+    {"DefSwitchCompileCmdTxt", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Compile Command - ")}},
+    {"textLabel4_3", "text", {QT_TRANSLATE_NOOP("CalyxBase", "External Compiler Switches")}},
+    {"textLabel4", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Implicit Compiler Defines")}},
+    {"CmpSwtchEdit",
+     "toolTip",
+     {QT_TRANSLATE_NOOP(
          "CalyxBase",
-         "Specify all compiler switches that could affect/determine compilation of test files.")},
-    {"CmpDefEdit", "toolTip",
-     QT_TRANSLATE_NOOP("CalyxBase",
-                       "Specify all compiler defines external to the header files that could "
-                       "affect/determine compilation of test files.")},
+         "Specify all compiler switches that could affect/determine compilation of test files.")}},
+    {"CmpDefEdit",
+     "toolTip",
+     {QT_TRANSLATE_NOOP("CalyxBase",
+                        "Specify all compiler defines external to the header files that could "
+                        "affect/determine compilation of test files.")}},
 
-    {"SaveLogBtn", "text", QT_TRANSLATE_NOOP("CalyxBase", "Save Log")},
-    {"AddCompilerBtn", "text", QT_TRANSLATE_NOOP("CalyxBase", "Save Compiler")},
+    {"SaveLogBtn", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Save Log")}},
+    {"AddCompilerBtn", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Save Compiler")}},
 };
 
 const char *const sideBarPrefixes[] = {"P0_", "P1_", "P2_", "P3_", "P4_"};
