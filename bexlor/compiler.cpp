@@ -8,8 +8,6 @@
 
 namespace {
 
-const int timeLimitInMilliseconds = 30'000;
-
 /// The path of the program that a command word stands for, or an empty string.
 QString programPath(const QString &word)
 {
@@ -50,11 +48,20 @@ Compiler findCompiler(const Arguments &arguments)
         command.first() = programPath(command.first());
     for (const QString &item : arguments.switches)
         command << QProcess::splitCommand(item);
-    return {command,         arguments.outputFlag, arguments.objectFlag, arguments.defineFlag,
-            arguments.order, arguments.defines};
+    Compiler compiler;
+    compiler.command = command;
+    compiler.outputFlag = arguments.outputFlag;
+    compiler.objectFlag = arguments.objectFlag;
+    compiler.defineFlag = arguments.defineFlag;
+    compiler.objectExtension = arguments.objectExtension;
+    compiler.order = arguments.order;
+    compiler.defines = arguments.defines;
+    compiler.isCpp = arguments.isCpp;
+    return compiler;
 }
 
-QStringList compileCommand(const Compiler &compiler, const QString &source, const QString &object)
+QStringList compileCommand(const Compiler &compiler, const QString &source, const QString &output,
+                           Product product)
 {
     QStringList words;
     QString joined; // what the next word is joined to
@@ -84,7 +91,7 @@ QStringList compileCommand(const Compiler &compiler, const QString &source, cons
             break;
         case 'e':
             if (outputIsNamed)
-                add(object);
+                add(output);
             break;
         case 'd':
             for (const QString &define : compiler.defines) {
@@ -93,7 +100,8 @@ QStringList compileCommand(const Compiler &compiler, const QString &source, cons
             }
             break;
         case 'j':
-            add(compiler.objectFlag);
+            if (product == Product::Object)
+                add(compiler.objectFlag);
             break;
         case 's':
             add(source);
@@ -111,32 +119,4 @@ QString commandLine(const QStringList &command)
             word = QLatin1Char('"') + word + QLatin1Char('"');
     }
     return words.join(QLatin1Char(' '));
-}
-
-ProgramRun runProgram(const QStringList &command, const QString &directory)
-{
-    ProgramRun run;
-    if (command.isEmpty())
-        return run;
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
-    process.setProcessEnvironment(environment);
-    process.setWorkingDirectory(directory);
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.start(command.first(), command.mid(1));
-    if (!process.waitForStarted())
-        return run;
-    const bool ended = process.waitForFinished(timeLimitInMilliseconds);
-    if (!ended) {
-        process.kill();
-        process.waitForFinished();
-    }
-    run.ending = !ended                                      ? ProgramRun::TimedOut
-               : process.exitStatus() == QProcess::CrashExit ? ProgramRun::Crashed
-                                                             : ProgramRun::Exited;
-    run.exitCode = process.exitCode();
-    run.output = process.readAllStandardOutput();
-    run.errors = process.readAllStandardError();
-    return run;
 }

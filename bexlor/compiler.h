@@ -2,8 +2,6 @@
 
 #include "bexlor/arguments.h"
 
-#include <QByteArray>
-
 /// The user's compiler, ready to be started: from the same command line everything about it is
 /// asked.
 struct Compiler
@@ -12,8 +10,10 @@ struct Compiler
     QString outputFlag;
     QString objectFlag;
     QString defineFlag;
+    QString objectExtension; ///< with its dot, or empty
     QString order;
     QStringList defines;
+    bool isCpp = false;
 };
 
 /// The words of a command as it was typed into one field. The wizard puts quotes around a command
@@ -25,26 +25,14 @@ QStringList commandWords(const QString &command, bool (*isProgram)(const QString
 /// there is no such program the first word stays as it was typed.
 Compiler findCompiler(const Arguments &arguments);
 
+/// What a command is to make of a source file.
+enum class Product { Object, Executable };
+
 /// The command that compiles \a source, in the given order. Where it names an output, that is
-/// \a object. A token without a trailing space is joined to the next one. An output flag that is
-/// empty leaves out the output's name too.
-QStringList compileCommand(const Compiler &compiler, const QString &source, const QString &object);
+/// \a output. A token without a trailing space is joined to the next one. An output flag that is
+/// empty leaves out the output's name too; for an executable the object flag is left out.
+QStringList compileCommand(const Compiler &compiler, const QString &source, const QString &output,
+                           Product product = Product::Object);
 
 /// \a command as one line that a command interpreter takes, words with spaces in double quotes.
 QString commandLine(const QStringList &command);
-
-/// How a program ended, and what it wrote.
-struct ProgramRun
-{
-    enum Ending { Exited, NotStarted, Crashed, TimedOut };
-    Ending ending = NotStarted;
-    int exitCode = -1;
-    QByteArray output;
-    QByteArray errors;
-
-    bool succeeded() const { return ending == Exited && exitCode == 0; }
-};
-
-/// Runs \a command in \a directory with nothing on its standard input and its messages in English,
-/// and waits until it ends. After half a minute it is ended.
-ProgramRun runProgram(const QStringList &command, const QString &directory);

@@ -1,6 +1,7 @@
 #include "bexlor/facts.h"
 
 #include <QDir>
+#include <QRegularExpression>
 
 QList<Macro> parseMacros(const QByteArray &listing)
 {
@@ -41,4 +42,14 @@ QStringList parseSearchPath(const QByteArray &listing)
     }
     directories.removeDuplicates();
     return directories;
+}
+
+QByteArray versionLineOf(const QByteArray &banner)
+{
+    static const QRegularExpression version(QStringLiteral("[A-Za-z].*[0-9]\\.[0-9]"));
+    for (const QByteArray &line : banner.split('\n')) {
+        if (version.match(QString::fromLocal8Bit(line)).hasMatch())
+            return line.simplified();
+    }
+    return {};
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "bexlor/compiler.h"
-
+#include <QByteArray>
 #include <QList>
+#include <QStringList>
 
 /// A predefined macro. The name of a function-like one includes its parameter list.
 struct Macro
@@ -11,11 +11,42 @@ struct Macro
     QByteArray value;
 };
 
+/// A type by its name, with its size and alignment in bytes.
+struct Type
+{
+    QByteArray name;
+    int size = 0;
+    int alignment = 0;
+};
+
+enum class ByteOrder { Unknown, LittleEndian, BigEndian };
+
+/// A name that cannot be declared: an extension keyword or a type that the compiler brings along.
+struct Keyword
+{
+    enum Form {
+        Undetermined,
+        Qualifier,             ///< stands where a qualifier may stand, alone
+        QualifierWithArgument, ///< the same with one argument in parentheses
+        TypeName,              ///< stands for a type
+    };
+    QByteArray name;
+    Form form = Undetermined;
+    QByteArray standIn; ///< of a type: a standard type of the same kind and size
+};
+
 /// What a compiler has told about itself.
 struct Facts
 {
-    QList<Macro> macros;    ///< in the order in which it lists them
+    QByteArray versionLine;
+    QList<Macro> macros;
+    QList<QByteArray> undeterminedMacros; ///< predefined, but with what value is not known
     QStringList searchPath; ///< the header directories that it searches by itself, in its order
+    QList<Type> types;
+    QByteArray sizeType, pointerDifferenceType, wideCharacterType; ///< names of basic types
+    bool charIsUnsigned = false;
+    ByteOrder byteOrder = ByteOrder::Unknown;
+    QList<Keyword> keywords;
 };
 
 /// The macros of a listing as preprocessors print it under -dM: lines "#define NAME VALUE".
@@ -24,3 +55,6 @@ QList<Macro> parseMacros(const QByteArray &listing);
 /// The header directories of a listing as the GNU driver prints it under -v: first those for
 /// quoted names, then those for names in angle brackets. Empty when there is no such listing.
 QStringList parseSearchPath(const QByteArray &listing);
+
+/// The line of \a banner that looks like a name with a version, or an empty text.
+QByteArray versionLineOf(const QByteArray &banner);

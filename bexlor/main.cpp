@@ -6,9 +6,9 @@
 // that usage() does not allow.
 
 #include "bexlor/arguments.h"
-#include "bexlor/compiler.h"
-#include "bexlor/facts.h"
+#include "bexlor/learning.h"
 #include "bexlor/personality.h"
+#include "platform/process_tree.h"
 #include "platform/text_file.h"
 
 #include <QCoreApplication>
@@ -18,6 +18,13 @@
 
 namespace {
 
+using platform::ProgramRun;
+
+const int questionTimeLimit = 30'000; // milliseconds
+
+// Set for tests and measurements: the compiler is not asked in the GNU driver's own way.
+const char *const learnOnly = "BEXLOR_LEARN_ONLY";
+
 void say(const QString &line)
 {
     std::fprintf(stdout, "%s\n", line.toLocal8Bit().constData());
@@ -26,7 +33,8 @@ void say(const QString &line)
 
 void leaveLogs(const QStringList &command, const ProgramRun &run)
 {
-    platform::writeFile(QStringLiteral("compile.bat"), commandLine(command).toLocal8Bit() + '\n');
+    platform::writeTextFile(QStringLiteral("compile.bat"),
+                            commandLine(command) + QLatin1Char('\n'));
     platform::writeFile(QStringLiteral("stdout.log"), run.output);
     platform::writeFile(QStringLiteral("stderr.log"), run.errors);
 }
@@ -46,62 +54,117 @@ QString howItEnded(const ProgramRun &run)
     return QStringLiteral("the compiler returned %1").arg(run.exitCode);
 }
 
-/// Runs one step and leaves its logs; says why when it fails.
-ProgramRun attempt(const QString &step, const QStringList &command, const QString &directory)
+/// What a compiler that understands the GNU driver's options answers to them.
+void askLikeGnu(const Compiler &compiler, const Prober &prober, const QString &folder, Facts &facts)
 {
-    const ProgramRun run = runProgram(command, directory);
-    leaveLogs(command, run);
-    if (!run.succeeded())
-        say(QStringLiteral("%1 failed: %2.").arg(step, howItEnded(run)));
-    return run;
+    if (!platform::writeFile(folder + QLatin1Char('/') + prober.sourceName(), "\n"))
+        return;
+    QStringList question = compiler.command;
+    for (const QString &define : compiler.defines)
+        question << QStringLiteral("-D") + define;
+    const ProgramRun macros = platform::runProgram(
+        question + QStringList {"-dM", "-E", prober.sourceName()}, folder, questionTimeLimit);
+    const ProgramRun searchPath = platform::runProgram(
+        question + QStringList {"-v", "-E", prober.sourceName()}, folder, questionTimeLimit);
+    if (macros.succeeded())
+        facts.macros = parseMacros(macros.output);
+    if (searchPath.succeeded())
+        facts.searchPath = parseSearchPath(searchPath.errors);
 }
 
-bool generate(const Arguments &arguments)
+QByteArray versionLine(const Compiler &compiler, const ProgramRun &firstProbe,
+                       const QString &folder)
 {
-    const QString folder = QFileInfo(arguments.personality).absolutePath();
-    if (!QFileInfo(folder).isDir()) {
-        say(QStringLiteral("The folder of the personality does not exist: %1").arg(folder));
-        return false;
-    }
-    QTemporaryDir workshop;
-    const QString source = QLatin1String(arguments.isCpp ? "probe.cpp" : "probe.c");
-    const QByteArray probe = "int calyx_probe;\n";
-    if (!workshop.isValid() || !platform::writeFile(workshop.filePath(source), probe)) {
-        say(QStringLiteral("No temporary file could be written: %1").arg(workshop.errorString()));
-        return false;
-    }
+    const QByteArray banner = versionLineOf(firstProbe.output + '\n' + firstProbe.errors);
+    if (!banner.isEmpty())
+        return banner;
+    const ProgramRun run = platform::runProgram(compiler.command + QStringList {"--version"},
+                                                folder, questionTimeLimit);
+    return versionLineOf(run.output + '\n' + run.errors);
+}
 
+/// Why a directory should not be given whole, or an empty text.
+QString widthRemark(const QString &directory)
+{
+    const QFileInfo given(directory);
+    const bool isWide = given.isRoot() || given.absoluteFilePath() == QLatin1String("/usr");
+    return isWide ? QStringLiteral("%1 is too wide for a search directory; reading it takes long.")
+                        .arg(directory)
+                  : QString();
+}
+
+TreeNames readDirectories(const QStringList &directories)
+{
+    for (const QString &directory : directories) {
+        const QString remark = widthRemark(directory);
+        if (!remark.isEmpty())
+            say(remark);
+    }
+    if (!directories.isEmpty())
+        say(QStringLiteral("Reading the search directories ..."));
+    const TreeNames tree = readTree(directories);
+    for (const QString &remark : tree.remarks)
+        say(remark);
+    if (!directories.isEmpty()) {
+        say(QStringLiteral("Found %1 names in %2 files.").arg(tree.names.size()).arg(tree.files));
+    }
+    return tree;
+}
+
+/// Asks the compiler for all facts; says why and returns nothing when a step fails.
+std::optional<Facts> learn(const Arguments &arguments, const QString &folder)
+{
     const Compiler compiler = findCompiler(arguments);
+    const Prober prober(compiler, folder, arguments.reduceFileSize);
     say(QStringLiteral("Compiling a first probe ..."));
-    const QString object = QStringLiteral("probe") + arguments.objectExtension;
-    if (!attempt(QStringLiteral("Compiling the first probe"),
-                 compileCommand(compiler, source, object), workshop.path())
-             .succeeded())
-        return false;
+    const Answer first = prober.ask("int calyx_probe;\n");
+    leaveLogs(prober.command(), first.run);
+    if (!first.compiled()) {
+        say(QStringLiteral("Compiling the first probe failed: %1.").arg(howItEnded(first.run)));
+        return {};
+    }
 
-    QStringList query = compiler.command;
-    for (const QString &define : compiler.defines)
-        query << QStringLiteral("-D") + define;
-    say(QStringLiteral("Asking for the predefined macros ..."));
-    const ProgramRun macros = attempt(QStringLiteral("Asking for the predefined macros"),
-                                      query + QStringList {"-dM", "-E", source}, workshop.path());
-    if (!macros.succeeded())
-        return false;
-    say(QStringLiteral("Asking for the search path ..."));
-    const ProgramRun searchPath =
-        attempt(QStringLiteral("Asking for the search path"),
-                query + QStringList {"-v", "-E", source}, workshop.path());
-    if (!searchPath.succeeded())
-        return false;
-    const Facts facts {parseMacros(macros.output), parseSearchPath(searchPath.errors)};
+    Facts facts;
+    facts.versionLine = versionLine(compiler, first.run, folder);
+    if (!qEnvironmentVariableIsSet(learnOnly))
+        askLikeGnu(compiler, prober, folder, facts);
+    const TreeNames tree = readDirectories(arguments.headerDirectories);
+    const Experiment experiment(prober, !arguments.crossCompiler);
+    if (!experiment.readsConstants() && facts.macros.isEmpty()) {
+        say(QStringLiteral("Reading constants back failed: the compiler leaves no file that holds "
+                           "the bytes of a probe's constants."));
+        return {};
+    }
     if (facts.macros.isEmpty()) {
-        say(QStringLiteral("The compiler does not tell its predefined macros under -dM -E."));
+        say(QStringLiteral("Looking for predefined macros ..."));
+        learnMacros(experiment, tree.names, facts);
+    }
+    say(QStringLiteral("Found %1 predefined macros, and %2 whose definition is not known.")
+            .arg(facts.macros.size())
+            .arg(facts.undeterminedMacros.size()));
+    if (experiment.readsConstants()) {
+            say(QStringLiteral("Measuring types ..."));
+        learnTypes(experiment, facts);
+    }
+    say(QStringLiteral("Looking for keywords ..."));
+    learnKeywords(experiment, tree.names, facts);
+    say(QStringLiteral("Found %1 keywords.").arg(facts.keywords.size()));
+    if (facts.searchPath.isEmpty()) {
+        say(QStringLiteral("Looking for the search path ..."));
+        learnSearchPath(experiment, tree.headers, facts);
+    }
+    say(QStringLiteral("Found %1 directories on the search path.").arg(facts.searchPath.size()));
+    say(QStringLiteral("The compiler was started %1 times.").arg(prober.compilersStarted()));
+    return facts;
+}
+
+bool generate(const Arguments &arguments, const QString &folder)
+{
+    const QString destination = QFileInfo(arguments.personality).absolutePath();
+    if (!QFileInfo(destination).isDir()) {
+        say(QStringLiteral("The folder of the personality does not exist: %1").arg(destination));
         return false;
     }
-    say(QStringLiteral("Found %1 macros and %2 search directories.")
-            .arg(facts.macros.size())
-            .arg(facts.searchPath.size()));
-
     QByteArray templateText;
     if (!arguments.templateFile.isEmpty()) {
         QFile file(arguments.templateFile);
@@ -111,8 +174,11 @@ bool generate(const Arguments &arguments)
         }
         templateText = file.readAll();
     }
+    const std::optional<Facts> facts = learn(arguments, folder);
+    if (!facts)
+        return false;
     if (!platform::writeFile(arguments.personality,
-                             personalityText(arguments, facts, templateText))) {
+                             personalityText(arguments, *facts, templateText))) {
         say(QStringLiteral("The personality cannot be written: %1").arg(arguments.personality));
         return false;
     }
@@ -130,5 +196,11 @@ int main(int argc, char *argv[])
         std::fprintf(stderr, "%s\n", usage().toLocal8Bit().constData());
         return 2;
     }
-    return generate(*arguments) ? 0 : 1;
+    QTemporaryDir workshop;
+    if (!workshop.isValid()) {
+        say(QStringLiteral("No temporary folder can be made: %1").arg(workshop.errorString()));
+        return 1;
+    }
+    const platform::ProgramGuard guard(workshop.path());
+    return generate(*arguments, workshop.path()) ? 0 : 1;
 }

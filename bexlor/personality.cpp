@@ -1,6 +1,7 @@
 #include "bexlor/personality.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <algorithm>
 
 namespace {
@@ -18,6 +19,17 @@ const char *const alwaysDefined[] = {
     "__STDC__",
     "__cplusplus",
 };
+
+// Keywords that clang has itself, from its manual ("Language Extensions") and the GCC manual's
+// alternate keywords, all of which it accepts. Those that it knows and cannot use stay out.
+const char *const clangKeywords =
+    "asm typeof __asm __asm__ __inline __inline__ __signed __signed__ __const __const__ __volatile "
+    "__volatile__ __restrict __restrict__ __extension__ __attribute __attribute__ __alignof "
+    "__alignof__ __typeof __typeof__ __auto_type __label__ __thread __real __real__ __imag "
+    "__imag__ __complex __complex__ __builtin_va_list __int128 __int128_t __uint128_t __float128 "
+    "__cdecl __stdcall __fastcall __thiscall __vectorcall __null __nullptr __decltype "
+    "_Complex _Imaginary _Atomic _Bool _Noreturn _Static_assert _Generic _Thread_local _Alignas "
+    "_Alignof";
 
 struct Named
 {
@@ -58,6 +70,30 @@ const Standard cStandards[] = {
 const Standard cppStandards[] = {{199711, "98"}, {201103, "11"}, {201402, "14"},
                                  {201703, "17"}, {202002, "20"}, {202100, "2b"}};
 
+/// What clang's targets are like, for compilers whose architecture it does not have: sizes of int,
+/// long, a pointer, double and long double, and the byte order. Read off "clang -dM -E".
+struct Target
+{
+    const char *name;
+    int sizes[5];
+    ByteOrder byteOrder;
+};
+
+const QByteArray measuredTypes[] = {"int", "long", "void *", "double", "long double"};
+
+const Target targets[] = {
+    {"avr-unknown-unknown", {2, 4, 2, 4, 4}, ByteOrder::LittleEndian},
+    {"msp430-unknown-none-elf", {2, 4, 2, 8, 8}, ByteOrder::LittleEndian},
+    {"arm-unknown-none-eabi", {4, 4, 4, 8, 8}, ByteOrder::LittleEndian},
+    {"armeb-unknown-none-eabi", {4, 4, 4, 8, 8}, ByteOrder::BigEndian},
+    {"i386-unknown-none-elf", {4, 4, 4, 8, 12}, ByteOrder::LittleEndian},
+    {"riscv32-unknown-none-elf", {4, 4, 4, 8, 16}, ByteOrder::LittleEndian},
+    {"powerpc-unknown-none-elf", {4, 4, 4, 8, 16}, ByteOrder::BigEndian},
+    {"x86_64-unknown-none-elf", {4, 8, 8, 8, 16}, ByteOrder::LittleEndian},
+    {"x86_64-w64-windows-gnu", {4, 4, 8, 8, 16}, ByteOrder::LittleEndian},
+    {"powerpc64-unknown-none-elf", {4, 8, 8, 8, 16}, ByteOrder::BigEndian},
+};
+
 const Macro *findMacro(const Facts &facts, const QByteArray &name)
 {
     const auto found = std::find_if(facts.macros.begin(), facts.macros.end(),
@@ -75,13 +111,37 @@ QByteArray firstDefined(const Facts &facts, const Named (&table)[Size])
     return {};
 }
 
+int sizeOf(const Facts &facts, const QByteArray &name)
+{
+    const auto found = std::find_if(facts.types.begin(), facts.types.end(),
+                                    [&name](const Type &type) { return type.name == name; });
+    return found == facts.types.end() ? 0 : found->size;
+}
+
+/// The target whose types differ least from those of the compiler.
+QByteArray nearestTarget(const Facts &facts)
+{
+    const auto differences = [&facts](const Target &target) {
+        int count = facts.byteOrder != ByteOrder::Unknown && facts.byteOrder != target.byteOrder;
+        for (std::size_t i = 0; i < std::size(measuredTypes); ++i) {
+            const int size = sizeOf(facts, measuredTypes[i]);
+            count += size != 0 && size != target.sizes[i];
+        }
+        return count;
+    };
+    const Target *nearest = std::min_element(
+        std::begin(targets), std::end(targets),
+        [&](const Target &a, const Target &b) { return differences(a) < differences(b); });
+    return nearest->name;
+}
+
 QByteArray targetOption(const Facts &facts)
 {
     QByteArray architecture = firstDefined(facts, architectures);
     if (const Macro *width = findMacro(facts, "__riscv_xlen"))
         architecture = "riscv" + width->value;
     if (architecture.isEmpty())
-        return {};
+        return facts.types.isEmpty() ? QByteArray() : "--target=" + nearestTarget(facts) + '\n';
     const QByteArray system = firstDefined(facts, systems);
     return "--target=" + architecture + '-' + (system.isEmpty() ? "unknown-none" : system) + '\n';
 }
@@ -110,15 +170,137 @@ QByteArray standardOption(const Facts &facts, const char *macro, const Standard 
     return QByteArray("-std=") + (!hasPrefix ? "" : strict ? isoPrefix : gnuPrefix) + name + '\n';
 }
 
+/// Language features that a compiler announces by a macro and clang takes by an option: the option
+/// where there is the macro, and where there is none.
+struct Feature
+{
+    const char *macro;
+    const char *option;
+    const char *opposite;
+};
+
+const Feature cppFeatures[] = {
+    {"__EXCEPTIONS", "-fexceptions\n-fcxx-exceptions\n", "-fno-exceptions\n"},
+    {"__GXX_RTTI", "-frtti\n", "-fno-rtti\n"},
+    {"__cpp_sized_deallocation", "-fsized-deallocation\n", "-fno-sized-deallocation\n"},
+    {"__cpp_aligned_new", "-faligned-allocation\n", "-fno-aligned-allocation\n"},
+};
+
+QByteArray featureOptions(const Facts &facts)
+{
+    QByteArray text;
+    for (const Feature &feature : cppFeatures)
+        text += findMacro(facts, feature.macro) ? feature.option : feature.opposite;
+    return text;
+}
+
 QByteArray definition(const QByteArray &name, const QByteArray &value)
 {
     return quotedOption("-D" + name + '=' + value) + '\n';
+}
+
+QByteArray fact(const QByteArray &text)
+{
+    return "#: " + text + '\n';
+}
+
+QByteArray formName(const Keyword &keyword)
+{
+    switch (keyword.form) {
+    case Keyword::Qualifier:
+        return "qualifier";
+    case Keyword::QualifierWithArgument:
+        return "qualifier-with-argument";
+    case Keyword::TypeName:
+        return "type " + (keyword.standIn.isEmpty() ? "unknown" : keyword.standIn);
+    case Keyword::Undetermined:
+        break;
+    }
+    return "undetermined";
+}
+
+/// The facts that no option carries.
+QByteArray factLines(const Arguments &arguments, const Facts &facts)
+{
+    QByteArray text = fact("command " + arguments.command.toLocal8Bit());
+    if (!facts.versionLine.isEmpty())
+        text += fact("version " + facts.versionLine);
+    for (const Type &type : facts.types) {
+        text += fact("type " + type.name + ", size " + QByteArray::number(type.size)
+                     + ", alignment " + QByteArray::number(type.alignment));
+    }
+    if (!facts.types.isEmpty())
+        text += fact(facts.charIsUnsigned ? "char unsigned" : "char signed");
+    if (facts.byteOrder != ByteOrder::Unknown) {
+        const bool isLittle = facts.byteOrder == ByteOrder::LittleEndian;
+        text += fact(isLittle ? "byte-order little" : "byte-order big");
+    }
+    const std::pair<const char *, QByteArray> standardTypes[] = {
+        {"size_t ", facts.sizeType},
+        {"ptrdiff_t ", facts.pointerDifferenceType},
+        {"wchar_t ", facts.wideCharacterType}};
+    for (const auto &[name, type] : standardTypes) {
+        if (!type.isEmpty())
+            text += fact(name + type);
+    }
+    for (const QString &directory : facts.searchPath)
+        text += fact("search-path " + directory.toLocal8Bit());
+    for (const Keyword &keyword : facts.keywords)
+        text += fact("keyword " + keyword.name + ' ' + formName(keyword));
+    for (const QByteArray &name : facts.undeterminedMacros)
+        text += fact("macro " + name + " undetermined");
+    return text;
+}
+
+/// Definitions under which clang reads what the keywords that it lacks are used in.
+QByteArray keywordDefinitions(const Facts &facts)
+{
+    const QList<QByteArray> known = QByteArray(clangKeywords).split(' ');
+    QByteArray text;
+    // From GCC 11 on this attribute takes arguments ("Common Function Attributes"), for clang it
+    // has none.
+    const Macro *gnuVersion = findMacro(facts, "__GNUC__");
+    if (gnuVersion && gnuVersion->value.toInt() >= 11)
+        text += definition("__malloc__(...)", "__malloc__");
+    for (const Keyword &keyword : facts.keywords) {
+        if (known.contains(keyword.name))
+            continue;
+        if (keyword.form == Keyword::Qualifier)
+            text += definition(keyword.name, {});
+        else if (keyword.form == Keyword::QualifierWithArgument)
+            text += definition(keyword.name + "(...)", {});
+        else if (!keyword.standIn.isEmpty())
+            text += definition(keyword.name, keyword.standIn);
+    }
+    return text;
 }
 
 QByteArray pathOption(const char *option, const QString &path)
 {
     const QString absolute = QDir::current().absoluteFilePath(path);
     return QByteArray(option) + ' ' + quotedOption(absolute.toLocal8Bit()) + '\n';
+}
+
+/// Whether \a directory holds a compiler's own headers for the instructions of x86 processors. They
+/// consist of calls to functions that are built into that compiler and no other; clang has headers
+/// of the same names and contents, made for itself.
+bool holdsIntrinsics(const QString &directory)
+{
+    return QFileInfo::exists(directory + QLatin1String("/immintrin.h"));
+}
+
+QByteArray searchPathOptions(const Arguments &arguments, const Facts &facts)
+{
+    QByteArray text;
+    if (!arguments.substituteHeaders.isEmpty())
+        text += pathOption("-isystem", arguments.substituteHeaders);
+    bool usesClangsOwn = false;
+    for (const QString &directory : facts.searchPath) {
+        const bool isTied = !findMacro(facts, "__clang__") && holdsIntrinsics(directory);
+        usesClangsOwn |= isTied;
+        text += pathOption(isTied ? "-idirafter" : "-isystem", directory);
+    }
+    return (usesClangsOwn ? "-nostdlibinc\n" : "-nostdinc\n") + text;
 }
 
 } // namespace
@@ -133,30 +315,28 @@ QByteArray quotedOption(const QByteArray &text)
 QByteArray personalityText(const Arguments &arguments, const Facts &facts,
                            const QByteArray &templateText)
 {
-    QByteArray text = "# Compiler personality generated by Bexlor\n"
-                      "# Compiler command: "
-                    + arguments.command.toLocal8Bit() + '\n';
+    QByteArray text = "# Compiler personality generated by Bexlor\n" + factLines(arguments, facts);
     if (!templateText.isEmpty())
         text += "\n# Template\n" + templateText + (templateText.endsWith('\n') ? "" : "\n");
 
     text += "\n# Language\n" + targetOption(facts)
           + (arguments.isCpp ? standardOption(facts, "__cplusplus", cppStandards, "c++", "gnu++")
                              : standardOption(facts, "__STDC_VERSION__", cStandards, "c", "gnu"));
-    if (findMacro(facts, "__CHAR_UNSIGNED__"))
+    if (arguments.isCpp)
+        text += featureOptions(facts);
+    if (facts.charIsUnsigned)
         text += "-funsigned-char\n";
+    if (facts.wideCharacterType == "unsigned short")
+        text += "-fshort-wchar\n";
 
     text += "\n# Predefined macros\n-undef\n";
     for (const char *name : alwaysDefined)
         text += QByteArray("-U") + name + '\n';
     for (const Macro &macro : facts.macros)
         text += definition(macro.name, macro.value);
+    text += keywordDefinitions(facts);
 
-    text += "\n# Search path\n-nostdinc\n";
-    if (!arguments.substituteHeaders.isEmpty())
-        text += pathOption("-isystem", arguments.substituteHeaders);
-    for (const QString &directory : facts.searchPath + arguments.headerDirectories)
-        text += pathOption("-isystem", directory);
-
+    text += "\n# Search path\n" + searchPathOptions(arguments, facts);
     if (!arguments.forceIncludeFile.isEmpty())
         text += "\n# Included first\n" + pathOption("-include", arguments.forceIncludeFile);
     return text;

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "bexlor/arguments.h"
 #include "bexlor/facts.h"
 
 /// The text of a personality: a file of compiler options that clang reads under --config, one
 /// option a line. It makes clang see the code as the compiler of \a facts does, with what the user
-/// of \a arguments has added: \a templateText comes first, substitute headers and the user's header
-/// directories take part in the search path, the force-include file is included.
+/// of \a arguments has added: \a templateText comes first, substitute headers come before all
+/// others and the force-include file is included. What no option can say stands in lines that begin
+/// with
+/// "#:", one fact each; the README describes them.
 QByteArray personalityText(const Arguments &arguments, const Facts &facts,
                            const QByteArray &templateText);
 

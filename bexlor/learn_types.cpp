@@ -1,0 +1,98 @@
+#include "bexlor/learning.h"
+
+namespace {
+
+const QList<QByteArray> basicTypes {"char",  "short",  "int",         "long",   "long long",
+                                    "float", "double", "long double", "void *", "void (*)(void)"};
+
+const QList<QByteArray> integerTypes {
+    "signed char", "unsigned char", "short",     "unsigned short",     "int", "unsigned int",
+    "long",        "unsigned long", "long long", "unsigned long long", "char"};
+
+/// A member of type \a type and the given name.
+QByteArray declared(const QByteArray &type, const QByteArray &name)
+{
+    return type.endsWith("(*)(void)") ? "void (*" + name + ")(void)" : type + ' ' + name;
+}
+
+/// The one of the integer types that the standard headers' \a name stands for: an object can be
+/// declared again only with the same type. Empty when it is none of them, or when the compiler
+/// does not mind.
+QByteArray typeBehind(const Experiment &experiment, const QByteArray &header,
+                      const QByteArray &name)
+{
+    QList<QByteArray> sources;
+    for (const QByteArray &type : integerTypes) {
+        sources << "#include <" + header + ">\nextern " + name + " calyx_object;\nextern " + type
+                       + " calyx_object;\n";
+    }
+    QByteArray found;
+    const QList<Answer> answers = experiment.prober().askAll(sources);
+    for (qsizetype i = 0; i < answers.size(); ++i) {
+        if (!answers[i].compiled())
+            continue;
+        if (!found.isEmpty())
+            return {};
+        found = integerTypes[i];
+    }
+    return found;
+}
+
+ByteOrder byteOrder(const Experiment &experiment)
+{
+    // 16 bits are the least that every compiler's short has. Read as characters they begin and end
+    // the mark of a text in either order.
+    const QByteArray bytes =
+        experiment.prober()
+            .ask("extern const unsigned short calyx_order[];\n"
+                 "const unsigned short calyx_order[] = {0x4361, 0x6c79, 0x7842, 0x6f75};\n")
+            .bytes;
+    if (bytes.contains("aCylBxuo"))
+        return ByteOrder::LittleEndian;
+    return bytes.contains("CalyxBou") ? ByteOrder::BigEndian : ByteOrder::Unknown;
+}
+
+/// Whether char has no sign. Some compilers take it for the very type that has its range, others
+/// know that it differs from both and can be asked for a value.
+bool charIsUnsigned(const Experiment &experiment)
+{
+    const QList<bool> isSame =
+        experiment.accepted({}, {"extern char calyx_u; extern unsigned char calyx_u;\n",
+                                 "extern char calyx_s; extern signed char calyx_s;\n"});
+    if (isSame[0] != isSame[1])
+        return isSame[0];
+    return experiment.numbers({}, {"(char)-1<0?1:2"}).first() == 2;
+}
+
+} // namespace
+
+void learnTypes(const Experiment &experiment, Facts &facts)
+{
+    // Where a member lies behind a single character tells its alignment.
+    QList<QByteArray> structures;
+    for (qsizetype i = 0; i < basicTypes.size(); ++i) {
+        structures << "struct calyx_" + QByteArray::number(i) + "s { char c; "
+                          + declared(basicTypes[i], "t") + "; };\n";
+    }
+    const QList<bool> has = experiment.accepted({}, structures);
+    QByteArray prelude;
+    QList<QByteArray> names, expressions;
+    for (qsizetype i = 0; i < basicTypes.size(); ++i) {
+        if (!has[i])
+            continue;
+        const QByteArray size = "sizeof(" + basicTypes[i] + ')';
+        prelude += structures[i];
+        names << basicTypes[i];
+        expressions << size << "sizeof(struct calyx_" + QByteArray::number(i) + "s)-" + size;
+    }
+    const QList<std::optional<int>> values = experiment.numbers(prelude, expressions);
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        if (values[2 * i] && values[2 * i + 1])
+            facts.types.append({names[i], *values[2 * i], *values[2 * i + 1]});
+    }
+    facts.charIsUnsigned = charIsUnsigned(experiment);
+    facts.byteOrder = byteOrder(experiment);
+    facts.sizeType = typeBehind(experiment, "stddef.h", "size_t");
+    facts.pointerDifferenceType = typeBehind(experiment, "stddef.h", "ptrdiff_t");
+    facts.wideCharacterType = typeBehind(experiment, "stddef.h", "wchar_t");
+}

@@ -1,0 +1,111 @@
+#include "platform/process_tree.h"
+
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <filesystem>
+#include <set>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace platform {
+
+namespace {
+
+// A process of its own that outlives this one by a moment. Programs report their process group to
+// it before they run, and are taken from its list when they have ended. Once the pipe is closed,
+// for whatever reason, it ends those that are left.
+struct Report
+{
+    pid_t group;
+    bool begins;
+};
+
+int reports = -1; // the end of the pipe that is written to
+pid_t guardian = -1;
+
+void report(pid_t group, bool begins)
+{
+    const Report record {group, begins};
+    if (reports >= 0 && write(reports, &record, sizeof record) < 0)
+        return; // the guardian is gone, and nothing is left to do about it
+}
+
+[[noreturn]] void guard(int source, const std::string &folder)
+{
+    std::set<pid_t> groups;
+    Report record;
+    ssize_t size;
+    while ((size = read(source, &record, sizeof record)) != 0) {
+        if (size < 0 && errno != EINTR)
+            break;
+        if (size != sizeof record)
+            continue;
+        if (record.begins)
+            groups.insert(record.group);
+        else
+            groups.erase(record.group);
+    }
+    for (const pid_t group : groups)
+        kill(-group, SIGKILL);
+    std::error_code ignored;
+    std::filesystem::remove_all(folder, ignored);
+    _exit(0);
+}
+
+} // namespace
+
+ProgramGuard::ProgramGuard(const QString &folder)
+{
+    int ends[2];
+    if (pipe2(ends, O_CLOEXEC) != 0)
+        return;
+    guardian = fork();
+    if (guardian == 0) {
+        // Whatever ends this program must not end the guardian with it, and nobody may wait for
+        // output from the guardian.
+        setsid();
+        for (const int number : {SIGINT, SIGTERM, SIGHUP, SIGPIPE})
+            std::signal(number, SIG_IGN);
+        close(ends[1]);
+        for (const int stream : {0, 1, 2})
+            close(stream);
+        guard(ends[0], folder.toLocal8Bit().toStdString());
+    }
+    close(ends[0]);
+    reports = ends[1];
+}
+
+ProgramGuard::~ProgramGuard()
+{
+    if (reports < 0)
+        return;
+    close(reports);
+    reports = -1;
+    waitpid(guardian, nullptr, 0);
+}
+
+ProcessTree::ProcessTree(QProcess &process) : m_process(process)
+{
+    m_process.setChildProcessModifier([] {
+        setpgid(0, 0);
+        report(getpid(), true);
+    });
+}
+
+void ProcessTree::started()
+{
+    m_id = m_process.processId();
+}
+
+void ProcessTree::end()
+{
+    if (m_id <= 0)
+        return;
+    kill(-static_cast<pid_t>(m_id), SIGKILL);
+    report(static_cast<pid_t>(m_id), false);
+    m_id = 0;
+}
+
+} // namespace platform

@@ -1,0 +1,59 @@
+#include "platform/program_run.h"
+
+#include "platform/process_tree.h"
+
+#include <QDeadlineTimer>
+#include <QProcess>
+
+namespace platform {
+
+namespace {
+
+const qsizetype outputLimit = 1'000'000;
+const int milliseconds = 50; // between two looks at what the program has written
+
+/// Adds to \a kept what fits and drops the rest, so that a program that never stops printing does
+/// not fill the memory.
+void keep(QByteArray &kept, const QByteArray &more)
+{
+    kept += more.left(outputLimit - kept.size());
+}
+
+} // namespace
+
+ProgramRun runProgram(const QStringList &command, const QString &directory, int timeLimit)
+{
+    ProgramRun run;
+    if (command.isEmpty())
+        return run;
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(directory);
+    process.setStandardInputFile(QProcess::nullDevice());
+    ProcessTree tree(process);
+    process.start(command.first(), command.mid(1));
+    if (!process.waitForStarted())
+        return run;
+    tree.started();
+
+    const QDeadlineTimer deadline(timeLimit);
+    while (process.state() != QProcess::NotRunning && !deadline.hasExpired()) {
+        process.waitForReadyRead(milliseconds);
+        keep(run.output, process.readAllStandardOutput());
+        keep(run.errors, process.readAllStandardError());
+    }
+    const bool timedOut = process.state() != QProcess::NotRunning;
+    tree.end();
+    process.waitForFinished();
+    keep(run.output, process.readAllStandardOutput());
+    keep(run.errors, process.readAllStandardError());
+    run.ending = timedOut                                    ? ProgramRun::TimedOut
+               : process.exitStatus() == QProcess::CrashExit ? ProgramRun::Crashed
+                                                             : ProgramRun::Exited;
+    run.exitCode = process.exitCode();
+    return run;
+}
+
+} // namespace platform

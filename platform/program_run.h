@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QByteArray>
+#include <QStringList>
+
+namespace platform {
+
+/// How a program ended, and what it wrote.
+struct ProgramRun
+{
+    enum Ending { Exited, NotStarted, Crashed, TimedOut };
+    Ending ending = NotStarted;
+    int exitCode = -1;
+    QByteArray output; ///< its first megabyte, like the next
+    QByteArray errors;
+
+    bool succeeded() const { return ending == Exited && exitCode == 0; }
+};
+
+/// Runs \a command, a program and its arguments, in \a directory with nothing on its standard input
+/// and its messages in English, and waits until it ends. After \a timeLimit milliseconds it is
+/// ended. When it ends, all that it has started ends with it.
+ProgramRun runProgram(const QStringList &command, const QString &directory, int timeLimit);
+
+} // namespace platform
