@@ -1,25 +1,17 @@
 #include "bexlor/compiler.h"
 
-#include "platform/paths.h"
+#include "platform/program_search.h"
 
 #include <QFileInfo>
 #include <QProcess>
-#include <QStandardPaths>
+#include <QRegularExpression>
 
 namespace {
 
-/// The path of the program that a command word stands for, or an empty string.
 QString programPath(const QString &word)
 {
-    for (const char *suffix : {"", ".exe", ".com", ".bat"}) {
-        const QString path = platform::hostPath(word + QLatin1String(suffix));
-        const QString found = QStandardPaths::findExecutable(path);
-        if (!found.isEmpty())
-            return found;
-        if (QFileInfo(path).isFile() && QFileInfo(path).isExecutable())
-            return QFileInfo(path).absoluteFilePath();
-    }
-    return QString();
+    const QString found = platform::findCommand(word, platform::searchPathVariable());
+    return found.isEmpty() ? QString() : QFileInfo(found).absoluteFilePath();
 }
 
 bool isProgram(const QString &word)
@@ -41,15 +33,30 @@ QStringList commandWords(const QString &command, bool (*isProgram)(const QString
     return !words.isEmpty() && isProgram(words.first()) ? words : QProcess::splitCommand(inside);
 }
 
+QString withAbsolutePath(const QString &word)
+{
+    // What stands before a path in one word: an option with a sign behind it, a single letter, or
+    // nothing.
+    static const QRegularExpression start(
+        QStringLiteral("^(?:(?:--?|/)[A-Za-z][-A-Za-z]*[=:,]|[-/][A-Za-z])?"));
+    if (QFileInfo(word).isAbsolute() && QFileInfo::exists(word))
+        return word;
+    const QString option = start.match(word).captured();
+    const QFileInfo file(word.mid(option.size()));
+    const bool isRelative = !file.filePath().isEmpty() && file.isRelative() && file.exists();
+    return isRelative ? option + file.absoluteFilePath() : word;
+}
+
 Compiler findCompiler(const Arguments &arguments)
 {
-    QStringList command = commandWords(arguments.command, &isProgram);
-    if (!command.isEmpty() && isProgram(command.first()))
-        command.first() = programPath(command.first());
-    for (const QString &item : arguments.switches)
-        command << QProcess::splitCommand(item);
     Compiler compiler;
-    compiler.command = command;
+    QStringList words = commandWords(arguments.command, &isProgram);
+    for (const QString &item : arguments.switches)
+        words << QProcess::splitCommand(item);
+    for (qsizetype i = 0; i < words.size(); ++i)
+        compiler.command << (i == 0 ? words[i] : withAbsolutePath(words[i]));
+    if (!words.isEmpty() && isProgram(words.first()))
+        compiler.command.first() = programPath(words.first());
     compiler.outputFlag = arguments.outputFlag;
     compiler.objectFlag = arguments.objectFlag;
     compiler.defineFlag = arguments.defineFlag;
@@ -57,6 +64,7 @@ Compiler findCompiler(const Arguments &arguments)
     compiler.order = arguments.order;
     compiler.defines = arguments.defines;
     compiler.isCpp = arguments.isCpp;
+    compiler.isCross = arguments.crossCompiler;
     return compiler;
 }
 

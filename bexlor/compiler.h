@@ -14,6 +14,7 @@ struct Compiler
     QString order;
     QStringList defines;
     bool isCpp = false;
+    bool isCross = false;
 };
 
 /// The words of a command as it was typed into one field. The wizard puts quotes around a command
@@ -21,8 +22,12 @@ struct Compiler
 /// which of the two it is.
 QStringList commandWords(const QString &command, bool (*isProgram)(const QString &word));
 
-/// The compiler of \a arguments, its program looked for like the command interpreter does. When
-/// there is no such program the first word stays as it was typed.
+/// \a word with the relative path in it made absolute, if it is the name of a file or directory
+/// here, alone or behind an option, since probes are compiled elsewhere.
+QString withAbsolutePath(const QString &word);
+
+/// The compiler of \a arguments, its program found where the wizard finds it too. When there is no
+/// such program the first word stays as it was typed.
 Compiler findCompiler(const Arguments &arguments);
 
 /// What a command is to make of a source file.

@@ -102,7 +102,7 @@ std::optional<QSet<qsizetype>> confirmed(const Experiment &experiment, const QLi
         const QList<Answer> answers = experiment.prober().askAll(sources);
         QList<QList<qsizetype>> next;
         for (qsizetype i = 0; i < open.size(); ++i) {
-            const QSet<int> &lines = answers[i].lines;
+            const QSet<int> &lines = answers[i].allLines;
             QList<qsizetype> silent;
             for (qsizetype j = 0; j < open[i].size(); ++j) {
                 if (!lines.contains(int(j) + 2))
@@ -232,6 +232,13 @@ void learnFunctionLike(const Experiment &experiment, const QByteArray &prelude,
     }
 }
 
+/// Whether a compiler may refuse to have the macro defined again or taken back, whatever its value
+/// (ISO C 6.10.8, ISO C++ [cpp.predefined]).
+bool isProtected(const QByteArray &name)
+{
+    return name.startsWith("__STDC") || name == "__cplusplus";
+}
+
 /// The value of \a name with every other macro taken back, so that nothing in it is replaced.
 std::optional<QByteArray> bareValue(const Experiment &experiment, const QByteArray &prelude,
                                     const QByteArray &name, const QByteArray &replacedValue,
@@ -239,7 +246,7 @@ std::optional<QByteArray> bareValue(const Experiment &experiment, const QByteArr
 {
     QByteArray undefined;
     for (const QByteArray &other : defined) {
-        if (other != name && !other.startsWith("__STDC") && other != "__cplusplus")
+        if (other != name && !isProtected(other))
             undefined += "#undef " + other + '\n';
     }
     if (undefined.size() > experiment.prober().byteLimit())
@@ -274,14 +281,24 @@ void learnMacros(const Experiment &experiment, const QList<Name> &names, Facts &
     }
 
     const std::optional<QSet<qsizetype>> exact = confirmed(experiment, objectLike);
+    QList<Macro> doubtful;
     for (qsizetype i = 0; i < objectLike.size(); ++i) {
-        Macro &macro = objectLike[i];
-        if (exact && !exact->contains(i)) {
-            // Something in the value has been replaced, or the compiler lets nobody touch it.
-            macro.value = bareValue(experiment, prelude, macro.name, macro.value, defined)
-                              .value_or(macro.value);
-        }
-        facts.macros << macro;
+        if (!exact || exact->contains(i) || isProtected(objectLike[i].name))
+            facts.macros << objectLike[i];
+        else
+            doubtful << objectLike[i];
+    }
+    // Something in these values has been replaced, or a string does not say what it was made of.
+    for (Macro &macro : doubtful) {
+        macro.value =
+            bareValue(experiment, prelude, macro.name, macro.value, defined).value_or(macro.value);
+    }
+    const QSet<qsizetype> exactNow = confirmed(experiment, doubtful).value_or(QSet<qsizetype>());
+    for (qsizetype i = 0; i < doubtful.size(); ++i) {
+        if (exactNow.contains(i))
+            facts.macros << doubtful[i];
+        else
+            facts.undeterminedMacros << doubtful[i].name;
     }
 
     learnFunctionLike(experiment, prelude, functionLike, facts);

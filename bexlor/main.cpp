@@ -31,12 +31,13 @@ void say(const QString &line)
     std::fflush(stdout);
 }
 
+const char *const logFiles[] = {"compile.bat", "stdout.log", "stderr.log"};
+
 void leaveLogs(const QStringList &command, const ProgramRun &run)
 {
-    platform::writeTextFile(QStringLiteral("compile.bat"),
-                            commandLine(command) + QLatin1Char('\n'));
-    platform::writeFile(QStringLiteral("stdout.log"), run.output);
-    platform::writeFile(QStringLiteral("stderr.log"), run.errors);
+    platform::writeTextFile(logFiles[0], commandLine(command) + QLatin1Char('\n'));
+    platform::writeFile(logFiles[1], run.output);
+    platform::writeFile(logFiles[2], run.errors);
 }
 
 QString howItEnded(const ProgramRun &run)
@@ -129,7 +130,7 @@ std::optional<Facts> learn(const Arguments &arguments, const QString &folder)
     if (!qEnvironmentVariableIsSet(learnOnly))
         askLikeGnu(compiler, prober, folder, facts);
     const TreeNames tree = readDirectories(arguments.headerDirectories);
-    const Experiment experiment(prober, !arguments.crossCompiler);
+    const Experiment experiment(prober, !compiler.isCross);
     if (!experiment.readsConstants() && facts.macros.isEmpty()) {
         say(QStringLiteral("Reading constants back failed: the compiler leaves no file that holds "
                            "the bytes of a probe's constants."));
@@ -143,7 +144,7 @@ std::optional<Facts> learn(const Arguments &arguments, const QString &folder)
             .arg(facts.macros.size())
             .arg(facts.undeterminedMacros.size()));
     if (experiment.readsConstants()) {
-            say(QStringLiteral("Measuring types ..."));
+        say(QStringLiteral("Measuring types ..."));
         learnTypes(experiment, facts);
     }
     say(QStringLiteral("Looking for keywords ..."));
@@ -158,22 +159,37 @@ std::optional<Facts> learn(const Arguments &arguments, const QString &folder)
     return facts;
 }
 
-bool generate(const Arguments &arguments, const QString &folder)
+/// Why the files that the user names cannot be used, or an empty text.
+QString problemWith(const Arguments &arguments)
 {
     const QString destination = QFileInfo(arguments.personality).absolutePath();
-    if (!QFileInfo(destination).isDir()) {
-        say(QStringLiteral("The folder of the personality does not exist: %1").arg(destination));
+    if (!QFileInfo(destination).isDir())
+        return QStringLiteral("The folder of the personality does not exist: %1").arg(destination);
+    if (!arguments.templateFile.isEmpty() && !platform::readTextFile(arguments.templateFile))
+        return QStringLiteral("The template cannot be read: %1").arg(arguments.templateFile);
+    if (!arguments.forceIncludeFile.isEmpty() && !QFileInfo(arguments.forceIncludeFile).isFile()) {
+        return QStringLiteral("The force-include file does not exist: %1")
+            .arg(arguments.forceIncludeFile);
+    }
+    if (!arguments.substituteHeaders.isEmpty() && !QFileInfo(arguments.substituteHeaders).isDir()) {
+        return QStringLiteral("The folder of substitute headers does not exist: %1")
+            .arg(arguments.substituteHeaders);
+    }
+    return QString();
+}
+
+bool generate(const Arguments &arguments, const QString &folder)
+{
+    // What an earlier run has left would be taken for this one's.
+    for (const char *file : logFiles)
+        QFile::remove(file);
+    const QString problem = problemWith(arguments);
+    if (!problem.isEmpty()) {
+        say(problem);
         return false;
     }
-    QByteArray templateText;
-    if (!arguments.templateFile.isEmpty()) {
-        QFile file(arguments.templateFile);
-        if (!file.open(QIODevice::ReadOnly)) {
-            say(QStringLiteral("The template cannot be read: %1").arg(arguments.templateFile));
-            return false;
-        }
-        templateText = file.readAll();
-    }
+    const QByteArray templateText =
+        platform::readTextFile(arguments.templateFile).value_or(QString()).toLocal8Bit();
     const std::optional<Facts> facts = learn(arguments, folder);
     if (!facts)
         return false;

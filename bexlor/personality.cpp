@@ -223,6 +223,8 @@ QByteArray formName(const Keyword &keyword)
 QByteArray factLines(const Arguments &arguments, const Facts &facts)
 {
     QByteArray text = fact("command " + arguments.command.toLocal8Bit());
+    for (const QString &item : arguments.switches)
+        text += fact("switch " + item.toLocal8Bit());
     if (!facts.versionLine.isEmpty())
         text += fact("version " + facts.versionLine);
     for (const Type &type : facts.types) {
@@ -289,6 +291,11 @@ bool holdsIntrinsics(const QString &directory)
     return QFileInfo::exists(directory + QLatin1String("/immintrin.h"));
 }
 
+bool hasHeaders(const QString &directory)
+{
+    return !QDir(directory).entryList({QStringLiteral("*.h")}, QDir::Files).isEmpty();
+}
+
 QByteArray searchPathOptions(const Arguments &arguments, const Facts &facts)
 {
     QByteArray text;
@@ -299,6 +306,11 @@ QByteArray searchPathOptions(const Arguments &arguments, const Facts &facts)
         const bool isTied = !findMacro(facts, "__clang__") && holdsIntrinsics(directory);
         usesClangsOwn |= isTied;
         text += pathOption(isTied ? "-idirafter" : "-isystem", directory);
+    }
+    for (const QString &directory : arguments.headerDirectories) {
+        // What the user has given and the compiler does not search must not hide anything.
+        if (!facts.searchPath.contains(QDir(directory).canonicalPath()) && hasHeaders(directory))
+            text += pathOption("-idirafter", directory);
     }
     return (usesClangsOwn ? "-nostdlibinc\n" : "-nostdinc\n") + text;
 }
@@ -332,8 +344,12 @@ QByteArray personalityText(const Arguments &arguments, const Facts &facts,
     text += "\n# Predefined macros\n-undef\n";
     for (const char *name : alwaysDefined)
         text += QByteArray("-U") + name + '\n';
-    for (const Macro &macro : facts.macros)
-        text += definition(macro.name, macro.value);
+    for (const Macro &macro : facts.macros) {
+        // Clang puts the file's own folder in the place of this, and has no way to write it.
+        const bool canBeWritten = !macro.value.contains("<CFGDIR>");
+        text += canBeWritten ? definition(macro.name, macro.value)
+                             : fact("macro " + macro.name + " undetermined");
+    }
     text += keywordDefinitions(facts);
 
     text += "\n# Search path\n" + searchPathOptions(arguments, facts);

@@ -12,7 +12,15 @@
 
 namespace {
 
-const int timeLimit = 60'000; // milliseconds for one compilation
+const int usualTimeLimit = 60'000; // milliseconds for one compilation
+
+/// The same, or what tests set.
+int timeLimit()
+{
+    const int set = qEnvironmentVariableIntValue("BEXLOR_TIME_LIMIT");
+    return set > 0 ? set : usualTimeLimit;
+}
+
 const qint64 largestObject = 64'000'000;
 
 /// The bytes of all files in \a folder but the source, the most likely object first.
@@ -113,12 +121,20 @@ Answer Prober::askIn(const QString &folder, const QByteArray &source, Product pr
 {
     Answer answer;
     QDir().mkdir(folder);
-    if (!platform::writeFile(folder + QLatin1Char('/') + sourceName(), source))
+    // Without an object flag a native compiler makes a program of every probe.
+    const bool needsMain =
+        product == Product::Object && m_compiler.objectFlag.isEmpty() && !m_compiler.isCross;
+    const QByteArray text = needsMain ? source + "int main(void) { return 0; }\n" : source;
+    if (!platform::writeFile(folder + QLatin1Char('/') + sourceName(), text))
         return answer;
     ++m_started;
-    answer.run = platform::runProgram(command(product), folder, timeLimit);
-    answer.lines =
-        namedLines(answer.run.errors + '\n' + answer.run.output, sourceName().toLatin1());
+    answer.run = platform::runProgram(command(product), folder, timeLimit());
+    const QByteArray messages = answer.run.errors + '\n' + answer.run.output;
+    const QByteArray name = sourceName().toLatin1();
+    answer.allLines = namedLines(messages, name);
+    answer.lines = namedLines(messages, name, true);
+    if (answer.lines.isEmpty())
+        answer.lines = answer.allLines;
     if (answer.compiled() && product == Product::Object)
         answer.bytes = leftBytes(folder, sourceName(), m_compiler.objectExtension);
     return answer;
@@ -150,33 +166,29 @@ Answer Prober::askByRunning(const QByteArray &source) const
         for (const QString &name : {QStringLiteral("probe.exe"), QStringLiteral("a.out")}) {
             const QString program = folder + QLatin1Char('/') + name;
             if (QFile::exists(program))
-                answer.bytes = platform::runProgram({program}, folder, timeLimit).output;
+                answer.bytes = platform::runProgram({program}, folder, timeLimit()).output;
         }
     }
     QDir(folder).removeRecursively();
     return answer;
 }
 
-QSet<int> namedLines(const QByteArray &messages, const QByteArray &source)
+QSet<int> namedLines(const QByteArray &messages, const QByteArray &source, bool ofErrors)
 {
     static const QRegularExpression number(QStringLiteral("^[^0-9\\n]{1,10}?([0-9]+)"));
     static const QRegularExpression isError(QStringLiteral("error|fatal"),
                                             QRegularExpression::CaseInsensitiveOption);
-    QSet<int> lines, linesOfErrors;
+    QSet<int> lines;
     for (const QByteArray &message : messages.split('\n')) {
         const qsizetype name = message.indexOf(source);
         if (name < 0)
             continue;
         const QString behind = QString::fromLatin1(message.mid(name + source.size()));
         const QRegularExpressionMatch match = number.match(behind);
-        if (!match.hasMatch())
-            continue;
-        const int line = match.captured(1).toInt();
-        lines << line;
-        if (isError.match(behind).hasMatch())
-            linesOfErrors << line;
+        if (match.hasMatch() && (!ofErrors || isError.match(behind).hasMatch()))
+            lines << match.captured(1).toInt();
     }
-    return linesOfErrors.isEmpty() ? lines : linesOfErrors;
+    return lines;
 }
 
 QByteArray objectBytes(const QByteArray &file)

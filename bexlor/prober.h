@@ -11,8 +11,9 @@
 struct Answer
 {
     platform::ProgramRun run;
-    QSet<int> lines;  ///< the lines of the probe that its messages name, the first is 1
-    QByteArray bytes; ///< of the object file, read from hexadecimal text where it is that
+    QSet<int> lines;    ///< of the probe that its errors name, or else its other messages
+    QSet<int> allLines; ///< that any message names; the first line is 1
+    QByteArray bytes;   ///< of the object file, read from hexadecimal text where it is that
 
     bool compiled() const { return run.succeeded(); }
 };
@@ -52,9 +53,8 @@ private:
 };
 
 /// The line numbers that \a messages give for the file \a source, whatever stands around them:
-/// "x.c:12", "x.c(12)", "\"x.c\", line 12". Where any of the messages is an error, only those of
-/// errors count.
-QSet<int> namedLines(const QByteArray &messages, const QByteArray &source);
+/// "x.c:12", "x.c(12)", "\"x.c\", line 12". Those of errors only, if \a ofErrors is set.
+QSet<int> namedLines(const QByteArray &messages, const QByteArray &source, bool ofErrors = false);
 
 /// The bytes that an object file holds: as it is; for the relocatable format of the ASxxxx
 /// assemblers, Intel HEX and S-records, what its hexadecimal digits stand for; for ca65's format,

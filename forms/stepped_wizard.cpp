@@ -65,9 +65,13 @@ SteppedWizard::SteppedWizard(QWidget *parent, Qt::WindowFlags flags) : QWizard(p
 
 void SteppedWizard::showPage(const WizardPage *page)
 {
+    if (currentId() < 0)
+        return;                       // the wizard has been left
     const QList<int> ids = pageIds(); // ascending, as the pages were added
     const auto isPage = [this, page](int id) { return QWizard::page(id) == page; };
-    const int target = *std::find_if(ids.begin(), ids.end(), isPage);
+    const auto found = std::find_if(ids.begin(), ids.end(), isPage);
+    Q_ASSERT(found != ids.end());
+    const int target = *found;
 
     // Walking there, rather than jumping, keeps the toolkit's history in the fixed order.
     setUpdatesEnabled(false);

@@ -27,7 +27,7 @@ public:
     explicit SteppedWizard(QWidget *parent = nullptr, Qt::WindowFlags flags = {});
 
     /// Shows \a page, one of the wizard's. Back then leads to the page before it in the fixed
-    /// order, whichever page was shown last.
+    /// order, whichever page was shown last. Does nothing once the wizard has been left.
     void showPage(const WizardPage *page);
 
     /// Whether Next is enabled while \a page is shown; true until set.

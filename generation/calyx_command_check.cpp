@@ -11,7 +11,8 @@ bool Calyx::checkExeCommand()
     const QString commandLine = CmpExeEdit->text();
     if (commandLine.isEmpty())
         return false;
-    const bool found = commandIsFound(commandWord(commandLine), platform::searchPathVariable());
+    const bool found =
+        !platform::findCommand(commandWord(commandLine), platform::searchPathVariable()).isEmpty();
     const bool valid = found && !commandLine.contains(QLatin1String("<specify"));
     const QString problem = found ? cmdSpecifyText : cmdNotOnPathText;
     setForegroundColour(CmpExeEdit, valid ? Qt::black : Qt::red);

@@ -29,7 +29,7 @@ const LogFile logFiles[] = {
 
 // A line is laid out anew with every read that makes it longer, so that one without end would
 // freeze the window; beyond this many characters it is shown in pieces.
-const int longestLine = 100'000;
+const int longestLine = 8'000;
 
 } // namespace
 
@@ -110,13 +110,15 @@ void Calyx::showFailureDetails()
 
 void Calyx::showLogFile(const QString &name)
 {
-    QString text = platform::readTextFile(name).value_or(QString());
-    QTextStream stream(&text);
-    QString line;
-    while (stream.readLineInto(&line)) {
-        DetailsText->append(line);
-        DetailsText->append(QStringLiteral("\n"));
-    }
+    std::optional<QString> text = platform::readTextFile(name);
+    if (!text)
+        return;
+    // Each line is followed by an empty one; all are appended at once, since appending lays out.
+    QTextStream stream(&*text);
+    QString line, lines;
+    while (stream.readLineInto(&line))
+        lines += line + QLatin1String("\n\n");
+    DetailsText->append(lines);
 }
 
 void Calyx::SaveLogBtn_clicked()

@@ -3,12 +3,14 @@
 #include <QString>
 
 /// The program's own paths use the backslash as separator on every system, and so do the fields,
-/// the catalogue and the generator's arguments. These functions lead to the host's own paths.
+/// the catalogue and the generator's arguments.
 namespace platform {
 
-/// \a path as the host's file system takes it. On a POSIX host every backslash becomes a slash; an
-/// absolute path behind a backslash stands for itself, as when a relative path is resolved, so that
-/// "/usr/bin\/opt/cc" is "/opt/cc".
+/// \a path as the host's file system takes it. On a POSIX host every backslash becomes a slash.
 QString hostPath(const QString &path);
+
+/// The host's path of \a name in \a directory. On a POSIX host a name that is an absolute path
+/// stands for itself, as when a relative path is resolved.
+QString hostPath(const QString &directory, const QString &name);
 
 } // namespace platform

@@ -4,8 +4,12 @@ namespace platform {
 
 QString hostPath(const QString &path)
 {
-    const qsizetype absolute = path.lastIndexOf(QLatin1String("\\/"));
-    return path.mid(absolute + 1).replace(QLatin1Char('\\'), QLatin1Char('/'));
+    return QString(path).replace(QLatin1Char('\\'), QLatin1Char('/'));
+}
+
+QString hostPath(const QString &directory, const QString &name)
+{
+    return hostPath(name.startsWith(QLatin1Char('/')) ? name : directory + QLatin1Char('/') + name);
 }
 
 } // namespace platform

@@ -1,10 +1,24 @@
 #include "platform/program_search.h"
 
+#include "platform/paths.h"
+
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace platform {
+
+namespace {
+
+bool opens(const QString &path)
+{
+    // Opening a pipe would wait for its other end.
+    return QFileInfo(path).isFile() && QFile(path).open(QIODevice::ReadOnly);
+}
+
+} // namespace
 
 QString searchPathVariable()
 {
@@ -12,6 +26,31 @@ QString searchPathVariable()
     if (!qEnvironmentVariableIsSet("PATH"))
         return QString();
     return qEnvironmentVariable("PATH").replace(QDir::listSeparator(), QLatin1Char(';'));
+}
+
+QStringList programCandidates(const QString &word, const QString &searchPath)
+{
+    QStringList candidates {hostPath(QStringLiteral("."), word + QLatin1String(".exe"))};
+    if (searchPath.isNull())
+        return candidates;
+    for (const QString &directory : searchPath.split(QLatin1Char(';'))) {
+        for (const char *suffix : {"", ".exe", ".com", ".bat"})
+            candidates << hostPath(directory, word + QLatin1String(suffix));
+    }
+    return candidates;
+}
+
+QString findCommand(const QString &word, const QString &searchPath)
+{
+    if (word.contains(QLatin1Char('\\'))) {
+        const QString path = hostPath(word);
+        return QFileInfo::exists(path) ? path : QString();
+    }
+    for (const QString &candidate : programCandidates(word, searchPath)) {
+        if (opens(candidate))
+            return candidate;
+    }
+    return QString();
 }
 
 QString findProgram(const QString &name)

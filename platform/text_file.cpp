@@ -8,7 +8,7 @@ namespace platform {
 std::optional<QString> readTextFile(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
         return {};
     return QString::fromLocal8Bit(file.readAll());
 }

@@ -1,5 +1,7 @@
 #include "bexlor/compiler.h"
 
+#include <QDir>
+#include <QTemporaryDir>
 #include <QTest>
 
 class TestCompiler : public QObject
@@ -30,6 +32,36 @@ private slots:
         QTEST(commandWords(command, isProgram), "words");
     }
 
+    void makesRelativePathsAbsolute_data()
+    {
+        QTest::addColumn<QString>("word");
+        QTest::addColumn<QString>("absolute"); // "@" stands for the current folder
+        QTest::newRow("file") << "first.h"
+                              << "@/first.h";
+        QTest::newRow("behind a letter") << "-Iinc dir"
+                                         << "-I@/inc dir";
+        QTest::newRow("behind a sign") << "--sysroot=inc dir"
+                                       << "--sysroot=@/inc dir";
+        QTest::newRow("no file") << "-Inowhere"
+                                 << "-Inowhere";
+        QTest::newRow("an option") << "-O2"
+                                   << "-O2";
+        QTest::newRow("absolute") << "/usr"
+                                  << "/usr";
+    }
+    void makesRelativePathsAbsolute()
+    {
+        QFETCH(QString, word);
+        QFETCH(QString, absolute);
+        const QTemporaryDir folder;
+        QDir(folder.path()).mkdir("inc dir");
+        QVERIFY(QFile(folder.filePath("first.h")).open(QIODevice::WriteOnly));
+        QDir::setCurrent(folder.path());
+        const QString made = withAbsolutePath(word);
+        QCOMPARE(made, absolute.replace("@", QDir::currentPath()));
+        QDir::setCurrent(QDir::rootPath());
+    }
+
     void ordersTheCommand_data()
     {
         QTest::addColumn<QString>("order");
@@ -55,7 +87,13 @@ private slots:
     {
         QFETCH(QString, order);
         QFETCH(QString, outputFlag);
-        const Compiler compiler {{"cc", "-m32"}, outputFlag, "-c", "-D", order, {"A", "B=1 2"}};
+        Compiler compiler;
+        compiler.command = QStringList {"cc", "-m32"};
+        compiler.outputFlag = outputFlag;
+        compiler.objectFlag = "-c";
+        compiler.defineFlag = "-D";
+        compiler.order = order;
+        compiler.defines = QStringList {"A", "B=1 2"};
         QTEST(compileCommand(compiler, "in.c", "out.o").join('|') + '|', "command");
     }
 };

@@ -1,0 +1,104 @@
+#include "bexlor/names.h"
+
+#include <QDir>
+#include <QFile>
+#include <QMap>
+#include <QTemporaryDir>
+#include <QTest>
+#include <sys/stat.h>
+
+class TestNames : public QObject
+{
+    Q_OBJECT
+
+private:
+    static void write(const QString &path, const QByteArray &content)
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+
+    /// The names found, each followed by the letters of its uses.
+    static QStringList shown(const TreeNames &tree)
+    {
+        QStringList list;
+        for (const Name &name : tree.names) {
+            QString text = name.text + ':';
+            const char letters[] = "TUCB"; // in the order of NameUse
+            for (int bit = 0; bit < 4; ++bit) {
+                if (name.uses & (1u << bit))
+                    text += letters[bit];
+            }
+            list << text;
+        }
+        return list;
+    }
+
+private slots:
+    void findsNames_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QStringList>("names");
+        const auto row = [](const char *name, const QByteArray &content, const QStringList &names) {
+            QTest::newRow(name) << content << names;
+        };
+        row("conditionals",
+            "#ifdef A1\n # if defined(Bb) \\\n || C\n#elif D /* E */ // F\n#endif\n",
+            {"A1:T", "Bb:T", "C:T", "D:T", "defined:T"});
+        row("uses", "__far int *x1; Upper camelCase __at(1) y;\n", {"__at:UC", "__far:U", "int:U"});
+        row("a definition's body", "#define NAME(a) __attribute__((a))\n#define __OTHER 1\n",
+            {"__attribute__:UC"});
+        row("comments and literals",
+            "/* __a * __b **/ \"__c \\\" __d\" '__e' // __f \\\n __g\n__h // __i", {"__h:U"});
+        row("a literal without an end", "#error don't __stop\n\"open __x\n__y\n", {"__y:U"});
+        row("no line feed at the end", "#if __LAST", {"__LAST:T"});
+        row("an unfinished comment", "__x /* __y", {"__x:U"});
+        row("binary", QByteArray("\0\1__unix__\0ab\0UPPER_2=lower\0Mixed__case\0% __x", 45),
+            {"UPPER_2:B", "__unix__:B", "__x:B", "lower:B"});
+    }
+    void findsNames()
+    {
+        QFETCH(QByteArray, content);
+        const QTemporaryDir folder;
+        write(folder.filePath("file.h"), content);
+        QTEST(shown(readTree({folder.path()})), "names");
+    }
+
+    void walksOverEverythingOnce()
+    {
+        const QTemporaryDir folder;
+        const QDir top(folder.path());
+        top.mkpath("one/two");
+        write(folder.filePath("one/a.h"), "__one\n");
+        write(folder.filePath("one/two/b.h"), "__two\n");
+        QFile::link("..", folder.filePath("one/two/loop"));
+        QFile::link("two/b.h", folder.filePath("one/link.h"));
+        QFile::link("nowhere", folder.filePath("one/broken.h"));
+        QCOMPARE(mkfifo(qPrintable(folder.filePath("one/pipe.h")), 0600), 0);
+        const TreeNames tree =
+            readTree({folder.filePath("one"), folder.filePath("missing"), folder.path()});
+        QCOMPARE(shown(tree), QStringList({"__one:U", "__two:U"}));
+        QStringList headers;
+        for (const HeaderFile &header : tree.headers)
+            headers << header.directory.mid(folder.path().size()) + '/' + header.name;
+        QCOMPARE(headers, QStringList({"/one/a.h", "/one/link.h", "/one/two/b.h"}));
+        QCOMPARE(tree.remarks, QStringList {"Passed over, since it does not exist: "
+                                            + folder.filePath("missing")});
+    }
+
+    void readsFilesOfAnySize()
+    {
+        const QTemporaryDir folder;
+        write(folder.filePath("empty.h"), "");
+        write(folder.filePath("large.h"), QByteArray(3'000'000, '\n') + "__at_the_end");
+        for (int i = 0; i < 70; ++i)
+            write(folder.filePath(QString("many%1.h").arg(i)), "__n" + QByteArray::number(i));
+        const TreeNames tree = readTree({folder.path()});
+        QCOMPARE(tree.names.size(), 71);
+        QCOMPARE(tree.names.first().text, "__at_the_end");
+    }
+};
+
+QTEST_APPLESS_MAIN(TestNames)
+#include "test_names.moc"

@@ -1,0 +1,102 @@
+#include "bexlor/prober.h"
+
+#include "platform/process_tree.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+class TestProber : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void readsLineNumbers_data()
+    {
+        using Lines = QList<int>;
+        QTest::addColumn<QByteArray>("messages");
+        QTest::addColumn<Lines>("lines");
+        QTest::addColumn<Lines>("errors");
+        const auto row = [](const char *name, const QByteArray &messages, const Lines &lines,
+                            const Lines &errors) {
+            QTest::newRow(name) << messages << lines << errors;
+        };
+        row("colons", "/t/1/x.c:12:4: error: no\n  12 | int\n", {12}, {12});
+        row("parentheses", "x.c(7): Error: no", {7}, {7});
+        row("words", "\"x.c\", line 30: Fatal", {30}, {30});
+        row("warnings", "x.c:5: warning: A redefined\nx.c:9: note: b", {5, 9}, {});
+        row("warnings and errors", "x.c:5: warning: 1\nx.c:9: error: 2\nx.c:3: syntax error",
+            {3, 5, 9}, {3, 9});
+        row("included", "In file included from x.c:4:\n/i/y.h:9: error: z", {4}, {});
+        row("no number near", "x.c: cannot do that in 1999", {}, {});
+    }
+    void readsLineNumbers()
+    {
+        QFETCH(QByteArray, messages);
+        QFETCH(QList<int>, lines);
+        QFETCH(QList<int>, errors);
+        QCOMPARE(namedLines(messages, "x.c"), QSet<int>(lines.begin(), lines.end()));
+        QCOMPARE(namedLines(messages, "x.c", true), QSet<int>(errors.begin(), errors.end()));
+    }
+
+    void readsObjectFiles_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("as it is") << QByteArray("\x7f"
+                                                "ELF\0ab",
+                                                7)
+                                  << QByteArray("\x7f"
+                                                "ELF\0ab",
+                                                7);
+        QTest::newRow("relocatable text")
+            << QByteArray("XL3\nH 9 areas\nT 00 00 00 61 62\nR 00 00 00\nT 02 00 00 63\n")
+            << QByteArray("abc");
+        QTest::newRow("relocatable text, two bytes of address")
+            << QByteArray("XH2\r\nT 00 00 61\r\n") << QByteArray("a");
+        QTest::newRow("Intel HEX")
+            << QByteArray(":02000000616239\n:0100020063AA\n:00000001FF\n") << QByteArray("abc");
+        QTest::newRow("S-records") << QByteArray(
+            "S0030000FC\nS1050000616237\nS20500000263FF\nS306000000036400\nS9030000FC\n")
+                                   << QByteArray("abcd");
+        QTest::newRow("one fragment for each byte")
+            << QByteArray("Uzna\0\1a\1\2\0\1b\1\x82\1\0\1c\2\1\1\xff", 22)
+            << QByteArray("\n\n\n\nabc");
+    }
+    void readsObjectFiles()
+    {
+        QFETCH(QByteArray, file);
+        QTEST(objectBytes(file), "bytes");
+    }
+
+    void keepsToItsTimeAndItsMemory()
+    {
+        const QTemporaryDir folder;
+        QElapsedTimer timer;
+        timer.start();
+        const QStringList shell {"/bin/sh", "-c", "sleep 600 & echo $! >child; yes; wait"};
+        const platform::ProgramRun run = platform::runProgram(shell, folder.path(), 500);
+        QCOMPARE(run.ending, platform::ProgramRun::TimedOut);
+        QVERIFY(timer.elapsed() < 30'000);
+        QCOMPARE(run.output.size(), 1'000'000);
+        QFile child(folder.filePath("child"));
+        QVERIFY(child.open(QIODevice::ReadOnly));
+        const QByteArray number = child.readAll().trimmed();
+        QTRY_VERIFY(!QFile::exists("/proc/" + number));
+    }
+
+    void closesTheStandardInput()
+    {
+        const QTemporaryDir folder;
+        const platform::ProgramRun run =
+            platform::runProgram({"/bin/sh", "-c", "cat; echo $LC_ALL"}, folder.path(), 30'000);
+        QVERIFY(run.succeeded());
+        QCOMPARE(run.output, QByteArray("C\n"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestProber)
+#include "test_prober.moc"

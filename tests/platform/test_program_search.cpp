@@ -1,0 +1,106 @@
+#include "platform/program_search.h"
+
+#include "platform/paths.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+class TestProgramSearch : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+
+private slots:
+    void initTestCase()
+    {
+        QDir(m_folder.path()).mkpath("tools/sub folder");
+        QDir(m_folder.path()).mkpath("tools/folder");
+        for (const char *name : {"tools/plain", "tools/dos.com", "tools/script.bat", "here.exe",
+                                 "here.bat", "tools/sub folder/cc"}) {
+            QFile file(m_folder.filePath(name));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        }
+        QDir::setCurrent(m_folder.path());
+    }
+    void cleanupTestCase() { QDir::setCurrent(QDir::rootPath()); }
+
+    void triesTheCandidatesInOrder()
+    {
+        using platform::programCandidates;
+        QStringList expected {".\\cc.exe",     "D:\\x\\cc", "D:\\x\\cc.exe", "D:\\x\\cc.com",
+                              "D:\\x\\cc.bat", "\\cc",      "\\cc.exe",      "\\cc.com",
+                              "\\cc.bat",      "y \\cc",    "y \\cc.exe",    "y \\cc.com",
+                              "y \\cc.bat"};
+        for (QString &candidate : expected)
+            candidate = platform::hostPath(candidate);
+        QCOMPARE(programCandidates("cc", "D:\\x;;y "), expected);
+        QCOMPARE(programCandidates("cc", QString()), expected.mid(0, 1));
+    }
+
+    void findsCommands_data()
+    {
+        QTest::addColumn<QString>("word");
+        QTest::addColumn<QString>("found"); // in the folder; empty: nothing
+        QTest::newRow("bare name on the path") << "plain"
+                                               << "tools/plain";
+        QTest::newRow("suffix .com on the path") << "dos"
+                                                 << "tools/dos.com";
+        QTest::newRow("suffix .bat on the path") << "script"
+                                                 << "tools/script.bat";
+        QTest::newRow("suffix .exe in the current folder") << "here"
+                                                           << "here.exe";
+        QTest::newRow("a folder on the path") << "folder"
+                                              << "";
+        QTest::newRow("missing") << "absent"
+                                 << "";
+        QTest::newRow("path with backslashes") << "tools\\sub folder\\cc"
+                                               << "tools/sub folder/cc";
+        QTest::newRow("a path gets no suffix") << ".\\here"
+                                               << "";
+        QTest::newRow("a path to a folder") << "tools\\folder"
+                                            << "tools/folder";
+        QTest::newRow("absolute path with slashes")
+            << m_folder.filePath("tools/plain") << "tools/plain";
+        QTest::newRow("missing absolute path") << m_folder.filePath("plain") << "";
+    }
+    void findsCommands()
+    {
+        QFETCH(QString, word);
+        QFETCH(QString, found);
+        const QString searchPath = m_folder.path() + "\\nowhere;" + m_folder.path() + "\\tools";
+        const QString path = platform::findCommand(word, searchPath);
+        QCOMPARE(QFileInfo(path).canonicalFilePath(),
+                 found.isEmpty() ? QString()
+                                 : QFileInfo(m_folder.filePath(found)).canonicalFilePath());
+    }
+
+    void readsTheSearchPathVariable()
+    {
+        const QByteArray previous = qgetenv("PATH");
+        const QString twoFolders = QString("/a") + QDir::listSeparator() + "/b c";
+        qputenv("PATH", twoFolders.toLocal8Bit());
+        QCOMPARE(platform::searchPathVariable(), "/a;/b c");
+        qputenv("PATH", "");
+        QVERIFY(platform::searchPathVariable().isEmpty());
+        qunsetenv("PATH");
+        QVERIFY(platform::searchPathVariable().isNull());
+        QVERIFY(platform::findCommand("plain", platform::searchPathVariable()).isEmpty());
+        qputenv("PATH", previous);
+    }
+
+    void findsAProgramBesideTheRunningOne()
+    {
+        const QByteArray previous = qgetenv("PATH");
+        const QString own = QCoreApplication::applicationFilePath();
+        qputenv("PATH", "");
+        QCOMPARE(platform::findProgram(QFileInfo(own).fileName()), own);
+        QCOMPARE(platform::findProgram("no-such-program.exe"), "no-such-program.exe");
+        qputenv("PATH", previous);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestProgramSearch)
+#include "test_program_search.moc"
