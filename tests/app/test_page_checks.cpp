@@ -195,6 +195,7 @@ private slots:
 
         list->setCurrentRow(-1);
         pick(user, user->CmpHdrDirEditBtn, folder.path("tools"));
+        QCOMPARE(pick(user, user->CmpHdrDirAddBtn, QString()), folder.path("tools"));
         user.click(user->CmpHdrDirDeleteBtn);
         QCOMPARE(rows(list), QStringList({out, out}));
 

@@ -57,12 +57,11 @@ private slots:
         user.type(user->PersonDestEdit, "..\\out");
         user.type(user->PersonNameEdit, "mine");
         user.press(QWizard::NextButton);
-        user.type(user->CmpExeEdit, " cc   -m32 ");
         user.type(user->CmpExeEdit, "cc   -m32 ");
-        user.type(user->CmpExeFlagEdit, "-o");
-        user.type(user->CmpDefFlagEdit, "-D");
-        user.type(user->CmpCmpFlagEdit, "-c");
-        user.type(user->CmpObjExtFlagEdit, "o");
+        user.type(user->CmpExeFlagEdit, " -o");
+        user.type(user->CmpDefFlagEdit, "-D ");
+        user.type(user->CmpCmpFlagEdit, " -c");
+        user.type(user->CmpObjExtFlagEdit, "o ");
         user.press(QWizard::NextButton);
         user->CmpHdrDirListBox->addItems({"\\inc one", "\\inc"});
         user.press(QWizard::NextButton);
@@ -203,12 +202,35 @@ private slots:
             user.walkToReview();
             user.press(QWizard::FinishButton);
             QTRY_COMPARE(details(user), initial + "started\n");
-            const qint64 process = user->findChild<QProcess *>()->processId();
-            if (rejectFirst)
+            const auto *process = user->findChild<QProcess *>();
+            const qint64 number = process->processId();
+            if (rejectFirst) {
                 user->reject();
+                QTRY_COMPARE(process->state(), QProcess::NotRunning);
+            }
             user.destroy();
-            QVERIFY(!QFile::exists(QString("/proc/%1").arg(process)));
+            QVERIFY(!QFile::exists(QString("/proc/%1").arg(number)));
         }
+    }
+
+    void canBeLeftWhileAFailureIsShown()
+    {
+        const ProgramFolder folder;
+        ProgramFolder::instruct("exit 1");
+        const WizardUser user;
+        user.walkToReview();
+        QVERIFY(withDialog(
+            [&] {
+                user.press(QWizard::FinishButton);
+                QTRY_VERIFY(user->SaveLogBtn->isEnabled() && !user->isVisible());
+            },
+            [&](QWidget *widget) {
+                user->reject();
+                user->showPage(user->Page0);
+                widget->close();
+            }));
+        QCOMPARE(user->exitCode, 1);
+        QVERIFY(details(user).contains("Command Attempted:"));
     }
 
     void judgesEachRunByItself()

@@ -1,4 +1,5 @@
 #include "forms/log_browser.h"
+#include "generation/command_order.h"
 #include "tests/support/wizard_test.h"
 
 #include <QCheckBox>
@@ -71,11 +72,18 @@ private slots:
                                          "path or fully qualify this command.");
         QString problems;
         int texts = 0;
-        for (const QLabel *label :
-             user->findChildren<QLabel *>(QRegularExpression("^text|Error"))) {
+        for (const QLabel *label : user->findChildren<QLabel *>()) {
+            // Two labels lie under the banner.
+            if (label->text().isEmpty() || label->objectName().startsWith("textLabel3_3"))
+                continue;
             QSize needed = label->sizeHint();
-            if (label->wordWrap())
-                needed = QSize(0, label->heightForWidth(label->width()));
+            if (label->wordWrap()) {
+                int widestWord = 0;
+                for (const QString &word : label->text().split(' '))
+                    widestWord = std::max(widestWord, label->fontMetrics().horizontalAdvance(word));
+                const bool isMarkup = label->text().contains('<');
+                needed = QSize(isMarkup ? 0 : widestWord, label->heightForWidth(label->width()));
+            }
             problems += cutOff(label, needed, label->size());
             ++texts;
         }
@@ -159,8 +167,7 @@ private slots:
         QStringList order;
         for (int row = 0; row < form.CmpOrderListBox->count(); ++row)
             order << form.CmpOrderListBox->item(row)->text();
-        QCOMPARE(order, QStringList({"Exe Command", "Output Flag", "<exe file>", "Define Flag",
-                                     "Object Flag", "<src file>"}));
+        QCOMPARE(order, defaultOrder());
         QCOMPARE(form.DestErrorLabel->text(), QString());
         QCOMPARE(form.CmpCmdOrder->text(), "          <exe> <src>");
     }
@@ -201,21 +208,6 @@ private slots:
         QCOMPARE(file.size(), QSize(175, 23));
         QCOMPARE(builtIn.toImage().convertToFormat(QImage::Format_RGB32),
                  file.convertToFormat(QImage::Format_RGB32));
-    }
-
-    void hasImagesOfTheGivenSizes()
-    {
-        const Form form;
-        QCOMPARE(form.iconImage.size(), QSize(32, 32));
-        QCOMPARE(form.logoImage.size(), QSize(169, 54));
-        QCOMPARE(form.bannerLeftImage.size(), QSize(532, 36));
-        QCOMPARE(form.bannerRightImage.size(), QSize(217, 32));
-        QCOMPARE(form.bandLeftImage.size(), QSize(532, 19));
-        QCOMPARE(form.bandRightImage.size(), QSize(220, 19));
-        QCOMPARE(form.kovLogoImage.size(), QSize(134, 66));
-        QCOMPARE(form.kovppLogoImage.size(), QSize(165, 65));
-        QCOMPARE(form.upArrowImage.size(), QSize(18, 18));
-        QCOMPARE(form.downArrowImage.size(), QSize(18, 18));
     }
 };
 

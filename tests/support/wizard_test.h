@@ -48,7 +48,7 @@ public:
     bool nextIsEnabled() const;
     bool finishIsEnabled() const;
 
-    /// Answers the first page with the working directory and a name, and the second with "cc".
+    /// Answers the first page with the folder "out" and a name, and the second with "cc".
     void answerFirstPages() const;
     /// The same, and goes on to the review.
     void walkToReview() const;
