@@ -1,0 +1,377 @@
+// What the generator learns of compilers when it may not ask them in the GNU driver's own way,
+// given only their include and binary directories.
+//
+// For each compiler that is installed one line of a table:
+//   names     found, of those that its "-dM -E" lists (of those that its manual lists for cc65)
+//   values    equal, of those found; wrong ones besides; the others are said to be undetermined
+//   headers   of its own directories, of those that it accepts alone: accepted by clang with the
+//             personality, and by clang with the compiler's "-isystem" list and "--target" alone
+//   started   how often the compiler was started; seconds and megabytes of the generator's run
+//
+// Usage: bench_personalities GENERATOR [HEADERS-AT-MOST [COMPILER...]]
+// Of more headers than that, 400 unless said otherwise and all for 0, an evenly spread part is
+// taken.
+
+#include "bexlor/facts.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QDirIterator>
+#include <QElapsedTimer>
+#include <QMap>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <atomic>
+#include <cstdio>
+#include <thread>
+
+namespace {
+
+struct Subject
+{
+    QString name;
+    QString command;
+    QString target; ///< clang's
+    bool isCpp;
+    bool isSmall; ///< a compiler with small buffers, whose objects are text
+    bool isCross;
+    QStringList directories;
+    QStringList programs;          ///< of /usr/bin, given as a binary directory
+    QList<QByteArray> listedNames; ///< by its manual, where it cannot list them itself
+};
+
+const QString hostGcc = QStringLiteral("/usr/lib/gcc/x86_64-linux-gnu/12");
+
+const Subject subjects[] = {
+    {"gcc", "gcc", "x86_64-linux-gnu", false, false, false, {hostGcc, "/usr/include"}, {}, {}},
+    {"g++", "g++", "x86_64-linux-gnu", true, false, false, {hostGcc, "/usr/include"}, {}, {}},
+    {"clang",
+     "clang",
+     "x86_64-linux-gnu",
+     false,
+     false,
+     false,
+     {"/usr/lib/llvm-14/lib/clang/14.0.6/include", "/usr/include"},
+     {"/usr/lib/x86_64-linux-gnu/libclang-cpp.so.14"},
+     {}},
+    {"tcc",
+     "tcc",
+     "x86_64-linux-gnu",
+     false,
+     false,
+     false,
+     {"/usr/lib/x86_64-linux-gnu/tcc/include", "/usr/include"},
+     {"/usr/bin/tcc"},
+     {}},
+    {"arm-none-eabi-gcc",
+     "arm-none-eabi-gcc",
+     "arm-none-eabi",
+     false,
+     false,
+     true,
+     {"/usr/lib/gcc/arm-none-eabi/12.2.1", "/usr/lib/arm-none-eabi/include"},
+     {},
+     {}},
+    {"avr-gcc",
+     "avr-gcc",
+     "avr",
+     false,
+     false,
+     true,
+     {"/usr/lib/gcc/avr/5.4.0", "/usr/lib/avr/include"},
+     {},
+     {}},
+    {"riscv64-unknown-elf-gcc",
+     "riscv64-unknown-elf-gcc -isystem /usr/lib/picolibc/riscv64-unknown-elf/include",
+     "riscv64-unknown-elf",
+     false,
+     false,
+     true,
+     {"/usr/lib/gcc/riscv64-unknown-elf/12.2.0", "/usr/lib/picolibc/riscv64-unknown-elf/include"},
+     {},
+     {}},
+    {"MinGW-w64 gcc",
+     "x86_64-w64-mingw32-gcc",
+     "x86_64-w64-mingw32",
+     false,
+     false,
+     true,
+     {"/usr/lib/gcc/x86_64-w64-mingw32/12-win32", "/usr/x86_64-w64-mingw32/include"},
+     {},
+     {}},
+    {"sdcc mcs51",
+     "sdcc -mmcs51",
+     "avr",
+     false,
+     true,
+     true,
+     {"/usr/share/sdcc/include"},
+     {"/usr/bin/sdcc", "/usr/bin/sdcpp"},
+     {}},
+    {"sdcc z80",
+     "sdcc -mz80",
+     "avr",
+     false,
+     true,
+     true,
+     {"/usr/share/sdcc/include"},
+     {"/usr/bin/sdcc", "/usr/bin/sdcpp"},
+     {}},
+    {"cc65",
+     "cl65 -t none",
+     "avr",
+     false,
+     true,
+     true,
+     {"/usr/share/cc65/include"},
+     {"/usr/bin/cc65", "/usr/bin/cl65"},
+     {"__CC65__", "__CC65_STD__", "__CC65_STD_C89__", "__CC65_STD_C99__", "__CC65_STD_CC65__",
+      "__STDC_HOSTED__"}},
+};
+
+struct Run
+{
+    bool succeeded;
+    QByteArray output;
+    QByteArray errors;
+};
+
+Run run(const QStringList &command, const QString &folder)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("LC_ALL", "C");
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(folder);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.start(command.first(), command.mid(1));
+    const bool ended = process.waitForFinished(120'000);
+    process.kill();
+    process.waitForFinished();
+    return {ended && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0,
+            process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+QMap<QByteArray, Macro> byName(const QList<Macro> &macros)
+{
+    QMap<QByteArray, Macro> map;
+    for (const Macro &macro : macros)
+        map[macro.name.split('(').first()] = macro;
+    return map;
+}
+
+/// What a personality says: macros and, by name, those that are undetermined; the search path.
+struct Personality
+{
+    QMap<QByteArray, Macro> macros;
+    QSet<QByteArray> undetermined;
+    QStringList searchPath;
+};
+
+Personality readPersonality(const QString &path)
+{
+    Personality personality;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return personality;
+    QByteArray listing;
+    for (const QByteArray &line : file.readAll().split('\n')) {
+        if (line.startsWith("\"-D")) {
+            QByteArray definition = line.mid(3, line.size() - 4);
+            definition.replace("\\\"", "\"").replace("\\\\", "\\");
+            const qsizetype equals = definition.indexOf('=');
+            listing +=
+                "#define " + definition.left(equals) + ' ' + definition.mid(equals + 1) + '\n';
+        } else if (line.startsWith("#: macro ")) {
+            personality.undetermined << line.split(' ').value(2);
+        } else if (line.startsWith("#: search-path ")) {
+            personality.searchPath << QString::fromLocal8Bit(line.mid(15));
+        }
+    }
+    personality.macros = byName(parseMacros(listing));
+    return personality;
+}
+
+/// The headers below \a directories, as they are included, at most \a limit of them (0: all).
+QStringList headersBelow(const QStringList &directories, bool isCpp, int limit)
+{
+    static const QRegularExpression header("\\.(h|hh|hpp)$");
+    QStringList names;
+    for (const QString &directory : directories) {
+        QDirIterator entries(directory, QDir::Files,
+                             QDirIterator::Subdirectories | QDirIterator::FollowSymlinks);
+        while (entries.hasNext()) {
+            const QString path = entries.next();
+            const QString file = entries.fileName();
+            if (file.contains(header) || (isCpp && !file.contains('.')))
+                names << path.mid(directory.size() + 1);
+        }
+    }
+    names.sort();
+    names.removeDuplicates();
+    if (limit == 0 || names.size() <= limit)
+        return names;
+    QStringList part;
+    for (int i = 0; i < limit; ++i)
+        part << names[i * names.size() / limit];
+    return part;
+}
+
+struct Headers
+{
+    std::atomic<int> byCompiler = 0, byPersonality = 0, byPeer = 0;
+};
+
+void tryHeaders(const Subject &subject, const QString &personality, const QStringList &searchPath,
+                const QStringList &names, const QString &folder, Headers &count)
+{
+    std::atomic<qsizetype> next = 0;
+    const QString extension = subject.isCpp ? ".cpp" : ".c";
+    QStringList peer {"clang", "--target=" + subject.target, "-nostdinc", "-fsyntax-only"};
+    for (const QString &directory : searchPath)
+        peer << "-isystem" << directory;
+    const auto work = [&] {
+        for (qsizetype index; (index = next++) < names.size();) {
+            const QString base = QString::number(index);
+            QFile source(folder + '/' + base + extension);
+            if (!source.open(QIODevice::WriteOnly))
+                continue;
+            source.write("#include <" + names[index].toLocal8Bit() + ">\n");
+            source.close();
+            const QString object = base + (subject.isSmall ? ".rel" : ".o");
+            const QStringList own =
+                subject.command.split(' ') + QStringList {"-c", source.fileName(), "-o", object};
+            if (!run(own, folder).succeeded)
+                continue;
+            ++count.byCompiler;
+            const QStringList clang {"clang", "--config", personality, "-fsyntax-only",
+                                     source.fileName()};
+            count.byPersonality += run(clang, folder).succeeded;
+            count.byPeer += run(peer + QStringList {source.fileName()}, folder).succeeded;
+        }
+    };
+    std::thread other(work);
+    work();
+    other.join();
+}
+
+/// The largest resident size, in megabytes, that the process \a id has had so far.
+int peakMemory(qint64 id)
+{
+    QFile status(QString("/proc/%1/status").arg(id));
+    if (!status.open(QIODevice::ReadOnly))
+        return 0;
+    static const QRegularExpression peak("VmHWM:\\s+(\\d+)");
+    return peak.match(QString::fromLatin1(status.readAll())).captured(1).toInt() / 1000;
+}
+
+void measure(const Subject &subject, const QString &generator, int limit)
+{
+    const QTemporaryDir folder;
+    const QDir top(folder.path());
+    top.mkdir("programs");
+    for (const QString &program : subject.programs)
+        QFile::link(program, folder.filePath("programs/" + QFileInfo(program).fileName()));
+
+    QStringList arguments {subject.isCpp ? "kovpp" : "kov",
+                           subject.isCross ? "ccmp" : "cmp",
+                           '"' + subject.command + '"',
+                           "-o",
+                           "-c",
+                           "-D",
+                           subject.isSmall && subject.name != "cc65" ? ".rel" : ".o",
+                           "%c %o %e %d%j %s "};
+    for (const QString &directory : subject.directories + QStringList {folder.filePath("programs")})
+        arguments << "-i" << directory;
+    arguments << "-op" << folder.filePath("x.p_c");
+    if (subject.isSmall)
+        arguments << "-rfs";
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("BEXLOR_LEARN_ONLY", "1");
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(folder.path());
+    QElapsedTimer timer;
+    timer.start();
+    process.start(generator, arguments);
+    int memory = 0;
+    while (!process.waitForFinished(20) && process.state() != QProcess::NotRunning)
+        memory = std::max(memory, peakMemory(process.processId()));
+    const double seconds = double(timer.elapsed()) / 1000;
+    const QString said = QString::fromLocal8Bit(process.readAllStandardOutput());
+    const QString started = QRegularExpression("started (\\d+) times").match(said).captured(1);
+
+    const QString source = folder.filePath(subject.isCpp ? "empty.cpp" : "empty.c");
+    QFile(source).open(QIODevice::WriteOnly);
+    const QStringList command = subject.command.split(' ');
+    const Personality learned = readPersonality(folder.filePath("x.p_c"));
+    QMap<QByteArray, Macro> truth =
+        byName(parseMacros(run(command + QStringList {"-dM", "-E", source}, folder.path()).output));
+    for (const QByteArray &name : subject.listedNames)
+        truth[name] = learned.macros.value(name);
+    int found = 0, equal = 0, wrong = 0;
+    QByteArray remarks;
+    for (auto macro = truth.cbegin(); macro != truth.cend(); ++macro) {
+        const bool isLearned = learned.macros.contains(macro.key());
+        if (!isLearned && !learned.undetermined.contains(macro.key())) {
+            remarks += "    not found: " + macro.key() + '\n';
+            continue;
+        }
+        ++found;
+        if (!isLearned) {
+            remarks += "    undetermined: " + macro->name + '\n';
+            continue;
+        }
+        const Macro &mine = learned.macros[macro.key()];
+        const bool isEqual = mine.name == macro->name && mine.value == macro->value;
+        equal += isEqual;
+        wrong += !isEqual;
+        if (!isEqual)
+            remarks += "    wrong: " + macro->name + '\n';
+    }
+
+    QStringList searchPath =
+        parseSearchPath(run(command + QStringList {"-v", "-E", source}, folder.path()).errors);
+    if (searchPath.isEmpty())
+        searchPath = learned.searchPath;
+    Headers headers;
+    tryHeaders(subject, folder.filePath("x.p_c"), searchPath,
+               headersBelow(searchPath, subject.isCpp, limit), folder.path(), headers);
+
+    const auto share = [](int part, int all) {
+        return QString("%1/%2").arg(part).arg(all).rightJustified(9).toLatin1();
+    };
+    std::printf("%-24s %s %s %5d %s %s %8s %7.1f %6d\n", qPrintable(subject.name),
+                share(found, int(truth.size())).constData(), share(equal, found).constData(), wrong,
+                share(headers.byPersonality, headers.byCompiler).constData(),
+                share(headers.byPeer, headers.byCompiler).constData(), qPrintable(started), seconds,
+                memory);
+    std::printf("%s", remarks.constData());
+    std::fflush(stdout);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication application(argc, argv);
+    const QStringList arguments = application.arguments();
+    if (arguments.size() < 2) {
+        std::fprintf(stderr,
+                     "usage: bench_personalities GENERATOR [HEADERS-AT-MOST [COMPILER...]]\n");
+        return 2;
+    }
+    const int limit = arguments.size() > 2 ? arguments[2].toInt() : 400;
+    const QStringList chosen = arguments.mid(3);
+    std::printf("%-24s %9s %9s %5s %9s %9s %8s %7s %6s\n", "compiler", "names", "values", "wrong",
+                "headers", "peer", "started", "seconds", "MB");
+    for (const Subject &subject : subjects) {
+        const bool isInstalled =
+            !QStandardPaths::findExecutable(subject.command.section(' ', 0, 0)).isEmpty();
+        if (isInstalled && (chosen.isEmpty() || chosen.contains(subject.name)))
+            measure(subject, QFileInfo(arguments[1]).absoluteFilePath(), limit);
+    }
+    return 0;
+}
