@@ -60,6 +60,24 @@ int fromHexLetters(const QByteArray &letters)
     return value;
 }
 
+QByteArray characterConstant(char c)
+{
+    if (c < ' ')
+        return "'\\" + QByteArray::number(int(c), 8) + '\'';
+    const bool isEscaped = c == '\'' || c == '\\';
+    return (isEscaped ? "'\\" : "'") + QByteArray(1, c) + '\'';
+}
+
+/// \a bytes, in a character set whose codes stand for \a characters, or none if that is empty.
+QByteArray decoded(QByteArray bytes, const QByteArray &characters)
+{
+    if (!characters.isEmpty()) {
+        for (char &byte : bytes)
+            byte = characters[static_cast<unsigned char>(byte)];
+    }
+    return bytes;
+}
+
 QList<int> firstIndices(qsizetype count)
 {
     QList<int> indices(count);
@@ -103,10 +121,32 @@ Experiment::Experiment(const Prober &prober, bool compilerIsNative) : m_prober(p
         if (channel == Channel::Program && !compilerIsNative)
             break;
         m_channel = channel;
-        if (texts({}, {'"' + text + '"'}).first() == text)
-            return;
+        for (const bool isKnownSet : {true, false}) {
+            if (!isKnownSet && !learnCharacterSet())
+                break;
+            if (texts({}, {'"' + text + '"'}).first() == text)
+                return;
+        }
+        m_characters.clear();
     }
     m_channel = Channel::None;
+}
+
+/// Asks the compiler for the codes of the characters that a text may hold; numbers read the same in
+/// every character set. Returns whether it has told them.
+bool Experiment::learnCharacterSet()
+{
+    QByteArray characters = QByteArray() + begins + numbered + ends;
+    for (char c = ' '; c <= '~'; ++c)
+        characters += c;
+    QList<QByteArray> constants;
+    for (const char c : characters)
+        constants << characterConstant(c);
+    const QList<std::optional<int>> codes = numbers({}, constants);
+    m_characters = QByteArray(256, '\0');
+    for (qsizetype i = 0; i < codes.size(); ++i)
+        m_characters[codes[i].value_or(0) & 255] = characters[i];
+    return !codes.contains(std::nullopt);
 }
 
 QList<Experiment::Indices> Experiment::batches(qsizetype preludeSize,
@@ -233,7 +273,8 @@ QList<std::pair<Experiment::Indices, QByteArray>> Experiment::read(const QByteAr
 }
 
 QList<std::optional<QByteArray>> Experiment::arrays(const QByteArray &prelude,
-                                                    const QList<QByteArray> &contents) const
+                                                    const QList<QByteArray> &contents,
+                                                    bool areTexts) const
 {
     QList<QByteArray> items;
     for (qsizetype i = 0; i < contents.size(); ++i)
@@ -246,8 +287,9 @@ QList<std::optional<QByteArray>> Experiment::arrays(const QByteArray &prelude,
     };
     QList<std::optional<QByteArray>> found(contents.size());
     for (const auto &[batch, bytes] : read(prelude, items, makeProbe)) {
+        const QByteArray content = areTexts ? decoded(bytes, m_characters) : bytes;
         for (const int index : batch)
-            found[index] = contentOf(bytes, index);
+            found[index] = contentOf(content, index);
     }
     return found;
 }
@@ -260,7 +302,7 @@ QList<std::optional<QByteArray>> Experiment::texts(const QByteArray &prelude,
         contents << "\"\\001\" \"" + QByteArray::number(i) + "\" \"\\002\" " + literals[i]
                         + " \"\\003\"";
     }
-    return arrays(prelude, contents);
+    return arrays(prelude, contents, true);
 }
 
 QList<std::optional<int>> Experiment::numbers(const QByteArray &prelude,
@@ -270,7 +312,7 @@ QList<std::optional<int>> Experiment::numbers(const QByteArray &prelude,
     for (qsizetype i = 0; i < expressions.size(); ++i)
         contents << '{' + listStart(int(i)) + hexLetters(expressions[i]) + "3}";
     QList<std::optional<int>> values;
-    for (const std::optional<QByteArray> &letters : arrays(prelude, contents))
+    for (const std::optional<QByteArray> &letters : arrays(prelude, contents, false))
         values << (letters ? std::optional(fromHexLetters(*letters)) : std::nullopt);
     return values;
 }

@@ -10,7 +10,7 @@ class Experiment
 {
 public:
     /// Finds out how constants can be read back: from the object file or, from a native compiler,
-    /// by running a program.
+    /// by running a program; and which character set their texts are in.
     Experiment(const Prober &prober, bool compilerIsNative);
 
     /// Whether constants can be read back at all.
@@ -53,7 +53,8 @@ private:
     QList<Indices> batches(qsizetype preludeSize, const QList<QByteArray> &items,
                            const Indices &chosen) const;
     QList<std::optional<QByteArray>> arrays(const QByteArray &prelude,
-                                            const QList<QByteArray> &contents) const;
+                                            const QList<QByteArray> &contents, bool areTexts) const;
+    bool learnCharacterSet();
     QByteArray bytesOf(const Probe &probe, const Answer &answer) const;
     QList<std::pair<Indices, QByteArray>> read(const QByteArray &prelude,
                                                const QList<QByteArray> &items,
@@ -61,4 +62,5 @@ private:
 
     const Prober &m_prober;
     Channel m_channel = Channel::None;
+    QByteArray m_characters; ///< that the compiler's 256 codes stand for; empty if for themselves
 };

@@ -210,11 +210,13 @@ const char *const cppKeywords =
 
 // Directives, names that only the preprocessor itself may use, and C++'s words for operators.
 const char *const specialWords =
-    "defined _Pragma __pragma __VA_ARGS__ __VA_OPT__ __FILE__ __LINE__ __DATE__ __TIME__ "
-    "__TIMESTAMP__ __COUNTER__ __INCLUDE_LEVEL__ __BASE_FILE__ __FILE_NAME__ __FUNCTION__ "
-    "__PRETTY_FUNCTION__ __func__ and and_eq bitand bitor compl not not_eq or or_eq xor xor_eq "
-    "true false __building_module __is_identifier __is_target_arch __is_target_environment "
-    "__is_target_os __is_target_vendor";
+    "defined _Pragma __pragma __VA_ARGS__ __VA_OPT__ __FUNCTION__ __PRETTY_FUNCTION__ __func__ "
+    "and and_eq bitand bitor compl not not_eq or or_eq xor xor_eq true false __building_module "
+    "__is_identifier __is_target_arch __is_target_environment __is_target_os __is_target_vendor";
+
+const char *const changingMacros =
+    "__FILE__ __LINE__ __DATE__ __TIME__ __TIMESTAMP__ __COUNTER__ __INCLUDE_LEVEL__ "
+    "__BASE_FILE__ __FILE_NAME__";
 
 QList<QByteArray> words(const char *text)
 {
@@ -250,9 +252,15 @@ bool isStandardKeyword(const QByteArray &name, bool isCpp)
     return (isCpp ? cpp : c).contains(name);
 }
 
+bool isBuiltIntoThePreprocessor(const QByteArray &name)
+{
+    static const QSet<QByteArray> changing = setOf(changingMacros);
+    return changing.contains(name) || name.startsWith("__has_");
+}
+
 bool isSpecialName(const QByteArray &name)
 {
     static const QSet<QByteArray> special = setOf(specialWords);
-    return special.contains(name) || name.startsWith("__has_") || name.startsWith("calyx_")
+    return special.contains(name) || isBuiltIntoThePreprocessor(name) || name.startsWith("calyx_")
         || name.startsWith("CALYX_");
 }

@@ -12,6 +12,10 @@ QList<QByteArray> knownKeywords();
 /// Whether \a name is a keyword of the standard language, C or C++.
 bool isStandardKeyword(const QByteArray &name, bool isCpp);
 
+/// Whether \a name has no definition that could be passed on, though a compiler may list it as a
+/// macro: its value is another each time, or it is an operator such as "__has_include".
+bool isBuiltIntoThePreprocessor(const QByteArray &name);
+
 /// Whether \a name is a part of the preprocessor or the language that is neither a macro with a
 /// definition nor a keyword: one that no conditional may test, whose value is another each time, or
 /// that has been made for probes.

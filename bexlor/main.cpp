@@ -6,6 +6,7 @@
 // that usage() does not allow.
 
 #include "bexlor/arguments.h"
+#include "bexlor/known_names.h"
 #include "bexlor/learning.h"
 #include "bexlor/personality.h"
 #include "platform/process_tree.h"
@@ -67,8 +68,11 @@ void askLikeGnu(const Compiler &compiler, const Prober &prober, const QString &f
         question + QStringList {"-dM", "-E", prober.sourceName()}, folder, questionTimeLimit);
     const ProgramRun searchPath = platform::runProgram(
         question + QStringList {"-v", "-E", prober.sourceName()}, folder, questionTimeLimit);
-    if (macros.succeeded())
+    if (macros.succeeded()) {
         facts.macros = parseMacros(macros.output);
+        facts.macros.removeIf(
+            [](const Macro &macro) { return isBuiltIntoThePreprocessor(macro.name); });
+    }
     if (searchPath.succeeded())
         facts.searchPath = parseSearchPath(searchPath.errors);
 }

@@ -135,15 +135,36 @@ QByteArray nearestTarget(const Facts &facts)
     return nearest->name;
 }
 
-QByteArray targetOption(const Facts &facts)
+QByteArray target(const Facts &facts)
 {
     QByteArray architecture = firstDefined(facts, architectures);
     if (const Macro *width = findMacro(facts, "__riscv_xlen"))
         architecture = "riscv" + width->value;
     if (architecture.isEmpty())
-        return facts.types.isEmpty() ? QByteArray() : "--target=" + nearestTarget(facts) + '\n';
-    const QByteArray system = firstDefined(facts, systems);
-    return "--target=" + architecture + '-' + (system.isEmpty() ? "unknown-none" : system) + '\n';
+        return facts.types.isEmpty() ? QByteArray() : nearestTarget(facts);
+    QByteArray system = firstDefined(facts, systems);
+    if (system.isEmpty())
+        system = "unknown-none";
+    if (architecture == "arm") {
+        // Without its binary interface clang warns each time that it has to assume one.
+        if (system.endsWith("-elf"))
+            system.chop(4);
+        system += system.endsWith("-gnu") ? "eabi" : "-eabi";
+        if (findMacro(facts, "__ARM_PCS_VFP"))
+            system += "hf";
+    }
+    return architecture + '-' + system;
+}
+
+QByteArray targetOptions(const Facts &facts)
+{
+    const QByteArray name = target(facts);
+    if (name.isEmpty())
+        return {};
+    QByteArray options = "--target=" + name + '\n';
+    if (name.startsWith("avr-"))
+        options += "-nostdlib\n"; // or clang warns, without linking, that it cannot link
+    return options;
 }
 
 /// The language version that \a macro tells, the newest one that is not newer than its value.
@@ -331,7 +352,7 @@ QByteArray personalityText(const Arguments &arguments, const Facts &facts,
     if (!templateText.isEmpty())
         text += "\n# Template\n" + templateText + (templateText.endsWith('\n') ? "" : "\n");
 
-    text += "\n# Language\n" + targetOption(facts)
+    text += "\n# Language\n" + targetOptions(facts)
           + (arguments.isCpp ? standardOption(facts, "__cplusplus", cppStandards, "c++", "gnu++")
                              : standardOption(facts, "__STDC_VERSION__", cStandards, "c", "gnu"));
     if (arguments.isCpp)

@@ -65,6 +65,8 @@ private slots:
         QTest::addColumn<int>("mayMiss"); // names that stand in its own headers and programs only
         QTest::newRow("gcc") << QStringList {"gcc"} << false << 3;
         QTest::newRow("object files without bytes") << QStringList {"gcc", "-flto"} << false << 3;
+        QTest::newRow("another character set")
+            << QStringList {"gcc", "-fexec-charset=IBM1047"} << false << 3;
         QTest::newRow("cross compiler") << QStringList {"arm-none-eabi-gcc"} << false << 3;
         QTest::newRow("stops at the first error") << QStringList {"tcc"} << false << 5;
         QTest::newRow("objects of text, small probes")
