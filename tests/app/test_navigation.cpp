@@ -1,4 +1,5 @@
 #include "forms/log_browser.h"
+#include "tests/support/row.h"
 #include "tests/support/wizard_test.h"
 
 #include <QAbstractButton>
@@ -61,12 +62,12 @@ private slots:
         QTest::addColumn<bool>("valid");    // the command
         QTest::addColumn<int>("from");
         QTest::addColumn<QString>("reachable"); // the pages, each a digit
-        QTest::newRow("nothing answered") << false << false << 0 << "0";
-        QTest::newRow("a valid command only") << false << true << 0 << "0";
-        QTest::newRow("the first page answered") << true << false << 0 << "01";
-        QTest::newRow("both answered") << true << true << 0 << "01234";
-        QTest::newRow("command missing") << true << false << 1 << "01";
-        QTest::newRow("command given") << true << true << 1 << "01234";
+        row("nothing answered", false, false, 0, "0");
+        row("a valid command only", false, true, 0, "0");
+        row("the first page answered", true, false, 0, "01");
+        row("both answered", true, true, 0, "01234");
+        row("command missing", true, false, 1, "01");
+        row("command given", true, true, 1, "01234");
         for (int from = 2; from < 5; ++from)
             QTest::addRow("page %d checks nothing", from) << false << false << from << "01234";
     }

@@ -1,3 +1,4 @@
+#include "tests/support/row.h"
 #include "tests/support/wizard_test.h"
 
 #include <QCheckBox>
@@ -46,20 +47,13 @@ private slots:
         QTest::addColumn<QString>("name");
         QTest::addColumn<bool>("exists");
         QTest::addColumn<bool>("next");
-        QTest::newRow("folder") << "..\\out"
-                                << "mine" << true << true;
-        QTest::newRow("file") << "..\\tools\\cc"
-                              << "mine" << true << true;
-        QTest::newRow("no name") << "..\\out"
-                                 << "" << true << false;
-        QTest::newRow("name of spaces") << "..\\out"
-                                        << "  " << true << true;
-        QTest::newRow("missing") << "..\\oat"
-                                 << "mine" << false << false;
-        QTest::newRow("not trimmed") << "..\\out "
-                                     << "mine" << false << false;
-        QTest::newRow("empty") << ""
-                               << "mine" << false << false;
+        row("folder", "..\\out", "mine", true, true);
+        row("file", "..\\tools\\cc", "mine", true, true);
+        row("no name", "..\\out", "", true, false);
+        row("name of spaces", "..\\out", "  ", true, true);
+        row("missing", "..\\oat", "mine", false, false);
+        row("not trimmed", "..\\out ", "mine", false, false);
+        row("empty", "", "mine", false, false);
     }
     void checksTheDestination()
     {
@@ -97,11 +91,10 @@ private slots:
     {
         QTest::addColumn<QString>("command");
         QTest::addColumn<QString>("problem"); // empty: none
-        QTest::newRow("found") << "cc -c"
-                               << "";
-        QTest::newRow("not found") << "dd -c" << notOnPath;
-        QTest::newRow("placeholder") << "cc <specify device>" << specify;
-        QTest::newRow("not found, placeholder") << "dd <specify device>" << notOnPath;
+        row("found", "cc -c", "");
+        row("not found", "dd -c", notOnPath);
+        row("placeholder", "cc <specify device>", specify);
+        row("not found, placeholder", "dd <specify device>", notOnPath);
     }
     void checksTheCommand()
     {

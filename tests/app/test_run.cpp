@@ -1,4 +1,5 @@
 #include "forms/log_browser.h"
+#include "tests/support/row.h"
 #include "tests/support/wizard_test.h"
 
 #include <QAbstractButton>
@@ -99,15 +100,14 @@ private slots:
     {
         QTest::addColumn<QByteArray>("instructions");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("markup") << QByteArray("print <b>bold</b> &amp;") << "<b>bold</b> &amp;\n";
-        QTest::newRow("a character split over two reads")
-            << QByteArray("bytes caf\\xc3\nbytes \\xa9 au lait")
-            << QString::fromUtf8("café au lait\n");
-        QTest::newRow("a line split over two reads")
-            << QByteArray("bytes one \nbytes line\nbytes \\x0a\nprint two") << "one line\ntwo\n";
-        QTest::newRow("a line end split over two reads")
-            << QByteArray("bytes one\\x0d\nbytes \\x0atwo\\x0d\\x0a") << "one\ntwo\n";
-        QTest::newRow("no line end") << QByteArray("bytes three") << "three\n";
+        row("markup", QByteArray("print <b>bold</b> &amp;"), "<b>bold</b> &amp;\n");
+        row("a character split over two reads", QByteArray("bytes caf\\xc3\nbytes \\xa9 au lait"),
+            QString::fromUtf8("café au lait\n"));
+        row("a line split over two reads",
+            QByteArray("bytes one \nbytes line\nbytes \\x0a\nprint two"), "one line\ntwo\n");
+        row("a line end split over two reads",
+            QByteArray("bytes one\\x0d\nbytes \\x0atwo\\x0d\\x0a"), "one\ntwo\n");
+        row("no line end", QByteArray("bytes three"), "three\n");
     }
     void showsOutputLiterallyAndWhole()
     {

@@ -1,3 +1,4 @@
+#include "tests/support/row.h"
 #include "tests/support/wizard_test.h"
 
 #include <QAbstractButton>
@@ -76,8 +77,8 @@ private slots:
     void areWrittenAfterEveryRun_data()
     {
         QTest::addColumn<QByteArray>("instructions");
-        QTest::newRow("success") << QByteArray("exit 0");
-        QTest::newRow("crash") << QByteArray("crash");
+        row("success", QByteArray("exit 0"));
+        row("crash", QByteArray("crash"));
     }
     void areWrittenAfterEveryRun()
     {
@@ -98,10 +99,10 @@ private slots:
         QTest::addColumn<QByteArray>("lineEnd");
         QTest::addColumn<QByteArray>("destination");
         QTest::addColumn<bool>("opensOnPage1");
-        QTest::newRow("line feeds") << QByteArray("\n") << QByteArray("..\\out") << true;
-        QTest::newRow("both") << QByteArray("\r\n") << QByteArray("..\\out") << true;
-        QTest::newRow("carriage returns") << QByteArray("\r") << QByteArray("..\\out") << true;
-        QTest::newRow("missing folder") << QByteArray("\n") << QByteArray("..\\oat") << false;
+        row("line feeds", QByteArray("\n"), QByteArray("..\\out"), true);
+        row("both", QByteArray("\r\n"), QByteArray("..\\out"), true);
+        row("carriage returns", QByteArray("\r"), QByteArray("..\\out"), true);
+        row("missing folder", QByteArray("\n"), QByteArray("..\\oat"), false);
     }
     void lockTheFirstPage()
     {

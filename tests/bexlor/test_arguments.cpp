@@ -1,4 +1,5 @@
 #include "bexlor/arguments.h"
+#include "tests/support/row.h"
 
 #include <QTest>
 
@@ -33,13 +34,13 @@ private slots:
     void refusesOtherLists_data()
     {
         QTest::addColumn<QStringList>("list");
-        QTest::newRow("none") << QStringList();
-        QTest::newRow("too short") << plain().mid(0, 9);
-        QTest::newRow("no output") << plain().mid(0, 8);
-        QTest::newRow("unknown product") << QStringList("c") + plain().mid(1);
-        QTest::newRow("unknown option") << plain() + QStringList {"-x", "y"};
-        QTest::newRow("option without a value") << plain() + QStringList {"-xd"};
-        QTest::newRow("wrong order") << plain() + QStringList {"-rfs", "-xd", "A"};
+        row("none", QStringList());
+        row("too short", plain().mid(0, 9));
+        row("no output", plain().mid(0, 8));
+        row("unknown product", QStringList("c") + plain().mid(1));
+        row("unknown option", plain() + QStringList {"-x", "y"});
+        row("option without a value", plain() + QStringList {"-xd"});
+        row("wrong order", plain() + QStringList {"-rfs", "-xd", "A"});
     }
     void refusesOtherLists()
     {
@@ -52,12 +53,11 @@ private slots:
     {
         QTest::addColumn<QString>("list");
         QTest::addColumn<QStringList>("items");
-        QTest::newRow("spaces") << " ONE,TWO=2, THREE=3 "
-                                << QStringList {"ONE", "TWO=2", "THREE=3"};
-        QTest::newRow("parameters") << "F(a,b)=a,G" << QStringList {"F(a,b)=a", "G"};
-        QTest::newRow("string") << "S=\"a,(b\",G" << QStringList {"S=\"a,(b\"", "G"};
-        QTest::newRow("stray parenthesis") << "A=),B" << QStringList {"A=)", "B"};
-        QTest::newRow("nothing") << ",, ," << QStringList();
+        row("spaces", " ONE,TWO=2, THREE=3 ", QStringList {"ONE", "TWO=2", "THREE=3"});
+        row("parameters", "F(a,b)=a,G", QStringList {"F(a,b)=a", "G"});
+        row("string", "S=\"a,(b\",G", QStringList {"S=\"a,(b\"", "G"});
+        row("stray parenthesis", "A=),B", QStringList {"A=)", "B"});
+        row("nothing", ",, ,", QStringList());
     }
     void splitsCommaLists()
     {

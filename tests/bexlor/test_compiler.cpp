@@ -1,4 +1,5 @@
 #include "bexlor/compiler.h"
+#include "tests/support/row.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -13,15 +14,14 @@ private slots:
     {
         QTest::addColumn<QString>("command");
         QTest::addColumn<QStringList>("words");
-        QTest::newRow("bare") << "cc" << QStringList {"cc"};
-        QTest::newRow("options") << "\"cc -m32 -x\"" << QStringList {"cc", "-m32", "-x"};
-        QTest::newRow("path with a space") << "\"/a b/cc\"" << QStringList {"/a b/cc"};
-        QTest::newRow("quoted path with options")
-            << "\"/a b/cc\" -m32 \"-D x\"" << QStringList {"/a b/cc", "-m32", "-D x"};
-        QTest::newRow("options with quotes")
-            << "\"cc -I\"a b\" -m32\"" << QStringList {"cc", "-Ia b", "-m32"};
-        QTest::newRow("unknown program") << "\"dd -m32\"" << QStringList {"dd", "-m32"};
-        QTest::newRow("empty") << "" << QStringList();
+        row("bare", "cc", QStringList {"cc"});
+        row("options", "\"cc -m32 -x\"", QStringList {"cc", "-m32", "-x"});
+        row("path with a space", "\"/a b/cc\"", QStringList {"/a b/cc"});
+        row("quoted path with options", "\"/a b/cc\" -m32 \"-D x\"",
+            QStringList {"/a b/cc", "-m32", "-D x"});
+        row("options with quotes", "\"cc -I\"a b\" -m32\"", QStringList {"cc", "-Ia b", "-m32"});
+        row("unknown program", "\"dd -m32\"", QStringList {"dd", "-m32"});
+        row("empty", "", QStringList());
     }
     void splitsTheCommand()
     {
@@ -36,18 +36,12 @@ private slots:
     {
         QTest::addColumn<QString>("word");
         QTest::addColumn<QString>("absolute"); // "@" stands for the current folder
-        QTest::newRow("file") << "first.h"
-                              << "@/first.h";
-        QTest::newRow("behind a letter") << "-Iinc dir"
-                                         << "-I@/inc dir";
-        QTest::newRow("behind a sign") << "--sysroot=inc dir"
-                                       << "--sysroot=@/inc dir";
-        QTest::newRow("no file") << "-Inowhere"
-                                 << "-Inowhere";
-        QTest::newRow("an option") << "-O2"
-                                   << "-O2";
-        QTest::newRow("absolute") << "/usr"
-                                  << "/usr";
+        row("file", "first.h", "@/first.h");
+        row("behind a letter", "-Iinc dir", "-I@/inc dir");
+        row("behind a sign", "--sysroot=inc dir", "--sysroot=@/inc dir");
+        row("no file", "-Inowhere", "-Inowhere");
+        row("an option", "-O2", "-O2");
+        row("absolute", "/usr", "/usr");
     }
     void makesRelativePathsAbsolute()
     {
@@ -67,21 +61,11 @@ private slots:
         QTest::addColumn<QString>("order");
         QTest::addColumn<QString>("outputFlag");
         QTest::addColumn<QString>("command"); // words, each followed by "|"
-        QTest::newRow("joined flags") << "%c %o%e %d%j %s "
-                                      << "-o"
-                                      << "cc|-m32|-oout.o|-DA|-DB=1 2|-c|in.c|";
-        QTest::newRow("flags apart") << "%c %o %e %d %j %s "
-                                     << "-o"
-                                     << "cc|-m32|-o|out.o|-D|A|-D|B=1 2|-c|in.c|";
-        QTest::newRow("source first") << "%s %c "
-                                      << "-o"
-                                      << "in.c|cc|-m32|";
-        QTest::newRow("no output flag") << "%c %o%e %j %s "
-                                        << ""
-                                        << "cc|-m32|-c|in.c|";
-        QTest::newRow("output without a flag") << "%c %e %s "
-                                               << ""
-                                               << "cc|-m32|out.o|in.c|";
+        row("joined flags", "%c %o%e %d%j %s ", "-o", "cc|-m32|-oout.o|-DA|-DB=1 2|-c|in.c|");
+        row("flags apart", "%c %o %e %d %j %s ", "-o", "cc|-m32|-o|out.o|-D|A|-D|B=1 2|-c|in.c|");
+        row("source first", "%s %c ", "-o", "in.c|cc|-m32|");
+        row("no output flag", "%c %o%e %j %s ", "", "cc|-m32|-c|in.c|");
+        row("output without a flag", "%c %e %s ", "", "cc|-m32|out.o|in.c|");
     }
     void ordersTheCommand()
     {

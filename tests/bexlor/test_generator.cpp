@@ -1,3 +1,5 @@
+#include "tests/support/row.h"
+
 #include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -54,18 +56,12 @@ private slots:
     {
         QTest::addColumn<QString>("product");
         QTest::addColumn<QString>("compiler");
-        QTest::newRow("gcc") << "kov"
-                             << "gcc";
-        QTest::newRow("gcc for 32 bits") << "kov"
-                                         << "\"gcc -m32 -std=c99\"";
-        QTest::newRow("g++") << "kovpp"
-                             << "g++";
-        QTest::newRow("clang") << "kov"
-                               << "clang";
-        QTest::newRow("clang++") << "kovpp"
-                                 << "clang++";
-        QTest::newRow("cross compiler") << "kov"
-                                        << "arm-none-eabi-gcc";
+        row("gcc", "kov", "gcc");
+        row("gcc for 32 bits", "kov", "\"gcc -m32 -std=c99\"");
+        row("g++", "kovpp", "g++");
+        row("clang", "kov", "clang");
+        row("clang++", "kovpp", "clang++");
+        row("cross compiler", "kov", "arm-none-eabi-gcc");
     }
     void makesClangSeeWhatTheCompilerSees()
     {
@@ -259,3 +255,4 @@ private slots:
 
 QTEST_GUILESS_MAIN(TestGenerator)
 #include "test_generator.moc"
+#include "tests/support/row.h"

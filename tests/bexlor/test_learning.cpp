@@ -1,4 +1,5 @@
 #include "bexlor/learning.h"
+#include "tests/support/row.h"
 
 #include <QDir>
 #include <QFile>
@@ -63,14 +64,12 @@ private slots:
         QTest::addColumn<QStringList>("command");
         QTest::addColumn<bool>("isSmall");
         QTest::addColumn<int>("mayMiss"); // names that stand in its own headers and programs only
-        QTest::newRow("gcc") << QStringList {"gcc"} << false << 3;
-        QTest::newRow("object files without bytes") << QStringList {"gcc", "-flto"} << false << 3;
-        QTest::newRow("another character set")
-            << QStringList {"gcc", "-fexec-charset=IBM1047"} << false << 3;
-        QTest::newRow("cross compiler") << QStringList {"arm-none-eabi-gcc"} << false << 3;
-        QTest::newRow("stops at the first error") << QStringList {"tcc"} << false << 5;
-        QTest::newRow("objects of text, small probes")
-            << QStringList {"sdcc", "-mz80"} << true << 0;
+        row("gcc", QStringList {"gcc"}, false, 3);
+        row("object files without bytes", QStringList {"gcc", "-flto"}, false, 3);
+        row("another character set", QStringList {"gcc", "-fexec-charset=IBM1047"}, false, 3);
+        row("cross compiler", QStringList {"arm-none-eabi-gcc"}, false, 3);
+        row("stops at the first error", QStringList {"tcc"}, false, 5);
+        row("objects of text, small probes", QStringList {"sdcc", "-mz80"}, true, 0);
     }
     void findsMacrosAsTheyAre()
     {
@@ -124,16 +123,16 @@ private slots:
     {
         QTest::addColumn<QStringList>("command");
         QTest::addColumn<QString>("types");
-        QTest::newRow("gcc") << QStringList {"gcc"}
-                             << "short2/2 int4/4 long8/8 long double16/16 "
-                                "void *8/8 signed little unsigned long int";
-        QTest::newRow("32 bits, unsigned char")
-            << QStringList {"gcc", "-m32", "-funsigned-char", "-fshort-wchar"}
-            << "short2/2 int4/4 long4/4 long double12/4 void *4/4 unsigned little unsigned int "
-               "unsigned short";
-        QTest::newRow("8-bit") << QStringList {"sdcc", "-mz80"}
-                               << "short2/1 int2/1 long4/1 void *2/1 unsigned little unsigned int "
-                                  "unsigned long";
+        row("gcc", QStringList {"gcc"},
+            "short2/2 int4/4 long8/8 long double16/16 "
+            "void *8/8 signed little unsigned long int");
+        row("32 bits, unsigned char",
+            QStringList {"gcc", "-m32", "-funsigned-char", "-fshort-wchar"},
+            "short2/2 int4/4 long4/4 long double12/4 void *4/4 unsigned little unsigned int "
+            "unsigned short");
+        row("8-bit", QStringList {"sdcc", "-mz80"},
+            "short2/1 int2/1 long4/1 void *2/1 unsigned little unsigned int "
+            "unsigned long");
     }
     void measuresTypes()
     {
@@ -175,8 +174,8 @@ private slots:
     void findsTheSearchPath_data()
     {
         QTest::addColumn<QStringList>("command");
-        QTest::newRow("tells what it has") << QStringList {"gcc"};
-        QTest::newRow("must include") << QStringList {"tcc"};
+        row("tells what it has", QStringList {"gcc"});
+        row("must include", QStringList {"tcc"});
     }
     void findsTheSearchPath()
     {

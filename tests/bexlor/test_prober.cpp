@@ -1,6 +1,7 @@
 #include "bexlor/prober.h"
 
 #include "platform/process_tree.h"
+#include "tests/support/row.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -46,25 +47,26 @@ private slots:
     {
         QTest::addColumn<QByteArray>("file");
         QTest::addColumn<QByteArray>("bytes");
-        QTest::newRow("as it is") << QByteArray("\x7f"
-                                                "ELF\0ab",
-                                                7)
-                                  << QByteArray("\x7f"
-                                                "ELF\0ab",
-                                                7);
-        QTest::newRow("relocatable text")
-            << QByteArray("XL3\nH 9 areas\nT 00 00 00 61 62\nR 00 00 00\nT 02 00 00 63\n")
-            << QByteArray("abc");
-        QTest::newRow("relocatable text, two bytes of address")
-            << QByteArray("XH2\r\nT 00 00 61\r\n") << QByteArray("a");
-        QTest::newRow("Intel HEX")
-            << QByteArray(":02000000616239\n:0100020063AA\n:00000001FF\n") << QByteArray("abc");
-        QTest::newRow("S-records") << QByteArray(
-            "S0030000FC\nS1050000616237\nS20500000263FF\nS306000000036400\nS9030000FC\n")
-                                   << QByteArray("abcd");
-        QTest::newRow("one fragment for each byte")
-            << QByteArray("Uzna\0\1a\1\2\0\1b\1\x82\1\0\1c\2\1\1\xff", 22)
-            << QByteArray("\n\n\n\nabc");
+        row("as it is",
+            QByteArray("\x7f"
+                       "ELF\0ab",
+                       7),
+            QByteArray("\x7f"
+                       "ELF\0ab",
+                       7));
+        row("relocatable text",
+            QByteArray("XL3\nH 9 areas\nT 00 00 00 61 62\nR 00 00 00\nT 02 00 00 63\n"),
+            QByteArray("abc"));
+        row("relocatable text, two bytes of address", QByteArray("XH2\r\nT 00 00 61\r\n"),
+            QByteArray("a"));
+        row("Intel HEX", QByteArray(":02000000616239\n:0100020063AA\n:00000001FF\n"),
+            QByteArray("abc"));
+        row("S-records",
+            QByteArray(
+                "S0030000FC\nS1050000616237\nS20500000263FF\nS306000000036400\nS9030000FC\n"),
+            QByteArray("abcd"));
+        row("one fragment for each byte",
+            QByteArray("Uzna\0\1a\1\2\0\1b\1\x82\1\0\1c\2\1\1\xff", 22), QByteArray("\n\n\n\nabc"));
     }
     void readsObjectFiles()
     {

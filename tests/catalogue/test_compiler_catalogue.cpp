@@ -1,6 +1,7 @@
 #include "catalogue/compiler_catalogue.h"
 #include "catalogue/download.h"
 #include "catalogue/product_language.h"
+#include "tests/support/row.h"
 
 #include <QTest>
 
@@ -13,26 +14,16 @@ private slots:
     {
         QTest::addColumn<QString>("line");
         QTest::addColumn<QString>("name");
-        QTest::newRow("indented") << "   <Name>cc - C</Name>"
-                                  << "cc - C";
-        QTest::newRow("tab, carriage return") << "\t<Name>cc - C</Name>\r"
-                                              << "cc - C";
-        QTest::newRow("space inside the tags") << "<Name> cc </Name>"
-                                               << " cc ";
-        QTest::newRow("text after the closing tag") << "<Name>cc</Name> - C"
-                                                    << "cc - C";
-        QTest::newRow("runs of white space") << "<Name>c  \t c</Name>"
-                                             << "c c";
-        QTest::newRow("repeated tags") << "<Name><Name>cc</Name></Name>"
-                                       << "cc";
-        QTest::newRow("no closing tag") << "<Name>cc"
-                                        << "cc";
-        QTest::newRow("other case") << "<name>cc</name>"
-                                    << "";
-        QTest::newRow("tag not at the start") << "x <Name>cc</Name>"
-                                              << "";
-        QTest::newRow("replaced later") << "<Name>a</Name>\n<Name>b</Name>"
-                                        << "b";
+        row("indented", "   <Name>cc - C</Name>", "cc - C");
+        row("tab, carriage return", "\t<Name>cc - C</Name>\r", "cc - C");
+        row("space inside the tags", "<Name> cc </Name>", " cc ");
+        row("text after the closing tag", "<Name>cc</Name> - C", "cc - C");
+        row("runs of white space", "<Name>c  \t c</Name>", "c c");
+        row("repeated tags", "<Name><Name>cc</Name></Name>", "cc");
+        row("no closing tag", "<Name>cc", "cc");
+        row("other case", "<name>cc</name>", "");
+        row("tag not at the start", "x <Name>cc</Name>", "");
+        row("replaced later", "<Name>a</Name>\n<Name>b</Name>", "b");
     }
     void readsFields()
     {
@@ -47,20 +38,19 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QStringList>("families");
         QTest::addColumn<QStringList>("names");
-        QTest::newRow("nothing") << "" << QStringList() << QStringList();
-        QTest::newRow("noise") << "x\n<Name>n</Name>\n</Compiler>\n<compiler>" << QStringList()
-                               << QStringList();
-        QTest::newRow("families, one twice")
-            << "<CompilerFamily>B</CompilerFamily>\n <CompilerFamily> A\n<CompilerFamily>B"
-            << QStringList {"B", " A", "B"} << QStringList();
-        QTest::newRow("text behind a block's start and end")
-            << "<Compiler> x\n<Name>a</Name>\n</Compiler> x\n<Name>b</Name>\n </Compiler> \n"
-            << QStringList() << QStringList {"b"};
-        QTest::newRow("a family and a start inside a block")
-            << "<Compiler>\n<CompilerFamily>F\n<Compiler>\n<Name>a</Name>\n</Compiler>"
-            << QStringList() << QStringList {"a"};
-        QTest::newRow("cut short") << "<Compiler>\n<Name>a</Name>\n</Compiler>\n<Compiler>\n<Name>b"
-                                   << QStringList() << QStringList {"a", "b"};
+        row("nothing", "", QStringList(), QStringList());
+        row("noise", "x\n<Name>n</Name>\n</Compiler>\n<compiler>", QStringList(), QStringList());
+        row("families, one twice",
+            "<CompilerFamily>B</CompilerFamily>\n <CompilerFamily> A\n<CompilerFamily>B",
+            QStringList {"B", " A", "B"}, QStringList());
+        row("text behind a block's start and end",
+            "<Compiler> x\n<Name>a</Name>\n</Compiler> x\n<Name>b</Name>\n </Compiler> \n",
+            QStringList(), QStringList {"b"});
+        row("a family and a start inside a block",
+            "<Compiler>\n<CompilerFamily>F\n<Compiler>\n<Name>a</Name>\n</Compiler>", QStringList(),
+            QStringList {"a"});
+        row("cut short", "<Compiler>\n<Name>a</Name>\n</Compiler>\n<Compiler>\n<Name>b",
+            QStringList(), QStringList {"a", "b"});
     }
     void keepsToItsBlocks()
     {
@@ -104,26 +94,16 @@ private slots:
         QTest::addColumn<QString>("product");
         QTest::addColumn<bool>("offered");
         QTest::addColumn<bool>("conflicts");
-        QTest::newRow("C++ under KOV") << "C++"
-                                       << "kov" << false << true;
-        QTest::newRow("x - C++ under KOV") << "x - C++"
-                                           << "kov" << false << true;
-        QTest::newRow("x C++ under KOV") << "x C++"
-                                         << "kov" << true << true;
-        QTest::newRow("x - C under KOV") << "x - C"
-                                         << "kov" << true << false;
-        QTest::newRow("C under KOV++") << "C"
-                                       << "kovpp" << false << true;
-        QTest::newRow("x - C under KOV++") << "x - C"
-                                           << "kovpp" << false << true;
-        QTest::newRow("XC under KOV++") << "XC"
-                                        << "kovpp" << true << true;
-        QTest::newRow("xc under KOV++") << "xc"
-                                        << "kovpp" << true << false;
-        QTest::newRow("C++ under KOV++") << "C++"
-                                         << "kovpp" << true << false;
-        QTest::newRow("none") << ""
-                              << "kovpp" << true << false;
+        row("C++ under KOV", "C++", "kov", false, true);
+        row("x - C++ under KOV", "x - C++", "kov", false, true);
+        row("x C++ under KOV", "x C++", "kov", true, true);
+        row("x - C under KOV", "x - C", "kov", true, false);
+        row("C under KOV++", "C", "kovpp", false, true);
+        row("x - C under KOV++", "x - C", "kovpp", false, true);
+        row("XC under KOV++", "XC", "kovpp", true, true);
+        row("xc under KOV++", "xc", "kovpp", true, false);
+        row("C++ under KOV++", "C++", "kovpp", true, false);
+        row("none", "", "kovpp", true, false);
     }
     void tellsLanguages()
     {

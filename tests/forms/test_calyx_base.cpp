@@ -1,17 +1,15 @@
-#include "forms/log_browser.h"
 #include "generation/command_order.h"
+#include "tests/support/row.h"
 #include "tests/support/wizard_test.h"
 
 #include <QCheckBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRandomGenerator>
 #include <QStyleOptionButton>
 #include <QTest>
-#include <QTextEdit>
 
 namespace {
 
@@ -119,44 +117,6 @@ private slots:
         }
     }
 
-    void movesTheFocusInReadingOrder()
-    {
-        const WizardUser user;
-        user->showPage(user->Page1);
-        const QList<QWidget *> expected {user->ExeCommandBtn,     user->CmpExeEdit,
-                                         user->CrossCmpCheckBox,  user->CmpExeFlagEdit,
-                                         user->CmpExeFlagChkBox,  user->CmpDefFlagEdit,
-                                         user->CmpDefFlagChkBox,  user->CmpCmpFlagEdit,
-                                         user->CmpObjExtFlagEdit, user->ReduceFileSizeCheckBox,
-                                         user->CmpOrderListBox,   user->CmdOrderUpBtn,
-                                         user->CmdOrderDwnBtn,    user->P1_PrdctBtn,
-                                         user->P1_CmpBtn,         user->P1_SrchBtn,
-                                         user->P1_DefBtn,         user->P1_RevBtn};
-        user->ExeCommandBtn->setFocus();
-        QList<QWidget *> visited;
-        for (int i = 0; i < expected.size(); ++i) {
-            visited << user->focusWidget();
-            QTest::keyClick(user->focusWidget(), Qt::Key_Tab);
-        }
-        QCOMPARE(visited, expected);
-    }
-
-    void startsEmpty()
-    {
-        const Form form;
-        QVERIFY(form.KOVRadioButton->isChecked() && !form.KOVPPRadioButton->isChecked());
-        for (const QLineEdit *edit : form.findChildren<QLineEdit *>())
-            QVERIFY(edit->text().isEmpty());
-        for (const QCheckBox *box : form.findChildren<QCheckBox *>())
-            QVERIFY(!box->isChecked());
-        QStringList disabled;
-        for (const QPushButton *button : form.findChildren<QPushButton *>()) {
-            if (!button->isEnabled() && button->window() == &form && button->parent() == form.Page4)
-                disabled << button->objectName();
-        }
-        QCOMPARE(disabled, QStringList({"SaveLogBtn", "AddCompilerBtn"}));
-    }
-
     void setsItsTextsAgain()
     {
         Form form;
@@ -188,16 +148,16 @@ private slots:
         QTest::addColumn<QPixmap>("builtIn");
         QTest::addColumn<QString>("bitmap");
         const Form form;
-        QTest::newRow("product") << form.productOffImage << "product_output";
-        QTest::newRow("product on") << form.productOnImage << "product_output_shd";
-        QTest::newRow("compiler") << form.compilerOffImage << "compiler_command";
-        QTest::newRow("compiler on") << form.compilerOnImage << "compiler_command_shd";
-        QTest::newRow("search") << form.searchOffImage << "search_directories";
-        QTest::newRow("search on") << form.searchOnImage << "search_directories_shd";
-        QTest::newRow("defines") << form.definesOffImage << "defines_switches";
-        QTest::newRow("defines on") << form.definesOnImage << "defines_switches_shd";
-        QTest::newRow("review") << form.reviewOffImage << "review";
-        QTest::newRow("review on") << form.reviewOnImage << "review_shd";
+        row("product", form.productOffImage, "product_output");
+        row("product on", form.productOnImage, "product_output_shd");
+        row("compiler", form.compilerOffImage, "compiler_command");
+        row("compiler on", form.compilerOnImage, "compiler_command_shd");
+        row("search", form.searchOffImage, "search_directories");
+        row("search on", form.searchOnImage, "search_directories_shd");
+        row("defines", form.definesOffImage, "defines_switches");
+        row("defines on", form.definesOnImage, "defines_switches_shd");
+        row("review", form.reviewOffImage, "review");
+        row("review on", form.reviewOnImage, "review_shd");
     }
     void showsTheSamePicturesAsTheBitmaps()
     {

@@ -1,4 +1,5 @@
 #include "forms/log_browser.h"
+#include "tests/support/row.h"
 
 #include <QScrollBar>
 #include <QTest>
@@ -13,24 +14,12 @@ private slots:
         QTest::addColumn<QString>("first");
         QTest::addColumn<QString>("second");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("text after text") << "one"
-                                         << "two"
-                                         << "one\ntwo";
-        QTest::newRow("text after a line feed") << "one\n"
-                                                << "two"
-                                                << "one\ntwo";
-        QTest::newRow("text after an empty line") << "one\n\n"
-                                                  << "two"
-                                                  << "one\n\ntwo";
-        QTest::newRow("a heading with line feeds") << "one\n"
-                                                   << "\n\ntwo\n"
-                                                   << "one\n\n\ntwo\n";
-        QTest::newRow("the first text") << ""
-                                        << "two"
-                                        << "two";
-        QTest::newRow("markup") << "<b>one</b>"
-                                << "&lt;<i>"
-                                << "<b>one</b>\n&lt;<i>";
+        row("text after text", "one", "two", "one\ntwo");
+        row("text after a line feed", "one\n", "two", "one\ntwo");
+        row("text after an empty line", "one\n\n", "two", "one\n\ntwo");
+        row("a heading with line feeds", "one\n", "\n\ntwo\n", "one\n\n\ntwo\n");
+        row("the first text", "", "two", "two");
+        row("markup", "<b>one</b>", "&lt;<i>", "<b>one</b>\n&lt;<i>");
     }
     void startsParagraphsWhereTheLastHasText()
     {

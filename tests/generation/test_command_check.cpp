@@ -1,4 +1,5 @@
 #include "generation/command_check.h"
+#include "tests/support/row.h"
 
 #include <QTest>
 
@@ -11,18 +12,12 @@ private slots:
     {
         QTest::addColumn<QString>("line");
         QTest::addColumn<QString>("word");
-        QTest::newRow("bare") << "cc"
-                              << "cc";
-        QTest::newRow("with options") << "cc -m32 \"x\""
-                                      << "cc";
-        QTest::newRow("leading space") << " cc"
-                                       << "";
-        QTest::newRow("quoted") << "\"C:\\a b\\cc\" -m32"
-                                << "C:\\a b\\cc";
-        QTest::newRow("no closing quote") << "\"C:\\a b\\cc -m32"
-                                          << "C:\\a b\\cc -m32";
-        QTest::newRow("quote only") << "\""
-                                    << "";
+        row("bare", "cc", "cc");
+        row("with options", "cc -m32 \"x\"", "cc");
+        row("leading space", " cc", "");
+        row("quoted", "\"C:\\a b\\cc\" -m32", "C:\\a b\\cc");
+        row("no closing quote", "\"C:\\a b\\cc -m32", "C:\\a b\\cc -m32");
+        row("quote only", "\"", "");
     }
     void takesTheProgramsWord()
     {

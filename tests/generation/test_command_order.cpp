@@ -1,4 +1,5 @@
 #include "generation/command_order.h"
+#include "tests/support/row.h"
 
 #include <QTest>
 #include <algorithm>
@@ -21,20 +22,15 @@ private slots:
         QTest::addColumn<bool>("defineSpace");
         QTest::addColumn<QString>("preview");
         QTest::addColumn<QString>("tokens");
-        QTest::newRow("default") << defaultOrder() << false << false
-                                 << "cc -o<exe file> -DXXX -c <src file> "
-                                 << "%c %o%e %d%j %s ";
-        QTest::newRow("spaces after both flags")
-            << defaultOrder() << true << true
-            << QString("cc -o <exe file> -D %1 -c <src file> ").arg("XXX") << "%c %o %e %d %j %s ";
-        QTest::newRow("space after the output flag only")
-            << defaultOrder() << true << false << "cc -o <exe file> -DXXX -c <src file> "
-            << "%c %o %e %d%j %s ";
-        QTest::newRow("empty") << QStringList() << true << true << ""
-                               << "";
-        QTest::newRow("a row that is no item") << QStringList {"exe command", "<src file>"} << false
-                                               << false << "exe command <src file> "
-                                               << "%s ";
+        row("default", defaultOrder(), false, false, "cc -o<exe file> -DXXX -c <src file> ",
+            "%c %o%e %d%j %s ");
+        row("spaces after both flags", defaultOrder(), true, true,
+            QString("cc -o <exe file> -D %1 -c <src file> ").arg("XXX"), "%c %o %e %d %j %s ");
+        row("space after the output flag only", defaultOrder(), true, false,
+            "cc -o <exe file> -DXXX -c <src file> ", "%c %o %e %d%j %s ");
+        row("empty", QStringList(), true, true, "", "");
+        row("a row that is no item", QStringList {"exe command", "<src file>"}, false, false,
+            "exe command <src file> ", "%s ");
     }
     void showsAndEncodesTheOrder()
     {
@@ -70,13 +66,11 @@ private slots:
     {
         QTest::addColumn<QString>("tokens");
         QTest::addColumn<QStringList>("order");
-        QTest::newRow("two items") << "%s %c " << QStringList {"<src file>", "Exe Command"};
-        QTest::newRow("no token") << "" << QStringList();
-        QTest::newRow("text without a percent sign") << "code" << QStringList {"Exe Command"};
-        QTest::newRow("more than one letter")
-            << "%es%jo" << QStringList {"<exe file>", "Object Flag"};
-        QTest::newRow("an eighth section")
-            << "%s%s%s%s%s%s%c" << QStringList(6, QStringLiteral("<src file>"));
+        row("two items", "%s %c ", QStringList {"<src file>", "Exe Command"});
+        row("no token", "", QStringList());
+        row("text without a percent sign", "code", QStringList {"Exe Command"});
+        row("more than one letter", "%es%jo", QStringList {"<exe file>", "Object Flag"});
+        row("an eighth section", "%s%s%s%s%s%s%c", QStringList(6, QStringLiteral("<src file>")));
     }
     void readsForeignOrders()
     {
@@ -90,12 +84,9 @@ private slots:
     {
         QTest::addColumn<QString>("lines");
         QTest::addColumn<QString>("list");
-        QTest::newRow("an empty line") << "A\nB\n\nC"
-                                       << "A,B,C";
-        QTest::newRow("a trailing line feed") << "A\n"
-                                              << "A,";
-        QTest::newRow("two empty lines") << "A\n\n\nB"
-                                         << "A,,B";
+        row("an empty line", "A\nB\n\nC", "A,B,C");
+        row("a trailing line feed", "A\n", "A,");
+        row("two empty lines", "A\n\n\nB", "A,,B");
     }
     void joinsLinesWithCommas()
     {

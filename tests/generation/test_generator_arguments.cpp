@@ -1,4 +1,5 @@
 #include "generation/generator_arguments.h"
+#include "tests/support/row.h"
 
 #include <QTest>
 #include <functional>
@@ -71,14 +72,10 @@ private slots:
     {
         QTest::addColumn<QString>("command");
         QTest::addColumn<QString>("argument");
-        QTest::newRow("no space") << "cc"
-                                  << "cc";
-        QTest::newRow("space") << "cc -m32"
-                               << "\"cc -m32\"";
-        QTest::newRow("begins with a quote") << "\"c c\" -m32"
-                                             << "\"c c\" -m32";
-        QTest::newRow("ends with a quote") << "cc -D\"a b\""
-                                           << "cc -D\"a b\"";
+        row("no space", "cc", "cc");
+        row("space", "cc -m32", "\"cc -m32\"");
+        row("begins with a quote", "\"c c\" -m32", "\"c c\" -m32");
+        row("ends with a quote", "cc -D\"a b\"", "cc -D\"a b\"");
     }
     void quotesCommandsWithSpacesOnce()
     {

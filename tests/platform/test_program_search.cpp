@@ -1,6 +1,7 @@
 #include "platform/program_search.h"
 
 #include "platform/paths.h"
+#include "tests/support/row.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -44,27 +45,17 @@ private slots:
     {
         QTest::addColumn<QString>("word");
         QTest::addColumn<QString>("found"); // in the folder; empty: nothing
-        QTest::newRow("bare name on the path") << "plain"
-                                               << "tools/plain";
-        QTest::newRow("suffix .com on the path") << "dos"
-                                                 << "tools/dos.com";
-        QTest::newRow("suffix .bat on the path") << "script"
-                                                 << "tools/script.bat";
-        QTest::newRow("suffix .exe in the current folder") << "here"
-                                                           << "here.exe";
-        QTest::newRow("a folder on the path") << "folder"
-                                              << "";
-        QTest::newRow("missing") << "absent"
-                                 << "";
-        QTest::newRow("path with backslashes") << "tools\\sub folder\\cc"
-                                               << "tools/sub folder/cc";
-        QTest::newRow("a path gets no suffix") << ".\\here"
-                                               << "";
-        QTest::newRow("a path to a folder") << "tools\\folder"
-                                            << "tools/folder";
-        QTest::newRow("absolute path with slashes")
-            << m_folder.filePath("tools/plain") << "tools/plain";
-        QTest::newRow("missing absolute path") << m_folder.filePath("plain") << "";
+        row("bare name on the path", "plain", "tools/plain");
+        row("suffix .com on the path", "dos", "tools/dos.com");
+        row("suffix .bat on the path", "script", "tools/script.bat");
+        row("suffix .exe in the current folder", "here", "here.exe");
+        row("a folder on the path", "folder", "");
+        row("missing", "absent", "");
+        row("path with backslashes", "tools\\sub folder\\cc", "tools/sub folder/cc");
+        row("a path gets no suffix", ".\\here", "");
+        row("a path to a folder", "tools\\folder", "tools/folder");
+        row("absolute path with slashes", m_folder.filePath("tools/plain"), "tools/plain");
+        row("missing absolute path", m_folder.filePath("plain"), "");
     }
     void findsCommands()
     {
