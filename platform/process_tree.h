@@ -2,6 +2,7 @@
 
 #include <QProcess>
 #include <QString>
+#include <memory>
 
 namespace platform {
 
@@ -11,27 +12,35 @@ namespace platform {
 class ProgramGuard
 {
 public:
-    /// \a folder is removed with all that is in it.
+    /// \a folder is removed with all that is in it. Where nothing can outlive a killed program its
+    /// folder is removed by the next one that has one beside it.
     explicit ProgramGuard(const QString &folder);
     ~ProgramGuard();
     ProgramGuard(const ProgramGuard &) = delete;
     ProgramGuard &operator=(const ProgramGuard &) = delete;
 };
 
-/// A program with all that it starts itself. To be made before the process is started.
+/// A program with all that it starts itself.
 class ProcessTree
 {
 public:
+    /// \a process, not yet started, must outlive the tree.
     explicit ProcessTree(QProcess &process);
+    /// Ends what is left, too.
+    ~ProcessTree();
+    ProcessTree(const ProcessTree &) = delete;
+    ProcessTree &operator=(const ProcessTree &) = delete;
 
-    /// To be called once the process has been started.
-    void started();
-    /// Ends whatever is left of the tree; also to be called when the process has ended by itself.
+    /// Starts \a command, a program's path and its arguments, which arrive as they are. False when
+    /// it cannot be started.
+    bool start(const QStringList &command);
+    /// Ends whatever is left of the tree, also when the process has ended by itself.
     void end();
 
 private:
+    struct System;
     QProcess &m_process;
-    qint64 m_id = 0;
+    const std::unique_ptr<System> m_system;
 };
 
 } // namespace platform

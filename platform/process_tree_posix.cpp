@@ -86,7 +86,13 @@ ProgramGuard::~ProgramGuard()
     waitpid(guardian, nullptr, 0);
 }
 
-ProcessTree::ProcessTree(QProcess &process) : m_process(process)
+struct ProcessTree::System
+{
+    pid_t group = 0;
+};
+
+ProcessTree::ProcessTree(QProcess &process)
+    : m_process(process), m_system(std::make_unique<System>())
 {
     m_process.setChildProcessModifier([] {
         setpgid(0, 0);
@@ -94,18 +100,27 @@ ProcessTree::ProcessTree(QProcess &process) : m_process(process)
     });
 }
 
-void ProcessTree::started()
+ProcessTree::~ProcessTree()
 {
-    m_id = m_process.processId();
+    end();
+}
+
+bool ProcessTree::start(const QStringList &command)
+{
+    m_process.start(command.first(), command.mid(1));
+    if (!m_process.waitForStarted())
+        return false;
+    m_system->group = static_cast<pid_t>(m_process.processId());
+    return true;
 }
 
 void ProcessTree::end()
 {
-    if (m_id <= 0)
+    if (m_system->group <= 0)
         return;
-    kill(-static_cast<pid_t>(m_id), SIGKILL);
-    report(static_cast<pid_t>(m_id), false);
-    m_id = 0;
+    kill(-m_system->group, SIGKILL);
+    report(m_system->group, false);
+    m_system->group = 0;
 }
 
 } // namespace platform

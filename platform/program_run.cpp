@@ -33,10 +33,8 @@ ProgramRun runProgram(const QStringList &command, const QString &directory, int 
     process.setWorkingDirectory(directory);
     process.setStandardInputFile(QProcess::nullDevice());
     ProcessTree tree(process);
-    process.start(command.first(), command.mid(1));
-    if (!process.waitForStarted())
+    if (!tree.start(command))
         return run;
-    tree.started();
 
     const QDeadlineTimer deadline(timeLimit);
     while (process.state() != QProcess::NotRunning && !deadline.hasExpired()) {

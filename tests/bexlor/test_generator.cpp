@@ -213,36 +213,6 @@ private slots:
         QCOMPARE(QDir(temporary).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
     }
 
-    void takesEverythingAlongWhenItIsKilled()
-    {
-        const QTemporaryDir folder;
-        for (const char *name : {"sub folder", "temporary"})
-            QDir(folder.path()).mkdir(name);
-        const QString compiler = folder.filePath("cc");
-        QFile file(compiler);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("#!/bin/sh\nsleep 600 &\necho $! >'" + folder.filePath("child").toLocal8Bit()
-                   + "'\nwait\n");
-        file.close();
-        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        QProcess generator;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("TMPDIR", folder.filePath("temporary"));
-        generator.setProcessEnvironment(environment);
-        generator.setWorkingDirectory(folder.path());
-        generator.start(GENERATOR, {"kov", "cmp", compiler, "-o", "-c", "-D", ".o",
-                                    "%c %o%e %j %s ", "-op", "sub folder\\mine.p_c"});
-        QTRY_VERIFY(!read(folder.filePath("child")).isEmpty());
-        const QString child = read(folder.filePath("child")).trimmed();
-        QVERIFY(QFile::exists("/proc/" + child));
-        generator.kill();
-        generator.waitForFinished();
-        QTRY_VERIFY(!QFile::exists("/proc/" + child));
-        QTRY_COMPARE(
-            QDir(folder.filePath("temporary")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-            QStringList());
-    }
-
     void refusesAWrongList()
     {
         const QTemporaryDir folder;

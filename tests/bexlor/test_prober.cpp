@@ -1,13 +1,6 @@
 #include "bexlor/prober.h"
-
-#include "platform/process_tree.h"
 #include "tests/support/row.h"
 
-#include <QDir>
-#include <QElapsedTimer>
-#include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
 
 class TestProber : public QObject
@@ -73,32 +66,7 @@ private slots:
         QFETCH(QByteArray, file);
         QTEST(objectBytes(file), "bytes");
     }
-
-    void keepsToItsTimeAndItsMemory()
-    {
-        const QTemporaryDir folder;
-        QElapsedTimer timer;
-        timer.start();
-        const QStringList shell {"/bin/sh", "-c", "sleep 600 & echo $! >child; yes; wait"};
-        const platform::ProgramRun run = platform::runProgram(shell, folder.path(), 500);
-        QCOMPARE(run.ending, platform::ProgramRun::TimedOut);
-        QVERIFY(timer.elapsed() < 30'000);
-        QCOMPARE(run.output.size(), 1'000'000);
-        QFile child(folder.filePath("child"));
-        QVERIFY(child.open(QIODevice::ReadOnly));
-        const QByteArray number = child.readAll().trimmed();
-        QTRY_VERIFY(!QFile::exists("/proc/" + number));
-    }
-
-    void closesTheStandardInput()
-    {
-        const QTemporaryDir folder;
-        const platform::ProgramRun run =
-            platform::runProgram({"/bin/sh", "-c", "cat; echo $LC_ALL"}, folder.path(), 30'000);
-        QVERIFY(run.succeeded());
-        QCOMPARE(run.output, QByteArray("C\n"));
-    }
 };
 
-QTEST_GUILESS_MAIN(TestProber)
+QTEST_APPLESS_MAIN(TestProber)
 #include "test_prober.moc"

@@ -18,7 +18,7 @@ ProgramFolder::ProgramFolder()
         folder.mkdir(QLatin1String(name));
     for (const QString &image : QDir(QStringLiteral(SOURCE_FOLDER "/images")).entryList({"*.bmp"}))
         QFile::copy(QStringLiteral(SOURCE_FOLDER "/images/") + image, path("images/" + image));
-    QFile::copy(QStringLiteral(STAND_IN_GENERATOR), path("tools/Bexlor.exe"));
+    QFile::copy(QStringLiteral(STAND_IN), path("tools/Bexlor.exe"));
     write("tools/cc", "");
     QDir::setCurrent(path("bin"));
     qputenv("PATH", path("tools").toLocal8Bit());
@@ -40,6 +40,13 @@ QString ProgramFolder::read(const QString &name) const
 {
     QFile file(path(name));
     return file.open(QIODevice::ReadOnly) ? QString::fromLocal8Bit(file.readAll()) : QString();
+}
+
+QString ProgramFolder::generatorArguments() const
+{
+    QFile file(path("bin/arguments.txt"));
+    file.open(QIODevice::ReadOnly | QIODevice::Text);
+    return QString::fromUtf8(file.readAll());
 }
 
 void ProgramFolder::write(const QString &name, const QByteArray &content) const

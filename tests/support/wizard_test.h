@@ -20,6 +20,8 @@ public:
     QString path(const QString &name) const;
     QString read(const QString &name) const;
     void write(const QString &name, const QByteArray &content) const;
+    /// The arguments that the stand-in generator was started with, each followed by a line feed.
+    QString generatorArguments() const;
     /// What the stand-in generator does from now on, see there.
     static void instruct(const QByteArray &instructions);
 

@@ -1,12 +1,19 @@
-// Stands in for the generator: records its arguments in arguments.txt, one a line, and then does
-// what the environment variable STAND_IN says, one word of instruction a line:
+// Stands in for the generator, or for a compiler: records its arguments in arguments.txt, in UTF-8
+// and one a line, and then does what the environment variable STAND_IN says, one word of
+// instruction a line:
 //
 //     print TEXT        TEXT and a line feed on the standard output
 //     bytes TEXT        TEXT alone, with \xHH for a byte; flushed, and followed by a pause
 //     lines COUNT       COUNT numbered lines
+//     flood             lines without end
+//     input             what comes on the standard input, up to its end
 //     file NAME TEXT    a file
 //     wait NAME         until there is such a file
+//     child NAME        starts itself to do "beat NAME", and does not wait for it
+//     beat NAME         makes the file NAME grow for as long as it lives
 //     crash, hang, exit STATUS
+
+#include "tests/support/stand_in_system.h"
 
 #include <chrono>
 #include <cstdlib>
@@ -14,7 +21,6 @@
 #include <fstream>
 #include <iostream>
 #include <sstream>
-#include <string>
 #include <thread>
 
 namespace {
@@ -49,14 +55,24 @@ void obey(const std::string &instruction)
     } else if (word == "lines") {
         for (int i = 0; i < std::stoi(rest); ++i)
             std::cout << "line " << i << " of a generator that has a lot to say <b>today</b>\n";
+    } else if (word == "flood") {
+        while (std::cout << "line without end\n") { }
+    } else if (word == "input") {
+        std::cout << std::cin.rdbuf();
+        std::cout.clear();
     } else if (word == "file") {
         const std::size_t space = rest.find(' ');
         std::ofstream(rest.substr(0, space)) << unescaped(rest.substr(space + 1));
     } else if (word == "wait") {
         while (!std::filesystem::exists(rest))
             std::this_thread::sleep_for(10ms);
+    } else if (word == "child") {
+        startAgain("beat " + rest);
+    } else if (word == "beat") {
+        for (std::ofstream file(rest);; std::this_thread::sleep_for(10ms))
+            file << '.' << std::flush;
     } else if (word == "crash") {
-        std::abort();
+        crash();
     } else if (word == "hang") {
         std::this_thread::sleep_for(1h);
     } else if (word == "exit") {
@@ -70,8 +86,8 @@ void obey(const std::string &instruction)
 int main(int argc, char *argv[])
 {
     std::ofstream record("arguments.txt");
-    for (int i = 1; i < argc; ++i)
-        record << argv[i] << '\n';
+    for (const std::string &argument : utf8Arguments(argc, argv))
+        record << argument << '\n';
     record.close();
 
     const char *instructions = std::getenv("STAND_IN");

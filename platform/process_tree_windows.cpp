@@ -1,0 +1,163 @@
+#include "platform/process_tree.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <array>
+#include <qt_windows.h>
+#include <vector>
+
+namespace platform {
+
+namespace {
+
+// A living program keeps this file in its folder open, and no other program can open it meanwhile.
+const QLatin1String lockName("in-use");
+
+HANDLE lock = INVALID_HANDLE_VALUE;
+
+HANDLE openLock(const QString &folder, DWORD disposition)
+{
+    const QString path = QDir::toNativeSeparators(folder + QLatin1Char('/') + lockName);
+    return CreateFileW(reinterpret_cast<const wchar_t *>(path.utf16()), GENERIC_WRITE, 0, nullptr,
+                       disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
+/// Removes the folders beside \a folder, of the same name but for the letters that make it unique,
+/// whose programs have been killed.
+void removeAbandonedFolders(const QString &folder)
+{
+    const QFileInfo own(folder);
+    const QString stem = own.fileName().section(QLatin1Char('-'), 0, -2);
+    const QDir parent = own.dir();
+    for (const QString &name : parent.entryList({stem + QLatin1String("-*")}, QDir::Dirs)) {
+        const QString path = parent.filePath(name);
+        const HANDLE abandoned = openLock(path, OPEN_EXISTING);
+        if (abandoned == INVALID_HANDLE_VALUE)
+            continue;
+        CloseHandle(abandoned);
+        QDir(path).removeRecursively();
+    }
+}
+
+bool isBatchFile(const QString &program)
+{
+    const QString suffix = QFileInfo(program).suffix().toLower();
+    return suffix == QLatin1String("bat") || suffix == QLatin1String("cmd");
+}
+
+QString commandInterpreter()
+{
+    std::array<wchar_t, MAX_PATH> folder {};
+    GetSystemDirectoryW(folder.data(), UINT(folder.size()));
+    return QString::fromWCharArray(folder.data()) + QLatin1String("\\cmd.exe");
+}
+
+/// \a argument in quotes, so that the command interpreter hands it to a batch file as it is and
+/// finds nothing in it: a quotation mark is doubled, which both the interpreter and the programs
+/// that a batch file calls take for one, and backslashes before one are doubled for the latter.
+/// Behind a percent sign, which might begin a variable's name, stands an empty part of the current
+/// directory ("cmd /?", "set /?").
+QString quotedForInterpreter(const QString &argument)
+{
+    QString quoted(QLatin1Char('"'));
+    int backslashes = 0;
+    for (const QChar character : argument) {
+        if (character == QLatin1Char('"'))
+            quoted += QString(backslashes, QLatin1Char('\\')) + QLatin1Char('"');
+        else if (character == QLatin1Char('%'))
+            quoted += QLatin1String("%%cd:~,");
+        quoted += character;
+        backslashes = character == QLatin1Char('\\') ? backslashes + 1 : 0;
+    }
+    return quoted + QString(backslashes, QLatin1Char('\\')) + QLatin1Char('"');
+}
+
+} // namespace
+
+ProgramGuard::ProgramGuard(const QString &folder)
+{
+    removeAbandonedFolders(folder);
+    lock = openLock(folder, CREATE_NEW);
+}
+
+ProgramGuard::~ProgramGuard()
+{
+    CloseHandle(lock);
+}
+
+/// The job object that holds a program and all that it starts. Closing its last handle ends them,
+/// and this program's handles are closed however it ends.
+struct ProcessTree::System
+{
+    HANDLE job = nullptr;
+    STARTUPINFOEXW startup {};
+    std::vector<char> attributes;
+
+    LPPROC_THREAD_ATTRIBUTE_LIST list()
+    {
+        return reinterpret_cast<LPPROC_THREAD_ATTRIBUTE_LIST>(attributes.data());
+    }
+};
+
+ProcessTree::ProcessTree(QProcess &process)
+    : m_process(process), m_system(std::make_unique<System>())
+{
+    m_system->job = CreateJobObjectW(nullptr, nullptr);
+    JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits {};
+    limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+    SetInformationJobObject(m_system->job, JobObjectExtendedLimitInformation, &limits,
+                            sizeof limits);
+    // The process is in the job from its first moment on.
+    SIZE_T size = 0;
+    InitializeProcThreadAttributeList(nullptr, 1, 0, &size);
+    m_system->attributes.resize(size);
+    InitializeProcThreadAttributeList(m_system->list(), 1, 0, &size);
+    UpdateProcThreadAttribute(m_system->list(), 0, PROC_THREAD_ATTRIBUTE_JOB_LIST, &m_system->job,
+                              sizeof m_system->job, nullptr, nullptr);
+    m_process.setCreateProcessArgumentsModifier(
+        [system = m_system.get()](QProcess::CreateProcessArguments *arguments) {
+            system->startup.StartupInfo = *arguments->startupInfo;
+            system->startup.StartupInfo.cb = sizeof system->startup;
+            system->startup.lpAttributeList = system->list();
+            arguments->startupInfo = &system->startup.StartupInfo;
+            arguments->flags |= EXTENDED_STARTUPINFO_PRESENT;
+        });
+}
+
+ProcessTree::~ProcessTree()
+{
+    end();
+    DeleteProcThreadAttributeList(m_system->list());
+}
+
+bool ProcessTree::start(const QStringList &command)
+{
+    const QString &program = command.first();
+    if (!isBatchFile(program)) {
+        m_process.start(program, command.mid(1));
+        return m_process.waitForStarted();
+    }
+    QString line = quotedForInterpreter(QDir::toNativeSeparators(program));
+    for (const QString &argument : command.mid(1)) {
+        // A line feed ends the interpreter's command, whatever stands around it.
+        if (argument.contains(QLatin1Char('\n')) || argument.contains(QLatin1Char('\r')))
+            return false;
+        line += QLatin1Char(' ') + quotedForInterpreter(argument);
+    }
+    // The interpreter takes the outermost quotation marks away.
+    m_process.setNativeArguments(QLatin1String("/e:on /v:off /d /s /c \"") + line
+                                 + QLatin1Char('"'));
+    m_process.start(commandInterpreter(), QStringList());
+    return m_process.waitForStarted();
+}
+
+void ProcessTree::end()
+{
+    if (!m_system->job)
+        return;
+    TerminateJobObject(m_system->job, 1);
+    CloseHandle(m_system->job);
+    m_system->job = nullptr;
+}
+
+} // namespace platform

@@ -1,0 +1,147 @@
+#include "platform/process_tree.h"
+#include "platform/program_run.h"
+#include "tests/support/row.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+const bool isWindows = QDir::separator() == '\\';
+const QDir::Filters everything = QDir::AllEntries | QDir::NoDotAndDotDot;
+
+/// Whether whoever makes the file \a path grow has come to an end.
+bool hasStopped(const QString &path)
+{
+    const qint64 size = QFile(path).size();
+    QTest::qWait(200);
+    return QFile(path).size() == size;
+}
+
+} // namespace
+
+class TestProcessTree : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { qunsetenv("STAND_IN"); }
+
+    void passesArgumentsOnAsTheyAre_data()
+    {
+        QTest::addColumn<QString>("program");
+        row("program", "odd folder & co/program.exe");
+        if (isWindows)
+            row("batch file", "odd folder & co/compiler.bat");
+    }
+    void passesArgumentsOnAsTheyAre()
+    {
+        QFETCH(QString, program);
+        const QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkdir("odd folder & co"));
+        QVERIFY(QFile::copy(STAND_IN, folder.filePath("odd folder & co/program.exe")));
+        QFile batch(folder.filePath("odd folder & co/compiler.bat"));
+        QVERIFY(batch.open(QIODevice::WriteOnly));
+        batch.write("@\"%~dp0program.exe\" %*\r\n");
+        batch.close();
+        const QStringList arguments {"",
+                                     "-c",
+                                     "a b",
+                                     "\"cc -m32\"",
+                                     "quoted \\\"",
+                                     "ends in backslashes\\\\",
+                                     "-DTEXT=\"a \\\"b\\\"\"",
+                                     "&echo.>injected",
+                                     "\"&echo.>injected",
+                                     "\" & echo.>injected & \"",
+                                     "|<>^!()",
+                                     "%PATH%",
+                                     "100%",
+                                     "%*",
+                                     QString::fromUtf8("gr\303\266\303\237e \342\202\254")};
+        const platform::ProgramRun run = platform::runProgram(
+            QStringList(folder.filePath(program)) + arguments, folder.path(), 30'000);
+        QVERIFY2(run.succeeded(), run.errors);
+        QFile record(folder.filePath("arguments.txt"));
+        QVERIFY(record.open(QIODevice::ReadOnly | QIODevice::Text));
+        QCOMPARE(QString::fromUtf8(record.readAll()).split('\n').mid(0, arguments.size()),
+                 arguments);
+        QCOMPARE(QDir(folder.path()).entryList({"injected*"}), QStringList());
+    }
+
+    void keepsToItsTimeAndItsMemory()
+    {
+        const QTemporaryDir folder;
+        qputenv("STAND_IN", "child beat\nflood");
+        QElapsedTimer timer;
+        timer.start();
+        const platform::ProgramRun run = platform::runProgram({STAND_IN}, folder.path(), 1500);
+        QCOMPARE(run.ending, platform::ProgramRun::TimedOut);
+        QVERIFY(timer.elapsed() < 30'000);
+        QCOMPARE(run.output.size(), 1'000'000);
+        QVERIFY(QFile::exists(folder.filePath("beat")));
+        QTRY_VERIFY(hasStopped(folder.filePath("beat")));
+    }
+
+    void leavesNothingRunning()
+    {
+        const QTemporaryDir folder;
+        qputenv("STAND_IN", "child beat\nwait beat");
+        QVERIFY(platform::runProgram({STAND_IN}, folder.path(), 30'000).succeeded());
+        QTRY_VERIFY(hasStopped(folder.filePath("beat")));
+    }
+
+    void closesTheStandardInput()
+    {
+        const QTemporaryDir folder;
+        qputenv("STAND_IN", "input\nprint end");
+        const platform::ProgramRun run = platform::runProgram({STAND_IN}, folder.path(), 30'000);
+        QVERIFY(run.succeeded());
+        QCOMPARE(run.output.trimmed(), QByteArray("end"));
+    }
+
+    void endsWithTheProgramThatStartedIt()
+    {
+        const QTemporaryDir folder;
+        const QString beat = folder.filePath("beat");
+        const QDir temporary(folder.filePath("temporary"));
+        QVERIFY(QDir(folder.path()).mkdir("temporary"));
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char *variable : {"TMPDIR", "TMP", "TEMP"})
+            environment.insert(variable, QDir::toNativeSeparators(temporary.path()));
+        environment.insert("STAND_IN", "child " + beat + "\nhang");
+        const QStringList arguments {"kov",
+                                     "cmp",
+                                     QString('"' + QString(STAND_IN) + '"'),
+                                     "-o",
+                                     "-c",
+                                     "-D",
+                                     ".o",
+                                     "%c %o%e %j %s ",
+                                     "-op",
+                                     "x.p_c"};
+        QProcess generator;
+        generator.setProcessEnvironment(environment);
+        generator.setWorkingDirectory(folder.path());
+        generator.start(GENERATOR, arguments);
+        QTRY_VERIFY(QFile::exists(beat));
+        QVERIFY(!temporary.entryList(everything).isEmpty());
+        generator.kill();
+        generator.waitForFinished();
+        QTRY_VERIFY(hasStopped(beat));
+        if (isWindows) {
+            // What a killed program leaves is removed by the next.
+            environment.insert("STAND_IN", "exit 1");
+            generator.setProcessEnvironment(environment);
+            generator.start(GENERATOR, arguments);
+            generator.waitForFinished();
+        }
+        QTRY_COMPARE(temporary.entryList(everything), QStringList());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestProcessTree)
+#include "test_process_tree.moc"

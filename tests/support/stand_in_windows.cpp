@@ -1,0 +1,50 @@
+#include "tests/support/stand_in_system.h"
+
+#include <shellapi.h>
+#include <windows.h>
+
+namespace {
+
+std::string utf8(const wchar_t *text)
+{
+    std::string converted(3 * std::char_traits<wchar_t>::length(text) + 1, '\0');
+    const int size = WideCharToMultiByte(CP_UTF8, 0, text, -1, converted.data(),
+                                         static_cast<int>(converted.size()), nullptr, nullptr);
+    converted.resize(static_cast<std::size_t>(size) - 1);
+    return converted;
+}
+
+} // namespace
+
+std::vector<std::string> utf8Arguments(int, char *[])
+{
+    int count = 0;
+    wchar_t **words = CommandLineToArgvW(GetCommandLineW(), &count);
+    std::vector<std::string> arguments;
+    for (int i = 1; i < count; ++i)
+        arguments.push_back(utf8(words[i]));
+    LocalFree(words);
+    return arguments;
+}
+
+void startAgain(const std::string &instructions)
+{
+    wchar_t program[MAX_PATH];
+    GetModuleFileNameW(nullptr, program, MAX_PATH);
+    SetEnvironmentVariableA("STAND_IN", instructions.c_str());
+    STARTUPINFOW startup {};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process {};
+    if (CreateProcessW(program, nullptr, nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
+                       &process)) {
+        CloseHandle(process.hThread);
+        CloseHandle(process.hProcess);
+    }
+}
+
+void crash()
+{
+    // Without the system's window that reports it.
+    TerminateProcess(GetCurrentProcess(), STATUS_ACCESS_VIOLATION);
+    std::abort();
+}
