@@ -493,7 +493,7 @@ TreeNames readTree(const QStringList &directories)
             walk.remarks
                 << QStringLiteral("Passed over, since it does not exist: %1").arg(directory);
         else
-            walk.walk(fs::path(given.canonicalPath().toStdWString()));
+            walk.walk(fs::path(given.canonicalPath().toStdWString()).make_preferred());
     }
 
     std::vector<Share> shares(std::max(1u, std::thread::hardware_concurrency()));

@@ -31,8 +31,9 @@ public:
     ProcessTree(const ProcessTree &) = delete;
     ProcessTree &operator=(const ProcessTree &) = delete;
 
-    /// Starts \a command, a program's path and its arguments, which arrive as they are. False when
-    /// it cannot be started.
+    /// Starts \a command, a program's path and its arguments, which arrive as they are; but for
+    /// those of a batch file with quotation marks in them, which depend on who reads them. False
+    /// when it cannot be started.
     bool start(const QStringList &command);
     /// Ends whatever is left of the tree, also when the process has ended by itself.
     void end();

@@ -52,21 +52,24 @@ QString commandInterpreter()
     return QString::fromWCharArray(folder.data()) + QLatin1String("\\cmd.exe");
 }
 
-/// \a argument in quotes, so that the command interpreter hands it to a batch file as it is and
-/// finds nothing in it: a quotation mark is doubled, which both the interpreter and the programs
-/// that a batch file calls take for one, and backslashes before one are doubled for the latter.
-/// Behind a percent sign, which might begin a variable's name, stands an empty part of the current
-/// directory ("cmd /?", "set /?").
+// Stands for a percent sign in a command: what a variable holds is not looked through again.
+const QLatin1String percentVariable("BEXLOR_PERCENT");
+
+/// \a argument in quotes, so that the command interpreter hands it to a batch file and finds
+/// nothing in it. A quotation mark is doubled: that keeps the interpreter's count of them even, and
+/// most programs that a batch file calls take two for one, if the backslashes before it are
+/// doubled.
 QString quotedForInterpreter(const QString &argument)
 {
     QString quoted(QLatin1Char('"'));
     int backslashes = 0;
     for (const QChar character : argument) {
         if (character == QLatin1Char('"'))
-            quoted += QString(backslashes, QLatin1Char('\\')) + QLatin1Char('"');
+            quoted += QString(backslashes, QLatin1Char('\\')) + QLatin1String("\"\"");
         else if (character == QLatin1Char('%'))
-            quoted += QLatin1String("%%cd:~,");
-        quoted += character;
+            quoted += QLatin1Char('%') + percentVariable + QLatin1Char('%');
+        else
+            quoted += character;
         backslashes = character == QLatin1Char('\\') ? backslashes + 1 : 0;
     }
     return quoted + QString(backslashes, QLatin1Char('\\')) + QLatin1Char('"');
@@ -144,6 +147,9 @@ bool ProcessTree::start(const QStringList &command)
             return false;
         line += QLatin1Char(' ') + quotedForInterpreter(argument);
     }
+    QProcessEnvironment environment = m_process.processEnvironment();
+    environment.insert(percentVariable, QStringLiteral("%"));
+    m_process.setProcessEnvironment(environment);
     // The interpreter takes the outermost quotation marks away.
     m_process.setNativeArguments(QLatin1String("/e:on /v:off /d /s /c \"") + line
                                  + QLatin1Char('"'));

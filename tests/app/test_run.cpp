@@ -103,7 +103,7 @@ private slots:
         QTest::addColumn<QString>("shown");
         row("markup", QByteArray("print <b>bold</b> &amp;"), "<b>bold</b> &amp;\n");
         row("a character split over two reads", QByteArray("bytes caf\\xc3\nbytes \\xa9 au lait"),
-            QString::fromUtf8("café au lait\n"));
+            QString::fromLocal8Bit("café au lait\n"));
         row("a line split over two reads",
             QByteArray("bytes one \nbytes line\nbytes \\x0a\nprint two"), "one line\ntwo\n");
         row("a line end split over two reads",
@@ -266,7 +266,7 @@ private slots:
     {
         const ProgramFolder folder;
         const WizardUser user;
-        ProgramFolder::instruct("print Größe");
+        ProgramFolder::instruct(QString::fromUtf8("print Größe").toLocal8Bit());
         user.walkToReview();
         user.press(QWizard::FinishButton);
         QTRY_VERIFY(user->SaveLogBtn->isEnabled());

@@ -1,4 +1,6 @@
 #include "bexlor/arguments.h"
+
+#include "platform/paths.h"
 #include "tests/support/row.h"
 
 #include <QTest>
@@ -23,11 +25,11 @@ private slots:
              "f",      "-sub",         "s",           "-rfs"});
         QVERIFY(arguments);
         QVERIFY(arguments->isCpp && arguments->crossCompiler && arguments->reduceFileSize);
-        QCOMPARE(arguments->headerDirectories, QStringList({"../a b", "-op"}));
+        QCOMPARE(arguments->headerDirectories, QStringList({platform::hostPath("..\\a b"), "-op"}));
         QCOMPARE(arguments->personality, "x.p_c");
         QCOMPARE(arguments->defines, QStringList({"A", "B=(1,2)"}));
         QCOMPARE(arguments->switches, QStringList({"-x -y", "-z"}));
-        QCOMPARE(arguments->templateFile, "../t");
+        QCOMPARE(arguments->templateFile, platform::hostPath("..\\t"));
         QCOMPARE(arguments->forceIncludeFile + arguments->substituteHeaders, "fs");
     }
 

@@ -54,7 +54,8 @@ private slots:
         row("path with backslashes", "tools\\sub folder\\cc", "tools/sub folder/cc");
         row("a path gets no suffix", ".\\here", "");
         row("a path to a folder", "tools\\folder", "tools/folder");
-        row("absolute path with slashes", m_folder.filePath("tools/plain"), "tools/plain");
+        if (QDir::separator() == '/')
+            row("absolute path with slashes", m_folder.filePath("tools/plain"), "tools/plain");
         row("missing absolute path", m_folder.filePath("plain"), "");
     }
     void findsCommands()

@@ -1,7 +1,9 @@
 #include "tests/support/stand_in_system.h"
 
-#include <shellapi.h>
+#include <cstdlib>
 #include <windows.h>
+
+#include <shellapi.h> // needs the types of the header above
 
 namespace {
 

@@ -63,6 +63,8 @@ void ProgramFolder::instruct(const QByteArray &instructions)
 
 WizardUser::WizardUser()
 {
+    // The system's own file dialogs cannot be answered from here.
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication::setStyle(QStringLiteral("windows"));
     QApplication::setFont(formFont());
     m_wizard = std::make_unique<Calyx>();
