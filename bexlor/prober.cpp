@@ -6,9 +6,8 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
+#include <QThreadPool>
 #include <algorithm>
-#include <thread>
-#include <vector>
 
 namespace {
 
@@ -144,17 +143,10 @@ QList<Answer> Prober::askAll(const QList<QByteArray> &sources) const
 {
     QList<Answer> answers(sources.size());
     Answer *const slots_ = answers.data();
-    std::atomic<qsizetype> next = 0;
-    const auto work = [&] {
-        for (qsizetype index; (index = next++) < sources.size();)
-            slots_[index] = ask(sources[index]);
-    };
-    std::vector<std::thread> threads(std::min<std::size_t>(
-        std::max(1u, std::thread::hardware_concurrency()), std::size_t(sources.size())));
-    for (std::thread &thread : threads)
-        thread = std::thread(work);
-    for (std::thread &thread : threads)
-        thread.join();
+    QThreadPool pool;
+    for (qsizetype i = 0; i < sources.size(); ++i)
+        pool.start([this, slots_, &sources, i] { slots_[i] = ask(sources[i]); });
+    pool.waitForDone();
     return answers;
 }
 

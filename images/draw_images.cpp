@@ -1,5 +1,6 @@
 // Draws every picture of the wizard and writes it where the program expects it:
-// forms/images (compiled into the program) and images (loaded from the program folder).
+// forms/images (compiled into the program), images (loaded from the program folder), and
+// packaging/windows (the icon of the executable file).
 //
 // Usage: draw_images SOURCE_ROOT
 //
@@ -10,6 +11,9 @@
 // The captions are set in Liberation Sans; the pictures are committed, so that a build needs
 // neither that face nor this program.
 
+#include <QBuffer>
+#include <QDataStream>
+#include <QFile>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QHashSeed>
@@ -86,16 +90,38 @@ void drawBar(QPainter &painter, const QRectF &bar, const QColor &left, const QCo
     painter.fillRect(bar, gradient);
 }
 
-QImage icon()
+QImage icon(int size)
 {
-    QImage image = blank(32, 32, Qt::transparent);
+    QImage image = blank(size, size, Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(size / 32.0, size / 32.0);
     painter.setPen(Qt::NoPen);
     painter.setBrush(ink);
     painter.drawRoundedRect(QRectF(0, 0, 32, 32), 6, 6);
     drawSepals(painter, QPointF(16, 26), 21, {slate, mist, green});
-    return image;
+    return image.convertToFormat(QImage::Format_RGBA8888);
+}
+
+/// The icon in several sizes as one file in Windows' format: a header of 6 bytes, 16 bytes for each
+/// picture, and the pictures as PNG files, which that format may hold since Windows Vista.
+QByteArray windowsIcon()
+{
+    const quint8 sizes[] = {16, 32, 48, 0}; // 0 stands for 256
+    QByteArray file, pictures;
+    QDataStream stream(&file, QIODevice::WriteOnly);
+    stream.setByteOrder(QDataStream::LittleEndian);
+    stream << quint16(0) << quint16(1) << quint16(std::size(sizes));
+    for (const quint8 size : sizes) {
+        QByteArray picture;
+        QBuffer buffer(&picture);
+        icon(size == 0 ? 256 : size).save(&buffer, "PNG");
+        const qsizetype start = 6 + 16 * qsizetype(std::size(sizes)) + pictures.size();
+        stream << size << size << quint8(0) << quint8(0) << quint16(1) << quint16(32)
+               << quint32(picture.size()) << quint32(start);
+        pictures += picture;
+    }
+    return file + pictures;
 }
 
 /// The banner: an ink bar with a thin grey one under it. \a height is that of the whole picture.
@@ -344,8 +370,9 @@ bool drawAll(const QString &root)
                       "BMP");
         }
     }
-    written &=
-        write(icon().convertToFormat(QImage::Format_RGBA8888), compiledIn + "icon.png", "PNG");
+    written &= write(icon(32), compiledIn + "icon.png", "PNG");
+    QFile windows(root + "/packaging/windows/calyx.ico");
+    written &= windows.open(QIODevice::WriteOnly) && windows.write(windowsIcon()) > 0;
     return written;
 }
 
