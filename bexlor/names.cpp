@@ -1,6 +1,7 @@
 #include "bexlor/names.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <algorithm>
 #include <array>
 #include <atomic>
@@ -9,7 +10,6 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <thread>
@@ -368,6 +368,12 @@ bool isText(std::string_view content)
     return std::memchr(content.data(), 0, std::min<std::size_t>(content.size(), 4096)) == nullptr;
 }
 
+/// \a path with slashes, also where its bytes are no text.
+QString toQString(const fs::path &path)
+{
+    return QFileInfo(path).filePath();
+}
+
 /// The files below some directories, found before any of them is read.
 class Walk
 {
@@ -412,8 +418,7 @@ public:
 
     void remark(const fs::path &path)
     {
-        remarks << QStringLiteral("Passed over, since it cannot be read: %1")
-                       .arg(QString::fromStdWString(path.wstring()));
+        remarks << QStringLiteral("Passed over, since it cannot be read: %1").arg(toQString(path));
     }
 
 private:
@@ -430,56 +435,83 @@ struct Share
     std::vector<std::size_t> unreadable;
 };
 
-/// The content of \a file, in \a buffer, with a line feed before and behind it; no value when it
-/// cannot be read.
-std::optional<std::string_view> readFile(const fs::path &file, std::vector<char> &buffer)
+/// A file's content in a buffer, with a line feed before and behind it.
+class Content
 {
-    std::filebuf stream;
-    stream.pubsetbuf(nullptr, 0);
-    if (!stream.open(file, std::ios::in | std::ios::binary))
-        return {};
-    std::size_t size = 0;
-    for (;;) {
-        const std::size_t room = buffer.size() - size - 2 - wordSize;
-        const std::streamsize read = stream.sgetn(buffer.data() + 1 + size, std::streamsize(room));
-        size += std::size_t(std::max<std::streamsize>(read, 0));
-        if (read < std::streamsize(room))
-            break;
-        std::error_code ignored;
-        buffer.resize(
-            std::max(buffer.size() + firstBuffer, fs::file_size(file, ignored) + firstBuffer));
+public:
+    Content() { m_stream.pubsetbuf(nullptr, 0); }
+
+    bool open(const fs::path &file)
+    {
+        m_stream.close();
+        m_size = 0;
+        return m_stream.open(file, std::ios::in | std::ios::binary);
     }
-    buffer[0] = buffer[size + 1] = '\n';
-    return std::string_view(buffer.data() + 1, size);
-}
+
+    /// Adds what follows in the file, as much as fits.
+    void read()
+    {
+        m_size += std::size_t(std::max<std::streamsize>(
+            m_stream.sgetn(m_buffer.data() + 1 + m_size, std::streamsize(room() - m_size)), 0));
+        m_buffer[0] = m_buffer[m_size + 1] = '\n';
+    }
+    /// Adds all that follows in the file.
+    void readRest()
+    {
+        while (isFull()) {
+            m_buffer.resize(2 * m_buffer.size());
+            read();
+        }
+    }
+    /// Goes on in the file; the last bytes, in which a name may have begun, are kept. That its
+    /// first part alone is taken for a name as well does no harm, since every name is put to the
+    /// compiler.
+    void readNext()
+    {
+        const std::size_t kept = 2 * longestName;
+        std::memmove(m_buffer.data() + 1, m_buffer.data() + 1 + m_size - kept, kept);
+        m_size = kept;
+        read();
+    }
+
+    /// Whether the file may have more.
+    bool isFull() const { return m_size == room(); }
+    std::string_view text() const { return {m_buffer.data() + 1, m_size}; }
+
+private:
+    std::size_t room() const { return m_buffer.size() - 2 - wordSize; }
+
+    std::filebuf m_stream;
+    std::vector<char> m_buffer = std::vector<char>(firstBuffer, '\n');
+    std::size_t m_size = 0;
+};
 
 void readFiles(const std::vector<Walk::File> &files, std::atomic<std::size_t> &next, Share &share)
 {
-    std::vector<char> buffer(firstBuffer, '\n');
+    Content content;
     for (std::size_t index; (index = next++) < files.size();) {
         const Walk::File &file = files[index];
         if (!file.isRead) {
             share.texts.push_back(index);
             continue;
         }
-        const std::optional<std::string_view> text = readFile(file.path, buffer);
-        if (!text) {
+        if (!content.open(file.path)) {
             share.unreadable.push_back(index);
             continue;
         }
-        Scanner scanner(*text, share.names);
-        if (isText(*text)) {
+        content.read();
+        if (isText(content.text())) {
             share.texts.push_back(index);
-            scanner.scanHeader();
-        } else {
-            scanner.scanBinary();
+            content.readRest();
+            Scanner(content.text(), share.names).scanHeader();
+            continue;
+        }
+        Scanner(content.text(), share.names).scanBinary();
+        while (content.isFull()) {
+            content.readNext();
+            Scanner(content.text(), share.names).scanBinary();
         }
     }
-}
-
-QString toQString(const fs::path &path)
-{
-    return QString::fromStdWString(path.generic_wstring());
 }
 
 } // namespace
@@ -493,7 +525,7 @@ TreeNames readTree(const QStringList &directories)
             walk.remarks
                 << QStringLiteral("Passed over, since it does not exist: %1").arg(directory);
         else
-            walk.walk(fs::path(given.canonicalPath().toStdWString()).make_preferred());
+            walk.walk(given.filesystemCanonicalPath().make_preferred());
     }
 
     std::vector<Share> shares(std::max(1u, std::thread::hardware_concurrency()));
