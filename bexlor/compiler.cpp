@@ -121,9 +121,10 @@ QStringList compileCommand(const Compiler &compiler, const QString &source, cons
 
 QString commandLine(const QStringList &command)
 {
+    static const QRegularExpression special(QStringLiteral("[ &|<>^()]"));
     QStringList words = command;
     for (QString &word : words) {
-        if (word.isEmpty() || word.contains(QLatin1Char(' ')))
+        if (word.isEmpty() || word.contains(special))
             word = QLatin1Char('"') + word + QLatin1Char('"');
     }
     return words.join(QLatin1Char(' '));

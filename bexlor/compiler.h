@@ -39,5 +39,6 @@ enum class Product { Object, Executable };
 QStringList compileCommand(const Compiler &compiler, const QString &source, const QString &output,
                            Product product = Product::Object);
 
-/// \a command as one line that a command interpreter takes, words with spaces in double quotes.
+/// \a command as one line that a command interpreter takes, words with spaces or with characters
+/// that it would find something in, in double quotes.
 QString commandLine(const QStringList &command);

@@ -36,8 +36,11 @@ public:
             QString directory = header.directory, name = header.name;
             for (int level = 0; level < levelsAbove; ++level) {
                 const qsizetype slash = directory.lastIndexOf(QLatin1Char('/'));
+                // Behind the root a name would be a whole path, which is found without a search.
+                if (slash <= 0 || directory.at(slash - 1) == QLatin1Char(':'))
+                    break;
                 name.prepend(directory.mid(slash + 1) + QLatin1Char('/'));
-                directory.truncate(std::max<qsizetype>(slash, 0));
+                directory.truncate(slash);
                 if (!own.contains(directory) && m_names[directory].size() < namesFromBelow)
                     add(directory, name);
             }

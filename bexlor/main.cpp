@@ -193,7 +193,7 @@ bool generate(const Arguments &arguments, const QString &folder)
         return false;
     }
     const QByteArray templateText =
-        platform::readTextFile(arguments.templateFile).value_or(QString()).toLocal8Bit();
+        platform::readTextFile(arguments.templateFile).value_or(QString()).toUtf8();
     const std::optional<Facts> facts = learn(arguments, folder);
     if (!facts)
         return false;

@@ -374,6 +374,14 @@ QString toQString(const fs::path &path)
     return QFileInfo(path).filePath();
 }
 
+/// \a directory without links in its last part, of whatever kind the system has.
+fs::path withoutLinks(const fs::path &directory)
+{
+    const QFileInfo info(directory);
+    const QFileInfo target(info.isJunction() ? QFileInfo(info.junctionTarget()) : info);
+    return target.filesystemCanonicalFilePath().make_preferred();
+}
+
 /// The files below some directories, found before any of them is read.
 class Walk
 {
@@ -400,12 +408,13 @@ public:
         for (fs::directory_iterator entry(directory, error), end; !error && entry != end;
              entry.increment(error)) {
             std::error_code ignored;
-            const bool isLink = entry->is_symlink(ignored);
-            const fs::path target = isLink ? fs::canonical(entry->path(), ignored) : entry->path();
-            if (entry->is_directory(ignored))
-                directories.push_back(target);
-            else if (entry->is_regular_file(ignored))
-                files.push_back({entry->path(), !isLink || isNew(target)});
+            if (entry->is_directory(ignored)) {
+                directories.push_back(withoutLinks(entry->path()));
+            } else if (entry->is_regular_file(ignored)) {
+                const bool isRead =
+                    !entry->is_symlink(ignored) || isNew(fs::canonical(entry->path(), ignored));
+                files.push_back({entry->path(), isRead});
+            }
         }
         if (error)
             remark(directory);
@@ -525,7 +534,7 @@ TreeNames readTree(const QStringList &directories)
             walk.remarks
                 << QStringLiteral("Passed over, since it does not exist: %1").arg(directory);
         else
-            walk.walk(given.filesystemCanonicalPath().make_preferred());
+            walk.walk(withoutLinks(given.filesystemPath()));
     }
 
     std::vector<Share> shares(std::max(1u, std::thread::hardware_concurrency()));

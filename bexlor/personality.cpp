@@ -243,9 +243,9 @@ QByteArray formName(const Keyword &keyword)
 /// The facts that no option carries.
 QByteArray factLines(const Arguments &arguments, const Facts &facts)
 {
-    QByteArray text = fact("command " + arguments.command.toLocal8Bit());
+    QByteArray text = fact("command " + arguments.command.toUtf8());
     for (const QString &item : arguments.switches)
-        text += fact("switch " + item.toLocal8Bit());
+        text += fact("switch " + item.toUtf8());
     if (!facts.versionLine.isEmpty())
         text += fact("version " + facts.versionLine);
     for (const Type &type : facts.types) {
@@ -267,7 +267,7 @@ QByteArray factLines(const Arguments &arguments, const Facts &facts)
             text += fact(name + type);
     }
     for (const QString &directory : facts.searchPath)
-        text += fact("search-path " + directory.toLocal8Bit());
+        text += fact("search-path " + directory.toUtf8());
     for (const Keyword &keyword : facts.keywords)
         text += fact("keyword " + keyword.name + ' ' + formName(keyword));
     for (const QByteArray &name : facts.undeterminedMacros)
@@ -301,7 +301,7 @@ QByteArray keywordDefinitions(const Facts &facts)
 QByteArray pathOption(const char *option, const QString &path)
 {
     const QString absolute = QDir::current().absoluteFilePath(path);
-    return QByteArray(option) + ' ' + quotedOption(absolute.toLocal8Bit()) + '\n';
+    return QByteArray(option) + ' ' + quotedOption(absolute.toUtf8()) + '\n';
 }
 
 /// Whether \a directory holds a compiler's own headers for the instructions of x86 processors. They

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <array>
 #include <qt_windows.h>
 #include <vector>
@@ -39,6 +40,21 @@ void removeAbandonedFolders(const QString &folder)
     }
 }
 
+/// The file that the system would start for \a program. It ignores dots and spaces at the end of a
+/// name, and cannot start a script that lies, without an extension, beside a program.
+QString programFile(QString program)
+{
+    while (program.endsWith(QLatin1Char('.')) || program.endsWith(QLatin1Char(' ')))
+        program.chop(1);
+    if (QFileInfo(program).suffix().isEmpty()) {
+        for (const char *extension : {".exe", ".com", ".bat", ".cmd"}) {
+            if (QFileInfo::exists(program + QLatin1String(extension)))
+                return program + QLatin1String(extension);
+        }
+    }
+    return program;
+}
+
 bool isBatchFile(const QString &program)
 {
     const QString suffix = QFileInfo(program).suffix().toLower();
@@ -55,12 +71,15 @@ QString commandInterpreter()
 // Stands for a percent sign in a command: what a variable holds is not looked through again.
 const QLatin1String percentVariable("BEXLOR_PERCENT");
 
-/// \a argument in quotes, so that the command interpreter hands it to a batch file and finds
-/// nothing in it. A quotation mark is doubled: that keeps the interpreter's count of them even, and
-/// most programs that a batch file calls take two for one, if the backslashes before it are
-/// doubled.
+/// \a argument, in quotes unless it is a plain word, so that the command interpreter hands it to a
+/// batch file and finds nothing in it. A quotation mark is doubled: that keeps the interpreter's
+/// count of them even, and most programs that a batch file calls take two for one, if the
+/// backslashes before it are doubled.
 QString quotedForInterpreter(const QString &argument)
 {
+    static const QRegularExpression plainWord(QStringLiteral("^[A-Za-z0-9_.:/\\\\+-]+$"));
+    if (plainWord.match(argument).hasMatch())
+        return argument;
     QString quoted(QLatin1Char('"'));
     int backslashes = 0;
     for (const QChar character : argument) {
@@ -80,6 +99,8 @@ QString quotedForInterpreter(const QString &argument)
 ProgramGuard::ProgramGuard(const QString &folder)
 {
     removeAbandonedFolders(folder);
+    // Compilers take this over: one that lacks a library must fail, not open a window that waits.
+    SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX | SEM_NOOPENFILEERRORBOX);
     lock = openLock(folder, CREATE_NEW);
 }
 
@@ -135,7 +156,7 @@ ProcessTree::~ProcessTree()
 
 bool ProcessTree::start(const QStringList &command)
 {
-    const QString &program = command.first();
+    const QString program = programFile(command.first());
     if (!isBatchFile(program)) {
         m_process.start(program, command.mid(1));
         return m_process.waitForStarted();
