@@ -3,7 +3,8 @@
 //
 // For each compiler that is installed one line of a table:
 //   names     found, of those that its "-dM -E" lists (of those that its manual lists for cc65)
-//   values    equal, of those found; wrong ones besides; the others are said to be undetermined
+//   values    equal, of those found; wrong ones besides; the others are said to be undetermined;
+//             "-" where a manual lists the names only
 //   headers   of its own directories, of those that it accepts alone: accepted by clang with the
 //             personality, and by clang with the compiler's "-isystem" list and "--target" alone
 //   started   how often the compiler was started; seconds and megabytes of the generator's run
@@ -187,7 +188,7 @@ Personality readPersonality(const QString &path)
         } else if (line.startsWith("#: macro ")) {
             personality.undetermined << line.split(' ').value(2);
         } else if (line.startsWith("#: search-path ")) {
-            personality.searchPath << QString::fromLocal8Bit(line.mid(15));
+            personality.searchPath << QString::fromUtf8(line.mid(15));
         }
     }
     personality.macros = byName(parseMacros(listing));
@@ -310,7 +311,8 @@ void measure(const Subject &subject, const QString &generator, int limit)
     QMap<QByteArray, Macro> truth =
         byName(parseMacros(run(command + QStringList {"-dM", "-E", source}, folder.path()).output));
     for (const QByteArray &name : subject.listedNames)
-        truth[name] = learned.macros.value(name);
+        truth[name] = {name, {}};
+    const bool hasValues = subject.listedNames.isEmpty();
     int found = 0, equal = 0, wrong = 0;
     QByteArray remarks;
     for (auto macro = truth.cbegin(); macro != truth.cend(); ++macro) {
@@ -320,6 +322,8 @@ void measure(const Subject &subject, const QString &generator, int limit)
             continue;
         }
         ++found;
+        if (!hasValues)
+            continue;
         if (!isLearned) {
             remarks += "    undetermined: " + macro->name + '\n';
             continue;
@@ -343,8 +347,10 @@ void measure(const Subject &subject, const QString &generator, int limit)
     const auto share = [](int part, int all) {
         return QString("%1/%2").arg(part).arg(all).rightJustified(9).toLatin1();
     };
-    std::printf("%-24s %s %s %5d %s %s %8s %7.1f %6d\n", qPrintable(subject.name),
-                share(found, int(truth.size())).constData(), share(equal, found).constData(), wrong,
+    std::printf("%-24s %s %9s %5s %s %s %8s %7.1f %6d\n", qPrintable(subject.name),
+                share(found, int(truth.size())).constData(),
+                hasValues ? share(equal, found).constData() : "-",
+                hasValues ? QByteArray::number(wrong).constData() : "-",
                 share(headers.byPersonality, headers.byCompiler).constData(),
                 share(headers.byPeer, headers.byCompiler).constData(), qPrintable(started), seconds,
                 memory);

@@ -55,8 +55,9 @@ Compiler findCompiler(const Arguments &arguments)
         words << QProcess::splitCommand(item);
     for (qsizetype i = 0; i < words.size(); ++i)
         compiler.command << (i == 0 ? words[i] : withAbsolutePath(words[i]));
-    if (!words.isEmpty() && isProgram(words.first()))
-        compiler.command.first() = programPath(words.first());
+    const QString program = words.isEmpty() ? QString() : programPath(words.first());
+    if (!program.isEmpty())
+        compiler.command.first() = program;
     compiler.outputFlag = arguments.outputFlag;
     compiler.objectFlag = arguments.objectFlag;
     compiler.defineFlag = arguments.defineFlag;
