@@ -20,6 +20,7 @@ private slots:
         row("quoted path with options", "\"/a b/cc\" -m32 \"-D x\"",
             QStringList {"/a b/cc", "-m32", "-D x"});
         row("options with quotes", "\"cc -I\"a b\" -m32\"", QStringList {"cc", "-Ia b", "-m32"});
+        row("path with quotes", "\"/a \"b\"/cc\"", QStringList {"/a \"b\"/cc"});
         row("unknown program", "\"dd -m32\"", QStringList {"dd", "-m32"});
         row("empty", "", QStringList());
     }
@@ -27,7 +28,7 @@ private slots:
     {
         QFETCH(QString, command);
         const auto isProgram = [](const QString &word) {
-            return word == "cc" || word == "/a b/cc";
+            return QStringList {"cc", "/a b/cc", "/a \"b\"/cc"}.contains(word);
         };
         QTEST(commandWords(command, isProgram), "words");
     }
