@@ -11,6 +11,7 @@
 //     wait NAME         until there is such a file
 //     child NAME        starts itself to do "beat NAME", and does not wait for it
 //     beat NAME         makes the file NAME grow for as long as it lives
+//     console           "visible" or "hidden": whether a window shows its console
 //     crash, hang, exit STATUS
 
 #include "tests/support/stand_in_system.h"
@@ -71,6 +72,8 @@ void obey(const std::string &instruction)
     } else if (word == "beat") {
         for (std::ofstream file(rest);; std::this_thread::sleep_for(10ms))
             file << '.' << std::flush;
+    } else if (word == "console") {
+        std::cout << (showsConsole() ? "visible" : "hidden") << std::flush;
     } else if (word == "crash") {
         crash();
     } else if (word == "hang") {

@@ -17,6 +17,11 @@ void startAgain(const std::string &instructions)
     _exit(127);
 }
 
+bool showsConsole()
+{
+    return false;
+}
+
 void crash()
 {
     std::abort();

@@ -9,5 +9,8 @@ std::vector<std::string> utf8Arguments(int argc, char *argv[]);
 /// Starts this program once more with \a instructions in the variable STAND_IN.
 void startAgain(const std::string &instructions);
 
+/// Whether a window shows the console of this program.
+bool showsConsole();
+
 /// Ends this program as a wrong access to memory does.
 [[noreturn]] void crash();

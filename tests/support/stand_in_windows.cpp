@@ -44,6 +44,11 @@ void startAgain(const std::string &instructions)
     }
 }
 
+bool showsConsole()
+{
+    return IsWindowVisible(GetConsoleWindow());
+}
+
 void crash()
 {
     // Without the system's window that reports it.
