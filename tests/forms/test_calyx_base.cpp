@@ -1,8 +1,10 @@
+#include "forms/save_compiler_details_base.h"
 #include "generation/command_order.h"
 #include "tests/support/row.h"
 #include "tests/support/wizard_test.h"
 
 #include <QCheckBox>
+#include <QDir>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -10,6 +12,7 @@
 #include <QRandomGenerator>
 #include <QStyleOptionButton>
 #include <QTest>
+#include <QTranslator>
 
 namespace {
 
@@ -19,13 +22,6 @@ class Form : public CalyxBase
 public:
     using CalyxBase::languageChange;
 };
-
-QSize room(const QAbstractButton *button, QStyle::SubElement contents)
-{
-    QStyleOptionButton option;
-    option.initFrom(button);
-    return button->style()->subElementRect(contents, &option, button).size();
-}
 
 QString cutOff(const QWidget *widget, const QSize &needed, const QSize &available)
 {
@@ -37,6 +33,41 @@ QString cutOff(const QWidget *widget, const QSize &needed, const QSize &availabl
         .arg(needed.height())
         .arg(available.width())
         .arg(available.height());
+}
+
+/// Adds to \a problems if \a label cuts its text off. Whether it has one.
+bool checkRoom(const QLabel *label, QString &problems)
+{
+    // Two labels lie under the banner.
+    if (label->text().isEmpty() || label->objectName().startsWith("textLabel3_3"))
+        return false;
+    QSize needed = label->sizeHint();
+    if (label->wordWrap()) {
+        int widestWord = 0;
+        for (const QString &word : label->text().split(' '))
+            widestWord = std::max(widestWord, label->fontMetrics().horizontalAdvance(word));
+        const bool isMarkup = label->text().contains('<');
+        needed = QSize(isMarkup ? 0 : widestWord, label->heightForWidth(label->width()));
+    }
+    problems += cutOff(label, needed, label->size());
+    return true;
+}
+
+/// The same for a button.
+bool checkRoom(const QAbstractButton *button, QString &problems)
+{
+    if (button->text().isEmpty())
+        return false;
+    QStyle::SubElement contents = QStyle::SE_PushButtonContents;
+    if (qobject_cast<const QCheckBox *>(button))
+        contents = QStyle::SE_CheckBoxContents;
+    else if (qobject_cast<const QRadioButton *>(button))
+        contents = QStyle::SE_RadioButtonContents;
+    QStyleOptionButton option;
+    option.initFrom(button);
+    problems += cutOff(button, button->fontMetrics().size(Qt::TextShowMnemonic, button->text()),
+                       button->style()->subElementRect(contents, &option, button).size());
+    return true;
 }
 
 } // namespace
@@ -61,42 +92,42 @@ private slots:
         }
     }
 
+    void hasRoomForEveryText_data()
+    {
+        QTest::addColumn<QString>("language");
+        row("English", QString());
+        for (const QString &file : QDir(TRANSLATIONS).entryList({"calyx_*.qm"}))
+            row(qPrintable(file), QFileInfo(file).baseName().section('_', 1));
+    }
     void hasRoomForEveryText()
     {
+        QFETCH(QString, language);
+        QTranslator translators[2];
+        if (!language.isEmpty()) {
+            for (int i = 0; i < 2; ++i) {
+                QVERIFY(translators[i].load((i == 0 ? "qt_" : "calyx_") + language, TRANSLATIONS));
+                QCoreApplication::installTranslator(&translators[i]);
+            }
+        }
         const WizardUser user;
         user->DestErrorLabel->setText(
-            "Destination folder does not exist please select a different folder.");
-        user->CmpPathErrorLabel->setText("Command specified is not on the path, please amend the "
-                                         "path or fully qualify this command.");
+            QObject::tr("Destination folder does not exist please select a different folder."));
+        user->CmpPathErrorLabel->setText(
+            QObject::tr("Command specified is not on the path, please amend the path or fully "
+                        "qualify this command."));
+        SaveCompilerDetailsBase dialog;
+        dialog.show();
         QString problems;
         int texts = 0;
-        for (const QLabel *label : user->findChildren<QLabel *>()) {
-            // Two labels lie under the banner.
-            if (label->text().isEmpty() || label->objectName().startsWith("textLabel3_3"))
-                continue;
-            QSize needed = label->sizeHint();
-            if (label->wordWrap()) {
-                int widestWord = 0;
-                for (const QString &word : label->text().split(' '))
-                    widestWord = std::max(widestWord, label->fontMetrics().horizontalAdvance(word));
-                const bool isMarkup = label->text().contains('<');
-                needed = QSize(isMarkup ? 0 : widestWord, label->heightForWidth(label->width()));
-            }
-            problems += cutOff(label, needed, label->size());
-            ++texts;
-        }
-        for (const QAbstractButton *button : user->findChildren<QAbstractButton *>()) {
-            if (button->text().isEmpty())
-                continue;
-            const bool isCheckBox = qobject_cast<const QCheckBox *>(button);
-            const QSize needed = button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
-            problems += cutOff(button, needed,
-                               room(button, isCheckBox ? QStyle::SE_CheckBoxContents
-                                                       : QStyle::SE_PushButtonContents));
-            ++texts;
+        for (const QWidget *form :
+             {static_cast<const QWidget *>(user.wizard()), static_cast<const QWidget *>(&dialog)}) {
+            for (const QLabel *label : form->findChildren<QLabel *>())
+                texts += checkRoom(label, problems);
+            for (const QAbstractButton *button : form->findChildren<QAbstractButton *>())
+                texts += checkRoom(button, problems);
         }
         QVERIFY2(problems.isEmpty(), qPrintable(problems));
-        QVERIFY2(texts >= 33, qPrintable(QString::number(texts)));
+        QVERIFY2(texts >= 44, qPrintable(QString::number(texts)));
     }
 
     void leadsBackThroughTheFixedOrder()
