@@ -1,0 +1,41 @@
+#include "platform/program_run.h"
+#include "tests/support/row.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+#include <windows.h>
+
+class TestConsole : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    // The wizard has no console. Programs that it starts would open one, programs that this one
+    // starts would share its own.
+    void initTestCase() { QVERIFY(FreeConsole()); }
+
+    void staysOffTheScreen_data()
+    {
+        QTest::addColumn<QString>("program");
+        row("program", "compiler.exe");
+        row("batch file", "compiler.bat");
+    }
+    void staysOffTheScreen()
+    {
+        QFETCH(QString, program);
+        const QTemporaryDir folder;
+        QVERIFY(QFile::copy(STAND_IN, folder.filePath("compiler.exe")));
+        QFile batch(folder.filePath("compiler.bat"));
+        QVERIFY(batch.open(QIODevice::WriteOnly));
+        batch.write("@\"%~dp0compiler.exe\"\r\n");
+        batch.close();
+        qputenv("STAND_IN", "console");
+        const platform::ProgramRun run =
+            platform::runProgram({folder.filePath(program)}, folder.path(), 30'000);
+        QCOMPARE(run.output.trimmed(), QByteArray("hidden"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestConsole)
+#include "test_console.moc"
