@@ -21,14 +21,6 @@ QColor textColour(const QLineEdit *edit)
     return edit->palette().color(QPalette::Text);
 }
 
-QStringList rows(const QListWidget *list)
-{
-    QStringList texts;
-    for (int row = 0; row < list->count(); ++row)
-        texts << list->item(row)->text();
-    return texts;
-}
-
 QString pick(const WizardUser &user, QPushButton *button, const QString &path)
 {
     return withFileDialog([&] { user.click(button); }, path);

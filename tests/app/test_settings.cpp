@@ -10,18 +10,6 @@
 #include <QTest>
 #include <QTextEdit>
 
-namespace {
-
-QStringList rows(const QListWidget *list)
-{
-    QStringList texts;
-    for (int row = 0; row < list->count(); ++row)
-        texts << list->item(row)->text();
-    return texts;
-}
-
-} // namespace
-
 class TestSettings : public QObject
 {
     Q_OBJECT

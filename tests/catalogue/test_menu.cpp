@@ -83,13 +83,11 @@ QString messageOf(const std::function<void()> &action)
 
 QString shownAnswers(const WizardUser &user)
 {
-    QStringList shown {user->CmpExeEdit->text(),         user->CmpExeFlagEdit->text(),
-                       user->CmpCmpFlagEdit->text(),     user->CmpDefFlagEdit->text(),
-                       user->CmpObjExtFlagEdit->text(),  user->CmpDefEdit->toPlainText(),
-                       user->CmpSwtchEdit->toPlainText()};
-    for (int row = 0; row < user->CmpOrderListBox->count(); ++row)
-        shown << user->CmpOrderListBox->item(row)->text();
-    return shown.join('|');
+    const QStringList shown {user->CmpExeEdit->text(),         user->CmpExeFlagEdit->text(),
+                             user->CmpCmpFlagEdit->text(),     user->CmpDefFlagEdit->text(),
+                             user->CmpObjExtFlagEdit->text(),  user->CmpDefEdit->toPlainText(),
+                             user->CmpSwtchEdit->toPlainText()};
+    return (shown + rows(user->CmpOrderListBox)).join('|');
 }
 
 const QString defaultOrderShown =

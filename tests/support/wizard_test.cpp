@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QTest>
 #include <QTimer>
 
@@ -113,6 +114,32 @@ void WizardUser::walkToReview() const
     answerFirstPages();
     for (int page = 1; page < 4; ++page)
         press(QWizard::NextButton);
+}
+
+Language::Language(const QString &name)
+{
+    const QString prefixes[] = {"qt_", "calyx_"};
+    for (int i = 0; i < 2 && name != "en"; ++i) {
+        if (!m_translators[i].load(prefixes[i] + name, TRANSLATIONS))
+            qFatal("no translation %s", qPrintable(prefixes[i] + name));
+        QCoreApplication::installTranslator(&m_translators[i]);
+    }
+}
+
+QStringList Language::all()
+{
+    QStringList names {"en"};
+    for (const QString &file : QDir(TRANSLATIONS).entryList({"calyx_*.qm"}))
+        names << QFileInfo(file).baseName().section('_', 1);
+    return names;
+}
+
+QStringList rows(const QListWidget *list)
+{
+    QStringList texts;
+    for (int row = 0; row < list->count(); ++row)
+        texts << list->item(row)->text();
+    return texts;
 }
 
 bool withDialog(const std::function<void()> &action, const std::function<void(QWidget *)> &answer)

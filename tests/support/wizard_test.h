@@ -3,10 +3,12 @@
 #include "app/calyx.h"
 
 #include <QTemporaryDir>
+#include <QTranslator>
 #include <functional>
 #include <memory>
 
 class QLineEdit;
+class QListWidget;
 
 /// A program folder of its own for one test, which is the working directory while it lives. On the
 /// PATH are a compiler "cc" and the stand-in generator.
@@ -58,6 +60,22 @@ public:
 private:
     std::unique_ptr<Calyx> m_wizard;
 };
+
+/// Speaks a language as the wizard does while this lives: "en", or that of a translation.
+class Language
+{
+public:
+    explicit Language(const QString &name);
+
+    /// The names of all languages.
+    static QStringList all();
+
+private:
+    QTranslator m_translators[2];
+};
+
+/// The texts of the rows of \a list.
+QStringList rows(const QListWidget *list);
 
 /// Does \a action and gives the modal dialog that it opens to \a answer, which must close it. False
 /// when none was opened.
