@@ -35,10 +35,10 @@ QStringList commandWords(const QString &command, bool (*isProgram)(const QString
 
 QString withAbsolutePath(const QString &word)
 {
-    // What stands before a path in one word: an option with a sign behind it, a single letter, or
-    // nothing.
+    // What stands before a path in one word: an option with a sign behind it, a single letter, the
+    // mark of a response file, or nothing.
     static const QRegularExpression start(
-        QStringLiteral("^(?:(?:--?|/)[A-Za-z][-A-Za-z]*[=:,]|[-/][A-Za-z])?"));
+        QStringLiteral("^(?:(?:--?|/)[A-Za-z][-A-Za-z]*[=:,]|[-/][A-Za-z]|@)?"));
     if (QFileInfo(word).isAbsolute() && QFileInfo::exists(word))
         return word;
     const QString option = start.match(word).captured();
@@ -53,8 +53,13 @@ Compiler findCompiler(const Arguments &arguments)
     QStringList words = commandWords(arguments.command, &isProgram);
     for (const QString &item : arguments.switches)
         words << QProcess::splitCommand(item);
-    for (qsizetype i = 0; i < words.size(); ++i)
-        compiler.command << (i == 0 ? words[i] : withAbsolutePath(words[i]));
+    for (qsizetype i = 0; i < words.size(); ++i) {
+        const bool isDefine =
+            !arguments.defineFlag.isEmpty() && words[i].startsWith(arguments.defineFlag);
+        // The program, and what is a path by chance only: a define, the GNU driver's language.
+        const bool isNoPath = i == 0 || isDefine || words[i - 1] == QLatin1String("-x");
+        compiler.command << (isNoPath ? words[i] : withAbsolutePath(words[i]));
+    }
     const QString program = words.isEmpty() ? QString() : programPath(words.first());
     if (!program.isEmpty())
         compiler.command.first() = program;

@@ -3,6 +3,21 @@
 #include <QDir>
 #include <QRegularExpression>
 
+QByteArray typeLike(const Facts &facts, int size, bool isFloating, bool isUnsigned)
+{
+    for (const Type &type : facts.types) {
+        const bool typeIsFloating = type.name.contains("float") || type.name.contains("double");
+        if (type.size != size || typeIsFloating != isFloating || type.name.contains('*'))
+            continue;
+        if (isFloating)
+            return type.name;
+        if (isUnsigned)
+            return "unsigned " + type.name;
+        return type.name == "char" ? "signed char" : type.name;
+    }
+    return {};
+}
+
 QList<Macro> parseMacros(const QByteArray &listing)
 {
     const QByteArray directive = "#define ";

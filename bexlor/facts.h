@@ -45,9 +45,13 @@ struct Facts
     QList<Type> types;
     QByteArray sizeType, pointerDifferenceType, wideCharacterType; ///< names of basic types
     bool charIsUnsigned = false;
+    int smallEnumSize = 0; ///< of an enumeration with small values, in bytes; 0 if not known
     ByteOrder byteOrder = ByteOrder::Unknown;
     QList<Keyword> keywords;
 };
+
+/// The first of the basic types with that size and kind; empty when there is none.
+QByteArray typeLike(const Facts &facts, int size, bool isFloating, bool isUnsigned);
 
 /// The macros of a listing as preprocessors print it under -dM: lines "#define NAME VALUE".
 QList<Macro> parseMacros(const QByteArray &listing);

@@ -188,7 +188,7 @@ const char *const keywordWords =
     "__fastcall __fastcall__ __cdecl __cdecl__ __stdcall __thiscall __vectorcall __declspec _far "
     "_near __AX__ __EAX__ __A__ __X__ __Y__ __packed __align __pure __value_in_regs __irq __swi "
     "__weak __root __no_init __ramfunc __task __arm __thumb __big_endian __little_endian "
-    "__nested __persistent __tiny __regvar __io __ptr32 __ptr64 __w64 __unaligned __super __try "
+    "__nested __persistent __tiny __regvar __io __ptr32 __ptr64 __w64 __unaligned __try "
     "__except __finally __leave __nullptr";
 
 const char *const cKeywords =
@@ -241,9 +241,13 @@ QList<QByteArray> knownMacros()
     return names;
 }
 
-QList<QByteArray> knownKeywords()
+QList<QByteArray> knownKeywords(bool isCpp)
 {
-    return words(keywordWords);
+    QList<QByteArray> keywords = words(keywordWords);
+    // Only C++ has base classes, and in C clang does not come to an end with this.
+    if (isCpp)
+        keywords << "__super";
+    return keywords;
 }
 
 bool isStandardKeyword(const QByteArray &name, bool isCpp)

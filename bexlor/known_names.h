@@ -7,7 +7,7 @@
 QList<QByteArray> knownMacros();
 
 /// Extension keywords of many compilers, and names of types that they bring along.
-QList<QByteArray> knownKeywords();
+QList<QByteArray> knownKeywords(bool isCpp);
 
 /// Whether \a name is a keyword of the standard language, C or C++.
 bool isStandardKeyword(const QByteArray &name, bool isCpp);

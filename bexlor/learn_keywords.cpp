@@ -9,7 +9,7 @@ namespace {
 
 /// The forms in which a keyword may be used, "@" standing for it and "%" for a name that nothing
 /// else has. Most are declarations within a function, at whose end a compiler that has lost its way
-/// finds it again.
+/// finds it again. What qualifies a char is no type of its own, whereas "__int64 int" may be one.
 struct Use
 {
     const char *line;
@@ -17,11 +17,11 @@ struct Use
 };
 
 const Use uses[] = {
-    {"void %f(void) { extern int @ %; }", Keyword::Qualifier},
-    {"void %f(void) { extern @ int %; }", Keyword::Qualifier},
+    {"void %f(void) { extern char @ %; }", Keyword::Qualifier},
+    {"void %f(void) { extern @ char %; }", Keyword::Qualifier},
     {"void %f(void) { extern char * @ %; }", Keyword::Qualifier},
     {"void %f(void) { extern @ void %(void); }", Keyword::Qualifier},
-    {"static @ int %(void) { return 0; }", Keyword::Qualifier},
+    {"static @ char %(void) { return 0; }", Keyword::Qualifier},
     {"extern void @ %(int);", Keyword::Qualifier},
     {"void %f(void) { extern @(1) int %; }", Keyword::QualifierWithArgument},
     {"void %f(void) { extern int @(1) %; }", Keyword::QualifierWithArgument},
@@ -62,7 +62,7 @@ bool isReservedFunction(const QByteArray &name)
 QList<QByteArray> candidates(const QList<Name> &names, bool isCpp, const Facts &facts)
 {
     const QSet<QByteArray> macros = macroNames(facts);
-    const QList<QByteArray> known = knownKeywords();
+    const QList<QByteArray> known = knownKeywords(isCpp);
     QSet<QByteArray> chosen(known.begin(), known.end());
     for (const Name &name : names) {
         if ((name.uses & UsedInHeader) && !isReservedFunction(name.text))
@@ -93,7 +93,7 @@ QList<QByteArray> reservedOf(const Experiment &experiment, const QList<QByteArra
 
     // Types that the compiler brings along may be members' names, so they are looked for apart.
     QList<QByteArray> types;
-    for (const QByteArray &name : knownKeywords()) {
+    for (const QByteArray &name : knownKeywords(experiment.prober().isCpp())) {
         if (others.contains(name))
             types << name;
     }
@@ -159,15 +159,7 @@ void measureType(const Experiment &experiment, Keyword &keyword, const Facts &fa
         keyword.form = experiment.prober().isCpp() ? Keyword::Undetermined : Keyword::Qualifier;
         return;
     }
-    const bool isFloating = values[1] == 1;
-    const bool isUnsigned = values[2] == 2;
-    for (const Type &type : facts.types) {
-        const bool typeIsFloating = type.name.contains("float") || type.name.contains("double");
-        if (type.size == values[0] && typeIsFloating == isFloating && !type.name.contains('*')) {
-            keyword.standIn = !isFloating && isUnsigned ? "unsigned " + type.name : type.name;
-            return;
-        }
-    }
+    keyword.standIn = typeLike(facts, *values[0], values[1] == 1, values[2] == 2);
 }
 
 } // namespace

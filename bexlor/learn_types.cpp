@@ -38,6 +38,16 @@ QByteArray typeBehind(const Experiment &experiment, const QByteArray &header,
     return found;
 }
 
+QByteArray wideCharacterType(const Experiment &experiment, const Facts &facts)
+{
+    if (!experiment.prober().isCpp())
+        return typeBehind(experiment, "stddef.h", "wchar_t");
+    // In C++ it is a type of its own.
+    const QList<std::optional<int>> values =
+        experiment.numbers({}, {"sizeof(wchar_t)", "(wchar_t)-1<0?1:2"});
+    return values[0] ? typeLike(facts, *values[0], false, values[1] == 2) : QByteArray();
+}
+
 ByteOrder byteOrder(const Experiment &experiment)
 {
     // 16 bits are the least that every compiler's short has. Read as characters they begin and end
@@ -91,8 +101,12 @@ void learnTypes(const Experiment &experiment, Facts &facts)
             facts.types.append({names[i], *values[2 * i], *values[2 * i + 1]});
     }
     facts.charIsUnsigned = charIsUnsigned(experiment);
+    facts.smallEnumSize =
+        experiment.numbers("enum calyx_enum { CALYX_A };\n", {"sizeof(enum calyx_enum)"})
+            .first()
+            .value_or(0);
     facts.byteOrder = byteOrder(experiment);
     facts.sizeType = typeBehind(experiment, "stddef.h", "size_t");
     facts.pointerDifferenceType = typeBehind(experiment, "stddef.h", "ptrdiff_t");
-    facts.wideCharacterType = typeBehind(experiment, "stddef.h", "wchar_t");
+    facts.wideCharacterType = wideCharacterType(experiment, facts);
 }

@@ -14,6 +14,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <cstdio>
 
@@ -22,6 +23,8 @@ namespace {
 using platform::ProgramRun;
 
 const int questionTimeLimit = 30'000; // milliseconds
+
+const char *const firstProbe = "int calyx_probe;\n";
 
 // Set for tests and measurements: the compiler is not asked in the GNU driver's own way.
 const char *const learnOnly = "BEXLOR_LEARN_ONLY";
@@ -77,10 +80,9 @@ void askLikeGnu(const Compiler &compiler, const Prober &prober, const QString &f
         facts.searchPath = parseSearchPath(searchPath.errors);
 }
 
-QByteArray versionLine(const Compiler &compiler, const ProgramRun &firstProbe,
-                       const QString &folder)
+QByteArray versionLine(const Compiler &compiler, const ProgramRun &firstRun, const QString &folder)
 {
-    const QByteArray banner = versionLineOf(firstProbe.output + '\n' + firstProbe.errors);
+    const QByteArray banner = versionLineOf(firstRun.output + '\n' + firstRun.errors);
     if (!banner.isEmpty())
         return banner;
     const ProgramRun run = platform::runProgram(compiler.command + QStringList {"--version"},
@@ -116,13 +118,25 @@ TreeNames readDirectories(const QStringList &directories)
     return tree;
 }
 
+/// Whether the first probe still compiles: a compiler that has stopped working, for want of a
+/// license or of room on the disk, would be taken for one that rejects everything. Says so if not.
+bool worksStill(const Prober &prober)
+{
+    const Answer again = prober.ask(firstProbe);
+    if (again.compiled())
+        return true;
+    leaveLogs(prober.command(), again.run);
+    say(QStringLiteral("The first probe no longer compiles: %1.").arg(howItEnded(again.run)));
+    return false;
+}
+
 /// Asks the compiler for all facts; says why and returns nothing when a step fails.
 std::optional<Facts> learn(const Arguments &arguments, const QString &folder)
 {
     const Compiler compiler = findCompiler(arguments);
     const Prober prober(compiler, folder, arguments.reduceFileSize);
     say(QStringLiteral("Compiling a first probe ..."));
-    const Answer first = prober.ask("int calyx_probe;\n");
+    const Answer first = prober.ask(firstProbe);
     leaveLogs(prober.command(), first.run);
     if (!first.compiled()) {
         say(QStringLiteral("Compiling the first probe failed: %1.").arg(howItEnded(first.run)));
@@ -133,7 +147,11 @@ std::optional<Facts> learn(const Arguments &arguments, const QString &folder)
     facts.versionLine = versionLine(compiler, first.run, folder);
     if (!qEnvironmentVariableIsSet(learnOnly))
         askLikeGnu(compiler, prober, folder, facts);
-    const TreeNames tree = readDirectories(arguments.headerDirectories);
+    TreeNames tree = readDirectories(arguments.headerDirectories);
+    for (const QString &define : compiler.defines)
+        tree.names.append(
+            {define.section(QRegularExpression(QStringLiteral("[=(]")), 0, 0).toUtf8(),
+             TestedInHeader});
     const Experiment experiment(prober, !compiler.isCross);
     if (!experiment.readsConstants() && facts.macros.isEmpty()) {
         say(QStringLiteral("Reading constants back failed: the compiler leaves no file that holds "
@@ -143,6 +161,8 @@ std::optional<Facts> learn(const Arguments &arguments, const QString &folder)
     if (facts.macros.isEmpty()) {
         say(QStringLiteral("Looking for predefined macros ..."));
         learnMacros(experiment, tree.names, facts);
+        if (!worksStill(prober))
+            return {};
     }
     say(QStringLiteral("Found %1 predefined macros, and %2 whose definition is not known.")
             .arg(facts.macros.size())
@@ -159,6 +179,8 @@ std::optional<Facts> learn(const Arguments &arguments, const QString &folder)
         learnSearchPath(experiment, tree.headers, facts);
     }
     say(QStringLiteral("Found %1 directories on the search path.").arg(facts.searchPath.size()));
+    if (!worksStill(prober))
+        return {};
     say(QStringLiteral("The compiler was started %1 times.").arg(prober.compilersStarted()));
     return facts;
 }
@@ -169,6 +191,8 @@ QString problemWith(const Arguments &arguments)
     const QString destination = QFileInfo(arguments.personality).absolutePath();
     if (!QFileInfo(destination).isDir())
         return QStringLiteral("The folder of the personality does not exist: %1").arg(destination);
+    if (!QFileInfo(destination).isWritable())
+        return QStringLiteral("The folder of the personality is not writable: %1").arg(destination);
     if (!arguments.templateFile.isEmpty() && !platform::readTextFile(arguments.templateFile))
         return QStringLiteral("The template cannot be read: %1").arg(arguments.templateFile);
     if (!arguments.forceIncludeFile.isEmpty() && !QFileInfo(arguments.forceIncludeFile).isFile()) {

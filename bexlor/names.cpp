@@ -23,7 +23,8 @@ namespace {
 const std::size_t longestName = 63; // significant characters of an identifier, ISO C 6.4.2.1
 const std::size_t longestPlainKeyword = 12;
 const std::size_t firstBuffer = 1 << 20; // most files are smaller by far
-const std::size_t shortestRun = 4;       // of printable characters in a binary file
+const std::size_t largestText = 64 * firstBuffer;
+const std::size_t shortestRun = 4; // of printable characters in a binary file
 
 enum CharacterClass : unsigned char { Other = 0, Lower = 1, Upper = 2, Digit = 4, Underscore = 8 };
 
@@ -275,6 +276,7 @@ private:
     void skipComment()
     {
         m_next += 2;
+        const char *const content = m_next;
         while (m_next < m_end) {
             const void *found = std::memchr(m_next, '/', std::size_t(m_end - m_next));
             if (!found) {
@@ -282,7 +284,7 @@ private:
                 return;
             }
             m_next = static_cast<const char *>(found) + 1;
-            if (m_next[-2] == '*')
+            if (m_next - 2 >= content && m_next[-2] == '*')
                 return;
         }
     }
@@ -457,17 +459,24 @@ public:
         return m_stream.open(file, std::ios::in | std::ios::binary);
     }
 
-    /// Adds what follows in the file, as much as fits.
-    void read()
+    /// Adds what follows in the file, as much as fits. False when it cannot be read.
+    bool read()
     {
-        m_size += std::size_t(std::max<std::streamsize>(
-            m_stream.sgetn(m_buffer.data() + 1 + m_size, std::streamsize(room() - m_size)), 0));
+        bool succeeds = true;
+        try {
+            const std::streamsize count =
+                m_stream.sgetn(m_buffer.data() + 1 + m_size, std::streamsize(room() - m_size));
+            m_size += std::size_t(std::max<std::streamsize>(count, 0));
+        } catch (const std::ios_base::failure &) {
+            succeeds = false; // how some standard libraries report it
+        }
         m_buffer[0] = m_buffer[m_size + 1] = '\n';
+        return succeeds;
     }
-    /// Adds all that follows in the file.
+    /// Adds all that follows in the file, up to what no header needs.
     void readRest()
     {
-        while (isFull()) {
+        while (isFull() && m_buffer.size() < largestText) {
             m_buffer.resize(2 * m_buffer.size());
             read();
         }
@@ -504,11 +513,10 @@ void readFiles(const std::vector<Walk::File> &files, std::atomic<std::size_t> &n
             share.texts.push_back(index);
             continue;
         }
-        if (!content.open(file.path)) {
+        if (!content.open(file.path) || !content.read()) {
             share.unreadable.push_back(index);
             continue;
         }
-        content.read();
         if (isText(content.text())) {
             share.texts.push_back(index);
             content.readRest();

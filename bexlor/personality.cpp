@@ -27,7 +27,8 @@ const char *const clangKeywords =
     "__volatile__ __restrict __restrict__ __extension__ __attribute __attribute__ __alignof "
     "__alignof__ __typeof __typeof__ __auto_type __label__ __thread __real __real__ __imag "
     "__imag__ __complex __complex__ __builtin_va_list __int128 __int128_t __uint128_t __float128 "
-    "__cdecl __stdcall __fastcall __thiscall __vectorcall __null __nullptr __decltype "
+    "_Accum _Fract _Sat __cdecl __stdcall __fastcall __thiscall __vectorcall __null __nullptr "
+    "__decltype "
     "_Complex _Imaginary _Atomic _Bool _Noreturn _Static_assert _Generic _Thread_local _Alignas "
     "_Alignof";
 
@@ -38,18 +39,38 @@ struct Named
 };
 
 // The first macro that is defined tells the architecture. The names of the macros are those of the
-// GNU, LLVM and IAR compilers' manuals; what follows is the first part of clang's target.
+// GNU, LLVM, IAR and Microsoft compilers' manuals; what follows is the first part of clang's
+// target.
 const Named architectures[] = {
     {"__x86_64__", "x86_64"},
+    {"_M_X64", "x86_64"},
     {"__i386__", "i386"},
+    {"_M_IX86", "i386"},
     {"__aarch64__", "aarch64"},
+    {"_M_ARM64", "aarch64"},
     {"__arm__", "arm"},
+    {"_M_ARM", "arm"},
     {"__AVR__", "avr"},
     {"__MSP430__", "msp430"},
     {"__powerpc64__", "powerpc64"},
     {"__powerpc__", "powerpc"},
+    {"__mips64", "mips64"},
     {"__mips__", "mips"},
     {"__sparc__", "sparc"},
+};
+
+// What clang calls an architecture whose bytes follow one another in the other order.
+const struct
+{
+    const char *name;
+    ByteOrder otherOrder;
+    const char *otherName;
+} otherByteOrders[] = {
+    {"arm", ByteOrder::BigEndian, "armeb"},
+    {"aarch64", ByteOrder::BigEndian, "aarch64_be"},
+    {"mips", ByteOrder::LittleEndian, "mipsel"},
+    {"mips64", ByteOrder::LittleEndian, "mips64el"},
+    {"powerpc64", ByteOrder::LittleEndian, "powerpc64le"},
 };
 
 const Named systems[] = {
@@ -65,8 +86,12 @@ struct Standard
 };
 
 // Values: ISO C and C++ standards, clause "Predefined macro names".
-const Standard cStandards[] = {
-    {199409, "iso9899:199409"}, {199901, "99"}, {201112, "11"}, {201710, "17"}, {202000, "2x"}};
+const Standard cStandards[] = {{0, "89"}, // which has no such macro
+                               {199409, "iso9899:199409"},
+                               {199901, "99"},
+                               {201112, "11"},
+                               {201710, "17"},
+                               {202000, "2x"}};
 const Standard cppStandards[] = {{199711, "98"}, {201103, "11"}, {201402, "14"},
                                  {201703, "17"}, {202002, "20"}, {202100, "2b"}};
 
@@ -145,6 +170,8 @@ QByteArray target(const Facts &facts)
     QByteArray system = firstDefined(facts, systems);
     if (system.isEmpty())
         system = "unknown-none";
+    if (architecture == "x86_64" && findMacro(facts, "__ILP32__") && system.endsWith("-gnu"))
+        system += "x32";
     if (architecture == "arm") {
         // Without its binary interface clang warns each time that it has to assume one.
         if (system.endsWith("-elf"))
@@ -152,6 +179,12 @@ QByteArray target(const Facts &facts)
         system += system.endsWith("-gnu") ? "eabi" : "-eabi";
         if (findMacro(facts, "__ARM_PCS_VFP"))
             system += "hf";
+    }
+    for (const auto &row : otherByteOrders) {
+        if (architecture == row.name && facts.byteOrder == row.otherOrder) {
+            architecture = row.otherName;
+            break;
+        }
     }
     return architecture + '-' + system;
 }
@@ -173,19 +206,17 @@ QByteArray standardOption(const Facts &facts, const char *macro, const Standard 
                           const char *isoPrefix, const char *gnuPrefix)
 {
     const Macro *version = findMacro(facts, macro);
-    if (!version)
+    if (!version && (facts.macros.isEmpty() || facts.undeterminedMacros.contains(macro)))
         return {};
-    QByteArray digits = version->value;
+    QByteArray digits = version ? version->value : QByteArray("0");
     while (!digits.isEmpty() && !std::isdigit(static_cast<unsigned char>(digits.back())))
         digits.chop(1);
     const long value = digits.toLong();
-    const char *name = nullptr;
+    const char *name = table[0].name;
     for (const Standard &row : table) {
         if (row.value <= value)
             name = row.name;
     }
-    if (!name)
-        return {};
     const bool strict = findMacro(facts, "__STRICT_ANSI__");
     const bool hasPrefix = !QByteArray(name).contains(':');
     return QByteArray("-std=") + (!hasPrefix ? "" : strict ? isoPrefix : gnuPrefix) + name + '\n';
@@ -205,6 +236,7 @@ const Feature cppFeatures[] = {
     {"__GXX_RTTI", "-frtti\n", "-fno-rtti\n"},
     {"__cpp_sized_deallocation", "-fsized-deallocation\n", "-fno-sized-deallocation\n"},
     {"__cpp_aligned_new", "-faligned-allocation\n", "-fno-aligned-allocation\n"},
+    {"__cpp_char8_t", "-fchar8_t\n", "-fno-char8_t\n"},
 };
 
 QByteArray featureOptions(const Facts &facts)
@@ -212,6 +244,29 @@ QByteArray featureOptions(const Facts &facts)
     QByteArray text;
     for (const Feature &feature : cppFeatures)
         text += findMacro(facts, feature.macro) ? feature.option : feature.opposite;
+    return text;
+}
+
+/// The options that make clang's types those of the compiler, where a target's may differ.
+QByteArray typeOptions(const Facts &facts, const QByteArray &target)
+{
+    QByteArray text;
+    const bool isUnsigned = facts.types.isEmpty() ? findMacro(facts, "__CHAR_UNSIGNED__") != nullptr
+                                                  : facts.charIsUnsigned;
+    if (isUnsigned)
+        text += "-funsigned-char\n";
+    else if (!facts.types.isEmpty())
+        text += "-fsigned-char\n";
+    if (facts.smallEnumSize != 0 && facts.smallEnumSize < sizeOf(facts, "int"))
+        text += "-fshort-enums\n";
+    if (facts.wideCharacterType == "unsigned short")
+        text += "-fshort-wchar\n";
+    const bool isX86 = target.startsWith("x86_64-") || target.startsWith("i386-");
+    if (isX86 && sizeOf(facts, "long double") == 8)
+        text += "-mlong-double-64\n";
+    const auto isFixedPoint = [](const Keyword &keyword) { return keyword.name == "_Accum"; };
+    if (std::any_of(facts.keywords.begin(), facts.keywords.end(), isFixedPoint))
+        text += "-ffixed-point\n";
     return text;
 }
 
@@ -258,6 +313,8 @@ QByteArray factLines(const Arguments &arguments, const Facts &facts)
         const bool isLittle = facts.byteOrder == ByteOrder::LittleEndian;
         text += fact(isLittle ? "byte-order little" : "byte-order big");
     }
+    if (facts.smallEnumSize != 0)
+        text += fact("small-enum " + QByteArray::number(facts.smallEnumSize));
     const std::pair<const char *, QByteArray> standardTypes[] = {
         {"size_t ", facts.sizeType},
         {"ptrdiff_t ", facts.pointerDifferenceType},
@@ -357,10 +414,7 @@ QByteArray personalityText(const Arguments &arguments, const Facts &facts,
                              : standardOption(facts, "__STDC_VERSION__", cStandards, "c", "gnu"));
     if (arguments.isCpp)
         text += featureOptions(facts);
-    if (facts.charIsUnsigned)
-        text += "-funsigned-char\n";
-    if (facts.wideCharacterType == "unsigned short")
-        text += "-fshort-wchar\n";
+    text += typeOptions(facts, target(facts));
 
     text += "\n# Predefined macros\n-undef\n";
     for (const char *name : alwaysDefined)

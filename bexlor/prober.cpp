@@ -167,7 +167,10 @@ Answer Prober::askByRunning(const QByteArray &source) const
 
 QSet<int> namedLines(const QByteArray &messages, const QByteArray &source, bool ofErrors)
 {
-    static const QRegularExpression number(QStringLiteral("^[^0-9\\n]{1,10}?([0-9]+)"));
+    static const QRegularExpression lineBefore(QStringLiteral("\\bline ([0-9]+)\\D*$"),
+                                               QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression number(
+        QStringLiteral("^[^0-9\\n]{1,10}?(?<![A-Za-z_])([0-9]+)"));
     static const QRegularExpression isError(QStringLiteral("error|fatal"),
                                             QRegularExpression::CaseInsensitiveOption);
     QSet<int> lines;
@@ -175,9 +178,13 @@ QSet<int> namedLines(const QByteArray &messages, const QByteArray &source, bool 
         const qsizetype name = message.indexOf(source);
         if (name < 0)
             continue;
+        const QString before = QString::fromLatin1(message.first(name));
         const QString behind = QString::fromLatin1(message.mid(name + source.size()));
-        const QRegularExpressionMatch match = number.match(behind);
-        if (match.hasMatch() && (!ofErrors || isError.match(behind).hasMatch()))
+        QRegularExpressionMatch match = lineBefore.match(before);
+        const QString &description = match.hasMatch() ? before : behind;
+        if (!match.hasMatch())
+            match = number.match(behind);
+        if (match.hasMatch() && (!ofErrors || isError.match(description).hasMatch()))
             lines << match.captured(1).toInt();
     }
     return lines;

@@ -53,7 +53,8 @@ private:
 };
 
 /// The line numbers that \a messages give for the file \a source, whatever stands around them:
-/// "x.c:12", "x.c(12)", "\"x.c\", line 12". Those of errors only, if \a ofErrors is set.
+/// "x.c:12", "x.c(12)", "\"x.c\", line 12", "line 12 of x.c". Those of errors only, if \a ofErrors
+/// is set.
 QSet<int> namedLines(const QByteArray &messages, const QByteArray &source, bool ofErrors = false);
 
 /// The bytes that an object file holds: as it is; for the relocatable format of the ASxxxx

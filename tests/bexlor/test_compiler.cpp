@@ -36,10 +36,11 @@ private slots:
     void makesRelativePathsAbsolute_data()
     {
         QTest::addColumn<QString>("word");
-        QTest::addColumn<QString>("absolute"); // "@" stands for the current folder
-        row("file", "first.h", "@/first.h");
-        row("behind a letter", "-Iinc dir", "-I@/inc dir");
-        row("behind a sign", "--sysroot=inc dir", "--sysroot=@/inc dir");
+        QTest::addColumn<QString>("absolute"); // "$" stands for the current folder
+        row("file", "first.h", "$/first.h");
+        row("behind a letter", "-Iinc dir", "-I$/inc dir");
+        row("response file", "@first.h", "@$/first.h");
+        row("behind a sign", "--sysroot=inc dir", "--sysroot=$/inc dir");
         row("no file", "-Inowhere", "-Inowhere");
         row("an option", "-O2", "-O2");
         row("absolute", "/usr", "/usr");
@@ -53,7 +54,7 @@ private slots:
         QVERIFY(QFile(folder.filePath("first.h")).open(QIODevice::WriteOnly));
         QDir::setCurrent(folder.path());
         const QString made = withAbsolutePath(word);
-        QCOMPARE(made, absolute.replace("@", QDir::currentPath()));
+        QCOMPARE(made, absolute.replace("$", QDir::currentPath()));
         QDir::setCurrent(QDir::rootPath());
     }
 

@@ -95,6 +95,59 @@ private slots:
         QCOMPARE(more, sortedLines(own.output));
     }
 
+    void makesClangTakeTheSameCode_data()
+    {
+        QTest::addColumn<QString>("product");
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QByteArray>("code");
+        QTest::addColumn<bool>("learnOnly");
+        const auto row = [](const char *name, const QString &product, const QString &command,
+                            const QByteArray &code, bool learnOnly = false) {
+            QTest::newRow(name) << product << command << code << learnOnly;
+        };
+        row("short enumerations", "kov", "arm-none-eabi-gcc", "char a[sizeof(enum{A})==1?1:-1];");
+        row("signed char", "kov", "arm-none-eabi-gcc -fsigned-char", "char a[(char)-1<0?1:-1];");
+        row("fixed point", "kov", "arm-none-eabi-gcc", "long _Accum a; unsigned _Fract b = 0.5ur;");
+        row("short wchar_t", "kovpp", "g++ -fshort-wchar", "char a[sizeof(wchar_t)==2?1:-1];");
+        row("long double", "kov", "gcc -mlong-double-64", "char a[sizeof(long double)==8?1:-1];");
+        row("x32", "kov", "gcc -mx32", "char a[sizeof(void *)==4?1:-1];");
+        row("mips64", "kov", "clang --target=mips64el-unknown-elf",
+            "char a[sizeof(long)==8?1:-1];");
+        row("C90", "kov", "gcc -std=c90", "int restrict; int f(int inline);");
+        row("char8_t", "kovpp", "g++ -std=c++17 -fchar8_t", "char8_t a = u8'a';");
+        row("defines", "kov", "gcc", "int a = FOO;", true);
+        row("Microsoft's types", "kov", "clang --target=x86_64-pc-windows-msvc",
+            "unsigned __int64 a; char b[sizeof(a)==8?1:-1];");
+    }
+    void makesClangTakeTheSameCode()
+    {
+        QFETCH(QString, product);
+        QFETCH(QString, command);
+        QFETCH(QByteArray, code);
+        QFETCH(bool, learnOnly);
+        const QTemporaryDir folder;
+        QDir(folder.path()).mkdir("sub folder");
+        const QString source = product == "kov" ? "x.c" : "x.cpp";
+        QFile file(folder.filePath(source));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(code);
+        file.close();
+        if (learnOnly)
+            qputenv("BEXLOR_LEARN_ONLY", "1");
+        const Output generated =
+            generate(folder.path(), product, '"' + command + '"', {"-xd", "FOO=1"});
+        qunsetenv("BEXLOR_LEARN_ONLY");
+        QVERIFY2(generated.exitCode == 0, qPrintable(generated.output));
+        const QStringList own = command.split(' ');
+        const Output taken =
+            run(folder.path(), own.first(), own.mid(1) + QStringList {"-DFOO=1", "-c", source});
+        QVERIFY2(taken.exitCode == 0, taken.errors);
+        const Output seen =
+            run(folder.path(), "clang",
+                {"--config", folder.filePath("sub folder/mine.p_c"), "-fsyntax-only", source});
+        QVERIFY2(seen.exitCode == 0, seen.errors);
+    }
+
     void addsWhatTheUserGave()
     {
         const QTemporaryDir folder;
@@ -182,6 +235,9 @@ private slots:
         row("prints without end", "yes >&2 & yes & wait", "did not end within its time");
         row("hangs", "sleep 600", "did not end within its time");
         row("crashes", "kill -SEGV $$", "the compiler crashed");
+        row("stops working",
+            "echo >>\"$0 calls\"; [ $(wc -l <\"$0 calls\") -gt 40 ] || exec gcc \"$@\"; exit 9",
+            "no longer compiles: the compiler returned 9");
         row("leaves nothing", "exit 0", "leaves no file that holds the bytes");
         row("leaves something else", "echo nothing >probe.o",
             "leaves no file that holds the bytes");

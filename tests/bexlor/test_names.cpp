@@ -105,7 +105,11 @@ private slots:
         std::ofstream(oddName) << "__in_an_odd_file\n";
         for (int i = 0; i < 70; ++i)
             write(folder.filePath(QString("many%1.h").arg(i)), "__n" + QByteArray::number(i));
+        // It has no first page to read.
+        const bool isUnreadable = QFile::link("/proc/self/mem", folder.filePath("unreadable.h"))
+                               && QDir::separator() == '/';
         const TreeNames tree = readTree({folder.path()});
+        QCOMPARE(tree.remarks.size(), isUnreadable ? 1 : 0);
         std::filesystem::remove(oddName);
         QSet<QByteArray> names;
         for (const Name &name : tree.names)

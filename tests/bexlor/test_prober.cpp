@@ -25,6 +25,8 @@ private slots:
         row("warnings and errors", "x.c:5: warning: 1\nx.c:9: error: 2\nx.c:3: syntax error",
             {3, 5, 9}, {3, 9});
         row("included", "In file included from x.c:4:\n/i/y.h:9: error: z", {4}, {});
+        row("line first", "Error C141 in line 4 of x.c: near 'calyx_3'\nx.c: near 'calyx_3'", {4},
+            {4});
         row("no number near", "x.c: cannot do that in 1999", {}, {});
     }
     void readsLineNumbers()
