@@ -58,7 +58,14 @@ Compiler findCompiler(const Arguments &arguments)
             !arguments.defineFlag.isEmpty() && words[i].startsWith(arguments.defineFlag);
         // The program, and what is a path by chance only: a define, the GNU driver's language.
         const bool isNoPath = i == 0 || isDefine || words[i - 1] == QLatin1String("-x");
-        compiler.command << (isNoPath ? words[i] : withAbsolutePath(words[i]));
+        const bool includes =
+            words[i] == QLatin1String("-include") || words[i] == QLatin1String("-imacros");
+        if (includes && i > 0 && i + 1 < words.size()) {
+            compiler.includedFirst << words[i] << withAbsolutePath(words[i + 1]);
+            ++i;
+        } else {
+            compiler.command << (isNoPath ? words[i] : withAbsolutePath(words[i]));
+        }
     }
     const QString program = words.isEmpty() ? QString() : programPath(words.first());
     if (!program.isEmpty())

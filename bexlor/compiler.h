@@ -7,6 +7,9 @@
 struct Compiler
 {
     QStringList command; ///< the program's path, its options, and the switches
+    /// The GNU driver's options -include and -imacros, each followed by its file, which are kept
+    /// out of the command: the macros of those files are not predefined.
+    QStringList includedFirst;
     QString outputFlag;
     QString objectFlag;
     QString defineFlag;

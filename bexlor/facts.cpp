@@ -40,23 +40,25 @@ QList<Macro> parseMacros(const QByteArray &listing)
     return macros;
 }
 
-QStringList parseSearchPath(const QByteArray &listing)
+void parseSearchPath(const QByteArray &listing, Facts &facts)
 {
     const qsizetype start = listing.indexOf("#include \"...\" search starts here:");
     const qsizetype end = listing.indexOf("End of search list.", start);
     if (start < 0 || end < 0)
-        return {};
-    QStringList directories;
+        return;
+    QStringList *directories = &facts.quotedSearchPath;
     for (const QByteArray &line : listing.mid(start, end - start).split('\n')) {
+        if (line.startsWith("#include <"))
+            directories = &facts.searchPath;
         // Directories are indented, headings are not.
         if (!line.startsWith(' '))
             continue;
         const QString directory = QString::fromLocal8Bit(line.trimmed());
         const QString canonical = QDir(directory).canonicalPath();
-        directories << (canonical.isEmpty() ? directory : canonical);
+        directories->append(canonical.isEmpty() ? directory : canonical);
     }
-    directories.removeDuplicates();
-    return directories;
+    facts.quotedSearchPath.removeDuplicates();
+    facts.searchPath.removeDuplicates();
 }
 
 QByteArray versionLineOf(const QByteArray &banner)

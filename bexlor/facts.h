@@ -42,6 +42,8 @@ struct Facts
     QList<Macro> macros;
     QList<QByteArray> undeterminedMacros; ///< predefined, but with what value is not known
     QStringList searchPath; ///< the header directories that it searches by itself, in its order
+    QStringList quotedSearchPath; ///< those before them that it searches for quoted names only
+    QStringList includedFirst;    ///< options and files in turn, from the compiler's command
     QList<Type> types;
     QByteArray sizeType, pointerDifferenceType, wideCharacterType; ///< names of basic types
     bool charIsUnsigned = false;
@@ -56,9 +58,9 @@ QByteArray typeLike(const Facts &facts, int size, bool isFloating, bool isUnsign
 /// The macros of a listing as preprocessors print it under -dM: lines "#define NAME VALUE".
 QList<Macro> parseMacros(const QByteArray &listing);
 
-/// The header directories of a listing as the GNU driver prints it under -v: first those for
-/// quoted names, then those for names in angle brackets. Empty when there is no such listing.
-QStringList parseSearchPath(const QByteArray &listing);
+/// Takes both search paths from a listing as the GNU driver prints it under -v; leaves \a facts as
+/// they are when there is no such listing.
+void parseSearchPath(const QByteArray &listing, Facts &facts);
 
 /// The line of \a banner that looks like a name with a version, or an empty text.
 QByteArray versionLineOf(const QByteArray &banner);

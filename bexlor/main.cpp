@@ -77,7 +77,7 @@ void askLikeGnu(const Compiler &compiler, const Prober &prober, const QString &f
             [](const Macro &macro) { return isBuiltIntoThePreprocessor(macro.name); });
     }
     if (searchPath.succeeded())
-        facts.searchPath = parseSearchPath(searchPath.errors);
+        parseSearchPath(searchPath.errors, facts);
 }
 
 QByteArray versionLine(const Compiler &compiler, const ProgramRun &firstRun, const QString &folder)
@@ -144,6 +144,7 @@ std::optional<Facts> learn(const Arguments &arguments, const QString &folder)
     }
 
     Facts facts;
+    facts.includedFirst = compiler.includedFirst;
     facts.versionLine = versionLine(compiler, first.run, folder);
     if (!qEnvironmentVariableIsSet(learnOnly))
         askLikeGnu(compiler, prober, folder, facts);

@@ -323,6 +323,8 @@ QByteArray factLines(const Arguments &arguments, const Facts &facts)
         if (!type.isEmpty())
             text += fact(name + type);
     }
+    for (const QString &directory : facts.quotedSearchPath)
+        text += fact("quoted-search-path " + directory.toUtf8());
     for (const QString &directory : facts.searchPath)
         text += fact("search-path " + directory.toUtf8());
     for (const Keyword &keyword : facts.keywords)
@@ -379,6 +381,8 @@ QByteArray searchPathOptions(const Arguments &arguments, const Facts &facts)
     QByteArray text;
     if (!arguments.substituteHeaders.isEmpty())
         text += pathOption("-isystem", arguments.substituteHeaders);
+    for (const QString &directory : facts.quotedSearchPath)
+        text += pathOption("-iquote", directory);
     bool usesClangsOwn = false;
     for (const QString &directory : facts.searchPath) {
         const bool isTied = !findMacro(facts, "__clang__") && holdsIntrinsics(directory);
@@ -428,7 +432,13 @@ QByteArray personalityText(const Arguments &arguments, const Facts &facts,
     text += keywordDefinitions(facts);
 
     text += "\n# Search path\n" + searchPathOptions(arguments, facts);
+    if (!arguments.forceIncludeFile.isEmpty() || !facts.includedFirst.isEmpty())
+        text += "\n# Included first\n";
     if (!arguments.forceIncludeFile.isEmpty())
-        text += "\n# Included first\n" + pathOption("-include", arguments.forceIncludeFile);
+        text += pathOption("-include", arguments.forceIncludeFile);
+    for (qsizetype i = 0; i + 1 < facts.includedFirst.size(); i += 2) {
+        text += facts.includedFirst[i].toUtf8() + ' '
+              + quotedOption(facts.includedFirst[i + 1].toUtf8()) + '\n';
+    }
     return text;
 }

@@ -116,6 +116,10 @@ private slots:
         row("C90", "kov", "gcc -std=c90", "int restrict; int f(int inline);");
         row("char8_t", "kovpp", "g++ -std=c++17 -fchar8_t", "char8_t a = u8'a';");
         row("defines", "kov", "gcc", "int a = FOO;", true);
+        row("included first", "kov", "gcc -include limits.h -include stdio.h",
+            "#include <stdio.h>\nint a = INT_MAX; int f(void) { return printf(\"\"); }");
+        row("quoted names only", "kov", "gcc -iquote quoted",
+            "#include <stdio.h>\n#include \"limits.h\"\nFILE *f; int a = NOT_FROM_LIMITS;");
         row("Microsoft's types", "kov", "clang --target=x86_64-pc-windows-msvc",
             "unsigned __int64 a; char b[sizeof(a)==8?1:-1];");
     }
@@ -128,10 +132,16 @@ private slots:
         const QTemporaryDir folder;
         QDir(folder.path()).mkdir("sub folder");
         const QString source = product == "kov" ? "x.c" : "x.cpp";
-        QFile file(folder.filePath(source));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(code);
-        file.close();
+        QDir(folder.path()).mkdir("quoted");
+        const std::pair<QString, QByteArray> files[] = {
+            {source, code},
+            {"quoted/limits.h", "#define NOT_FROM_LIMITS 1\n"},
+            {"quoted/stdio.h", "#error\n"}};
+        for (const auto &[name, content] : files) {
+            QFile file(folder.filePath(name));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(content);
+        }
         if (learnOnly)
             qputenv("BEXLOR_LEARN_ONLY", "1");
         const Output generated =

@@ -24,11 +24,14 @@ private slots:
 
     void readsSearchPaths()
     {
-        QCOMPARE(parseSearchPath("noise\n#include \"...\" search starts here:\n /quoted\n"
-                                 "#include <...> search starts here:\n /a b/../c\n /quoted\n"
-                                 "End of search list.\n /not"),
-                 QStringList({"/quoted", "/a b/../c"}));
-        QCOMPARE(parseSearchPath("no listing"), QStringList());
+        Facts facts;
+        parseSearchPath("noise\n#include \"...\" search starts here:\n /quoted\n"
+                        "#include <...> search starts here:\n /a b/../c\n /d\n /d\n"
+                        "End of search list.\n /not",
+                        facts);
+        parseSearchPath("no listing", facts);
+        QCOMPARE(facts.quotedSearchPath, QStringList {"/quoted"});
+        QCOMPARE(facts.searchPath, QStringList({"/a b/../c", "/d"}));
     }
 
     void survivesClangsReader()
