@@ -336,10 +336,10 @@ void measure(const Subject &subject, const QString &generator, int limit)
             remarks += "    wrong: " + macro->name + '\n';
     }
 
-    QStringList searchPath =
-        parseSearchPath(run(command + QStringList {"-v", "-E", source}, folder.path()).errors);
-    if (searchPath.isEmpty())
-        searchPath = learned.searchPath;
+    Facts listed;
+    parseSearchPath(run(command + QStringList {"-v", "-E", source}, folder.path()).errors, listed);
+    const QStringList searchPath =
+        listed.searchPath.isEmpty() ? learned.searchPath : listed.searchPath;
     Headers headers;
     tryHeaders(subject, folder.filePath("x.p_c"), searchPath,
                headersBelow(searchPath, subject.isCpp, limit), folder.path(), headers);
