@@ -134,11 +134,16 @@ QStringList compileCommand(const Compiler &compiler, const QString &source, cons
 
 QString commandLine(const QStringList &command)
 {
-    static const QRegularExpression special(QStringLiteral("[ &|<>^()]"));
+    static const QRegularExpression special(QStringLiteral("[ &|<>^()\"]"));
+    static const QRegularExpression beforeQuote(QStringLiteral("(\\\\*)\""));
+    static const QRegularExpression atEnd(QStringLiteral("(\\\\+)$"));
     QStringList words = command;
     for (QString &word : words) {
-        if (word.isEmpty() || word.contains(special))
-            word = QLatin1Char('"') + word + QLatin1Char('"');
+        if (!word.isEmpty() && !word.contains(special))
+            continue;
+        word.replace(beforeQuote, QStringLiteral("\\1\\1\\\""));
+        word.replace(atEnd, QStringLiteral("\\1\\1"));
+        word = QLatin1Char('"') + word + QLatin1Char('"');
     }
     return words.join(QLatin1Char(' '));
 }

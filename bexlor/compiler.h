@@ -43,5 +43,6 @@ QStringList compileCommand(const Compiler &compiler, const QString &source, cons
                            Product product = Product::Object);
 
 /// \a command as one line that a command interpreter takes, words with spaces or with characters
-/// that it would find something in, in double quotes.
+/// that it would find something in, in double quotes, and quotes and the backslashes before them
+/// behind backslashes.
 QString commandLine(const QStringList &command);

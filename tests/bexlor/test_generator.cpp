@@ -216,12 +216,13 @@ private slots:
     {
         const QTemporaryDir folder;
         QDir(folder.path()).mkdir("sub folder");
-        const Output failed = generate(folder.path(), "kov", "\"gcc --no-such-option\"");
+        const Output failed =
+            generate(folder.path(), "kov", "\"gcc --no-such-option\"", {"-xd", "A=\"x\\\""});
         QCOMPARE(failed.exitCode, 1);
         QVERIFY(
             failed.output.contains("Compiling the first probe failed: the compiler returned 1."));
-        QVERIFY(
-            read(folder.filePath("compile.bat")).contains("--no-such-option -oprobe.o -c probe.c"));
+        QVERIFY(read(folder.filePath("compile.bat"))
+                    .contains("--no-such-option -oprobe.o \"-DA=\\\"x\\\\\\\"\" -c probe.c"));
         QVERIFY(read(folder.filePath("stderr.log")).contains("no-such-option"));
         QVERIFY(!QFile::exists(folder.filePath("sub folder/mine.p_c")));
 
