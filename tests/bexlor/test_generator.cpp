@@ -117,9 +117,10 @@ private slots:
         row("char8_t", "kovpp", "g++ -std=c++17 -fchar8_t", "char8_t a = u8'a';");
         row("defines", "kov", "gcc", "int a = FOO;", true);
         row("included first", "kov", "gcc -include limits.h -include stdio.h",
-            "#include <stdio.h>\nint a = INT_MAX; int f(void) { return printf(\"\"); }");
+            "#include <stdio.h>\nFILE *a; int b = INT_MAX;");
         row("quoted names only", "kov", "gcc -iquote quoted",
             "#include <stdio.h>\n#include \"limits.h\"\nFILE *f; int a = NOT_FROM_LIMITS;");
+        row("folders named like options", "kov", "gcc -x c -DMODE=c", "int MODE;");
         row("Microsoft's types", "kov", "clang --target=x86_64-pc-windows-msvc",
             "unsigned __int64 a; char b[sizeof(a)==8?1:-1];");
     }
@@ -133,6 +134,7 @@ private slots:
         QDir(folder.path()).mkdir("sub folder");
         const QString source = product == "kov" ? "x.c" : "x.cpp";
         QDir(folder.path()).mkdir("quoted");
+        QDir(folder.path()).mkdir("c");
         const std::pair<QString, QByteArray> files[] = {
             {source, code},
             {"quoted/limits.h", "#define NOT_FROM_LIMITS 1\n"},
