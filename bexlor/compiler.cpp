@@ -19,6 +19,21 @@ bool isProgram(const QString &word)
     return !programPath(word).isEmpty();
 }
 
+/// \a words without the options that make errors of warnings: what a compiler only warns of it
+/// knows, and probes are not written to please.
+QStringList withoutWarningsAsErrors(QStringList words)
+{
+    static const QRegularExpression option(
+        QStringLiteral("^(-Werror(=.*)?|--Werror|-pedantic-errors|[-/]WX)$"));
+    words.removeIf([](const QString &word) { return option.match(word).hasMatch(); });
+    // cc65's is made of two words.
+    for (qsizetype i = words.size() - 1; i > 0; --i) {
+        if (words[i] == QLatin1String("error") && words[i - 1] == QLatin1String("-W"))
+            words.remove(i - 1, 2);
+    }
+    return words;
+}
+
 } // namespace
 
 QStringList commandWords(const QString &command, bool (*isProgram)(const QString &word))
@@ -53,6 +68,7 @@ Compiler findCompiler(const Arguments &arguments)
     QStringList words = commandWords(arguments.command, &isProgram);
     for (const QString &item : arguments.switches)
         words << QProcess::splitCommand(item);
+    words = withoutWarningsAsErrors(words);
     for (qsizetype i = 0; i < words.size(); ++i) {
         const bool isDefine =
             !arguments.defineFlag.isEmpty() && words[i].startsWith(arguments.defineFlag);

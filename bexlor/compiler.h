@@ -6,7 +6,8 @@
 /// asked.
 struct Compiler
 {
-    QStringList command; ///< the program's path, its options, and the switches
+    /// The program's path, its options, and the switches, without what makes errors of warnings.
+    QStringList command;
     /// The GNU driver's options -include and -imacros, each followed by its file, which are kept
     /// out of the command: the macros of those files are not predefined.
     QStringList includedFirst;

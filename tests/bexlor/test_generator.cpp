@@ -121,6 +121,8 @@ private slots:
         row("quoted names only", "kov", "gcc -iquote quoted",
             "#include <stdio.h>\n#include \"limits.h\"\nFILE *f; int a = NOT_FROM_LIMITS;");
         row("folders named like options", "kov", "gcc -x c -DMODE=c", "int MODE;");
+        row("warnings as errors", "kov", "gcc -Wall -Werror -pedantic-errors -std=c99",
+            "#include <math.h>\nint a;");
         row("Microsoft's types", "kov", "clang --target=x86_64-pc-windows-msvc",
             "unsigned __int64 a; char b[sizeof(a)==8?1:-1];");
     }
