@@ -19,8 +19,8 @@ bool isProgram(const QString &word)
     return !programPath(word).isEmpty();
 }
 
-/// \a words without the options that make errors of warnings: what a compiler only warns of it
-/// knows, and probes are not written to please.
+/// \a words without the options that make errors of warnings. A probe asks what the compiler knows,
+/// and it would be refused for its style.
 QStringList withoutWarningsAsErrors(QStringList words)
 {
     static const QRegularExpression option(
@@ -29,7 +29,7 @@ QStringList withoutWarningsAsErrors(QStringList words)
     // cc65's is made of two words.
     for (qsizetype i = words.size() - 1; i > 0; --i) {
         if (words[i] == QLatin1String("error") && words[i - 1] == QLatin1String("-W"))
-            words.remove(i - 1, 2);
+            words.remove(--i, 2);
     }
     return words;
 }

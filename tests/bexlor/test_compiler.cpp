@@ -58,6 +58,14 @@ private slots:
         QDir::setCurrent(QDir::rootPath());
     }
 
+    void leavesOutWhatMakesErrorsOfWarnings()
+    {
+        Arguments arguments;
+        arguments.command = "\"cc -Wall -Werror=x -W error -Werror --Werror -pedantic-errors\"";
+        arguments.switches = QStringList {"/WX", "-W error"};
+        QCOMPARE(findCompiler(arguments).command.mid(1), QStringList {"-Wall"});
+    }
+
     void ordersTheCommand_data()
     {
         QTest::addColumn<QString>("order");
