@@ -1,17 +1,19 @@
-#include "app/calyx.h"
+#include "calyx.h"
 
-#include "forms/colours.h"
+#include "colours.h"
+#include "form_answers.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
 
+using namespace Qt::StringLiterals;
+
 Calyx::Calyx(QWidget *parent, const char *name, bool modal, Qt::WindowFlags flags)
-    : CalyxBase(parent, name, modal, flags), lastDirectory(QStringLiteral("\\")),
+    : CalyxBase(parent, name, modal, flags), lastDirectory(u"\\"_s),
       destToolTip(QObject::tr("Destination folder for the Personality.")),
       destMissingText(
           QObject::tr("Destination folder does not exist please select a different folder.")),
@@ -31,19 +33,19 @@ Calyx::Calyx(QWidget *parent, const char *name, bool modal, Qt::WindowFlags flag
 
     readSettings();
     loadCatalogue();
+    exeCommandMenu.setStyle(style());
     buildExeCommandMenu();
-    applyProductToMenus(productCode);
+    applyProductToMenus(answers.productCode);
     updateCommandPreview();
     checkExeCommand();
 
     const QPalette white(Qt::white, Qt::white);
     exeCommandMenu.setPalette(white);
-    exeCommandMenu.setStyle(style());
     for (const WizardButton which : {NextButton, BackButton, CancelButton, FinishButton}) {
         button(which)->setPalette(white);
         setBackgroundColour(button(which), Qt::white);
     }
-    loadSideBarImages();
+    sideBar.loadImages();
 
     const QWidget *const product[] = {KOVRadioButton, KOVPPRadioButton, PersonDestEdit,
                                       PersonNameEdit};
@@ -53,18 +55,6 @@ Calyx::Calyx(QWidget *parent, const char *name, bool modal, Qt::WindowFlags flag
     // Nobody has typed yet, so nothing is pointed out as wrong.
     CmpPathErrorLabel->clear();
     DestErrorLabel->clear();
-}
-
-Calyx::~Calyx()
-{
-    // A process object ends its program when it is destroyed, which is after the wizard's own
-    // members; its signals must not reach them.
-    for (QProcess *process : findChildren<QProcess *>()) {
-        process->disconnect(this);
-        process->kill();
-        process->waitForFinished();
-    }
-    clearExeCommandMenu();
 }
 
 void Calyx::connectWidgets()
@@ -85,7 +75,7 @@ void Calyx::connectWidgets()
     connect(CmpHdrDirDeleteBtn, &QPushButton::clicked, this, &Calyx::CmpHdrDirDeleteBtn_clicked);
     connect(AddCompilerBtn, &QPushButton::clicked, this, &Calyx::AddCompilerBtn_clicked);
     connect(SaveLogBtn, &QPushButton::clicked, this, &Calyx::SaveLogBtn_clicked);
-    connectSideBars();
+    connectSideBar();
 }
 
 void Calyx::installFilters()
@@ -93,4 +83,9 @@ void Calyx::installFilters()
     for (QLineEdit *edit : {CmpExeEdit, PersonDestEdit, PersonNameEdit, CmpExeFlagEdit,
                             CmpCmpFlagEdit, CmpDefFlagEdit})
         edit->installEventFilter(this);
+}
+
+Answers Calyx::currentAnswers() const
+{
+    return answersOn(*this, answers);
 }

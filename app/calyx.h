@@ -1,66 +1,90 @@
 #pragma once
 
-#include "catalogue/compiler_catalogue.h"
-#include "forms/calyx_base.h"
+#include "answers.h"
+#include "calyx_base.h"
+#include "compiler_catalogue.h"
+#include "compiler_menu.h"
+#include "sub_popup_menu.h"
 
-#include <QIcon>
-#include <QMenu>
-
-class GeneratorProcess;
-class SubPopupMenu;
-struct Answers;
-struct CompileCommand;
+class GeneratorRun;
 
 /// The wizard: asks for a compiler on five pages, has the generator make its personality, and
-/// shows how that went.
-class Calyx : public CalyxBase
+/// shows how that went. Most of its slots hand on to an object of the folder that they are about.
+class Calyx : public CalyxBase, public CompilerMenuOwner
 {
     Q_OBJECT
 
 public:
     explicit Calyx(QWidget *parent = nullptr, const char *name = nullptr, bool modal = false,
                    Qt::WindowFlags flags = {});
-    ~Calyx() override;
 
     /// What the process is to return once the wizard has been left: 0 after a personality has been
     /// generated, else 1.
     int exitCode = 0;
 
-    // catalogue/calyx_menu.cpp
+    // calyx_page_checks.cpp
+    /// \a path with every slash made a backslash.
+    static QString normalisePath(QString path);
+    /// Whether the compiler command can be used; marks it on its page. An empty one cannot, and
+    /// leaves the page as it is.
+    bool checkExeCommand();
+
+    // calyx_settings.cpp
+    void readSettings();
+    void writeSettings();
+
+    // calyx_catalogue.cpp
+    /// Adds what the catalogue file holds to the catalogue.
+    void loadCatalogue();
+    void saveCatalogue();
+    void buildExeCommandMenu();
+    void applyProductToMenus(const QString &code);
     /// Fills the pages from the compiler of that family and name, or sends the user to where its
     /// integration package is downloaded and leaves the wizard.
-    void applyCatalogueCompiler(QString family, QString name);
+    void applyCatalogueCompiler(QString family, QString name) override;
+    void resetCompilerFields();
+    void updateRecordFromAnswers(CompilerRecord &record) const;
+    void addRecordFromAnswers(const QString &family, const QString &name);
+
+    // calyx_generation.cpp
+    void updateCommandPreview();
+    QString commandOrderString() const;
+    void applyOrderString(const QString &order);
+    static QString toCommaList(QString text);
+    void buildReview();
+    void showFailureDetails();
+    void showLogFile(const QString &name);
 
 public slots:
-    // catalogue/calyx_menu.cpp
+    // calyx_catalogue.cpp
     void ProductRadioBtn_clicked();
 
-    // generation/calyx_order.cpp
+    // calyx_generation.cpp
     void CmdOrderUpBtn_clicked();
     void CmdOrderDwnBtn_clicked();
 
-    // app/calyx_page_checks.cpp
+    // calyx_page_checks.cpp
     void CmpHdrDirAddBtn_clicked();
     void CmpHdrDirEditBtn_clicked();
     void CmpHdrDirDeleteBtn_clicked();
     void PersonDestBrowseBtn_clicked();
 
-    // catalogue/calyx_save.cpp
+    // calyx_catalogue.cpp
     void AddCompilerBtn_clicked();
 
-    // generation/calyx_run.cpp
+    // calyx_generation.cpp
     void SaveLogBtn_clicked();
 
-    // app/calyx_page_checks.cpp
+    // calyx_page_checks.cpp
     void Page0LineEdit_textchanged(const QString &);
     void Page1LineEdit_textchanged(const QString &);
     void CrossCmpCheckBox_clicked();
 
-    // generation/calyx_order.cpp
+    // calyx_generation.cpp
     void CmpExeFlagChkBox_clicked();
     void CmpDefFlagChkBox_clicked();
 
-    // app/calyx_navigation.cpp
+    // calyx_navigation.cpp
     void PrdctBtn_clicked();
     void CmpBtn_clicked();
     void DefBtn_clicked();
@@ -74,99 +98,53 @@ public slots:
     void P1_SrchBtn_clicked();
     void P1_RevBtn_clicked();
 
-    // generation/calyx_run.cpp
+    // calyx_generation.cpp
     void readFromStdout();
     void processExit();
 
-    // app/calyx_navigation.cpp
+    // calyx_navigation.cpp
     void next() override;
 
-    // generation/calyx_run.cpp: Finish, which starts a run and leaves the wizard open
+    // calyx_generation.cpp: Finish, which starts a run and leaves the wizard open
     void accept() override;
 
-    // app/calyx_navigation.cpp: every way of leaving the wizard
+    // calyx_navigation.cpp: every way of leaving the wizard
     void reject() override;
 
 protected:
-    // app/calyx_navigation.cpp
+    // calyx_navigation.cpp
     bool eventFilter(QObject *watched, QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
 
 private:
-    // app/calyx.cpp
+    // calyx.cpp
     void connectWidgets();
     void installFilters();
+    /// The answers with what the pages hold now.
+    Answers currentAnswers() const;
 
-    // app/calyx_navigation.cpp
-    void connectSideBars();
-    void loadSideBarImages();
+    // calyx_navigation.cpp
+    void connectSideBar();
     void showOtherPage(WizardPage *page);
     bool nextIsEnabled() const;
 
-    // app/calyx_page_checks.cpp
+    // calyx_page_checks.cpp
     QString askForDirectory(const QString &start, const QString &caption);
-    static QString normalisePath(QString path);
 
-    // app/calyx_settings.cpp
-    void readSettings();
-    void writeSettings();
-
-    // catalogue/calyx_menu.cpp
-    void buildExeCommandMenu();
-    void clearExeCommandMenu();
-    void applyProductToMenus(const QString &code);
+    // calyx_catalogue.cpp
     void applyRecord(const CompilerRecord &record);
     void downloadIntegration(const QString &package);
-    void resetCompilerFields();
 
-    // catalogue/calyx_save.cpp
-    void loadCatalogue();
-    void saveCatalogue();
-    void updateRecordFromAnswers(CompilerRecord &record) const;
-    void addRecordFromAnswers(const QString &family, const QString &name);
-
-    // generation/calyx_order.cpp
-    CompileCommand compileCommand() const;
-    void applyOrderString(const QString &order);
-    void updateCommandPreview();
+    // calyx_generation.cpp
     void moveOrderItem(int distance);
 
-    // generation/calyx_command_check.cpp
-    bool checkExeCommand();
-
-    // generation/calyx_review.cpp
-    Answers answers() const;
-    void buildReview();
-
-    // generation/calyx_run.cpp
-    void appendToDetails(const QString &text);
-    void reportSuccess();
-    void reportFailure();
-    void showFailureDetails();
-    void showLogFile(const QString &name);
-
-    GeneratorProcess *generatorProcess = nullptr; ///< the newest run; a child, like earlier ones
-    const GeneratorProcess *unfinishedLineOf = nullptr; ///< whose line DetailsText ends in, if any
-    QString productCode = QStringLiteral("kov");        ///< "kov" or "kovpp"
-    QString detailsText;                                ///< the review as it is kept
-    QString lastDirectory;                              ///< where the directory dialogs start
-    bool commandValid = false;       ///< result of the last check of the compiler command
-    QString templatePersonalityFile; ///< these three came with a compiler from the catalogue
-    QString forceIncludeFile;
-    QString substituteHeaders;
-    QString selectedCompilerFamily;
-    QString selectedCompilerName;
+    Answers answers;       ///< as they were last taken from the pages; the unseen ones as they are
+    QString detailsText;   ///< the review as it is kept
+    QString lastDirectory; ///< where the directory dialogs start
+    bool commandValid = false; ///< result of the last check of the compiler command
     CompilerCatalogue catalogue;
-    QString compilerFamilySet; ///< when not empty, the menu shows only families that occur in it
-    QMenu exeCommandMenu;
-    QList<SubPopupMenu *> familyMenus;
-
-    struct StepImages
-    {
-        QIcon highlighted;
-        QIcon plain;
-    };
-    StepImages sideBarImages[5]; ///< in the order of the pages
+    CompilerMenu exeCommandMenu {this};
+    GeneratorRun *generatorProcess = nullptr; ///< the newest run; a child, like earlier ones
 
     // Translated in the toolkit's general context, not the wizard's own.
     const QString destToolTip;

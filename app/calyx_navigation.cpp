@@ -1,7 +1,6 @@
-#include "app/calyx.h"
+#include "calyx.h"
 
-#include "generation/generator_process.h"
-#include "platform/paths.h"
+#include "generator_run.h"
 
 #include <QEvent>
 #include <QLineEdit>
@@ -9,89 +8,29 @@
 
 namespace {
 
-const int steps = 5;
-
 using Slot = void (Calyx::*)();
 
-struct SideBarButton
-{
-    QPushButton *CalyxBase::*button;
-    Slot slot;
+// The slots of the buttons, in the order of the steps. On the first two pages those that lead
+// forward heed the checks of the page.
+const Slot stepSlots[][SideBar::steps] = {
+    {&Calyx::PrdctBtn_clicked, &Calyx::P0_CmpBtn_clicked, &Calyx::P0_SrchBtn_clicked,
+     &Calyx::P0_DefBtn_clicked, &Calyx::P0_RevBtn_clicked},
+    {&Calyx::PrdctBtn_clicked, &Calyx::CmpBtn_clicked, &Calyx::P1_SrchBtn_clicked,
+     &Calyx::P1_DefBtn_clicked, &Calyx::P1_RevBtn_clicked},
+    {&Calyx::PrdctBtn_clicked, &Calyx::CmpBtn_clicked, &Calyx::SrchBtn_clicked,
+     &Calyx::DefBtn_clicked, &Calyx::RevBtn_clicked},
 };
-
-// One row for each page, one button for each step, both in the order of the pages.
-const SideBarButton sideBars[steps][steps] = {
-    {{&CalyxBase::P0_PrdctBtn, &Calyx::PrdctBtn_clicked},
-     {&CalyxBase::P0_CmpBtn, &Calyx::P0_CmpBtn_clicked},
-     {&CalyxBase::P0_SrchBtn, &Calyx::P0_SrchBtn_clicked},
-     {&CalyxBase::P0_DefBtn, &Calyx::P0_DefBtn_clicked},
-     {&CalyxBase::P0_RevBtn, &Calyx::P0_RevBtn_clicked}},
-    {{&CalyxBase::P1_PrdctBtn, &Calyx::PrdctBtn_clicked},
-     {&CalyxBase::P1_CmpBtn, &Calyx::CmpBtn_clicked},
-     {&CalyxBase::P1_SrchBtn, &Calyx::P1_SrchBtn_clicked},
-     {&CalyxBase::P1_DefBtn, &Calyx::P1_DefBtn_clicked},
-     {&CalyxBase::P1_RevBtn, &Calyx::P1_RevBtn_clicked}},
-    {{&CalyxBase::P3_PrdctBtn, &Calyx::PrdctBtn_clicked},
-     {&CalyxBase::P3_CmpBtn, &Calyx::CmpBtn_clicked},
-     {&CalyxBase::P3_SrchBtn, &Calyx::SrchBtn_clicked},
-     {&CalyxBase::P3_DefBtn, &Calyx::DefBtn_clicked},
-     {&CalyxBase::P3_RevBtn, &Calyx::RevBtn_clicked}},
-    {{&CalyxBase::P2_PrdctBtn, &Calyx::PrdctBtn_clicked},
-     {&CalyxBase::P2_CmpBtn, &Calyx::CmpBtn_clicked},
-     {&CalyxBase::P2_SrchBtn, &Calyx::SrchBtn_clicked},
-     {&CalyxBase::P2_DefBtn, &Calyx::DefBtn_clicked},
-     {&CalyxBase::P2_RevBtn, &Calyx::RevBtn_clicked}},
-    {{&CalyxBase::P4_PrdctBtn, &Calyx::PrdctBtn_clicked},
-     {&CalyxBase::P4_CmpBtn, &Calyx::CmpBtn_clicked},
-     {&CalyxBase::P4_SrchBtn, &Calyx::SrchBtn_clicked},
-     {&CalyxBase::P4_DefBtn, &Calyx::DefBtn_clicked},
-     {&CalyxBase::P4_RevBtn, &Calyx::RevBtn_clicked}},
-};
-
-struct StepImageFiles
-{
-    const char *highlighted;
-    const char *plain;
-};
-
-const StepImageFiles stepImageFiles[steps] = {
-    {"product_output_shd.bmp", "product_output.bmp"},
-    {"compiler_command_shd.bmp", "compiler_command.bmp"},
-    {"search_directories_shd.bmp", "search_directories.bmp"},
-    {"defines_switches_shd.bmp", "defines_switches.bmp"},
-    {"review_shd.bmp", "review.bmp"},
-};
-
-QIcon loadImage(const char *file)
-{
-    const QPixmap image(platform::hostPath(QLatin1String("..\\images\\") + QLatin1String(file)));
-    return image.isNull() ? QIcon() : QIcon(image);
-}
-
-// Setting an image repaints the button, and the paint event comes back to the event filter.
-void showImage(QPushButton *button, const QIcon &image)
-{
-    if (button->icon().cacheKey() != image.cacheKey())
-        button->setIcon(image);
-}
 
 } // namespace
 
-void Calyx::connectSideBars()
+void Calyx::connectSideBar()
 {
-    for (const auto &sideBar : sideBars) {
-        for (const SideBarButton &row : sideBar) {
-            connect(this->*row.button, &QPushButton::clicked, this, row.slot);
-            (this->*row.button)->installEventFilter(this);
+    for (int page = 0; page < SideBar::steps; ++page) {
+        for (int step = 0; step < SideBar::steps; ++step) {
+            QPushButton *button = sideBar.button(page, step);
+            connect(button, &QPushButton::clicked, this, stepSlots[std::min(page, 2)][step]);
+            button->installEventFilter(this);
         }
-    }
-}
-
-void Calyx::loadSideBarImages()
-{
-    for (int step = 0; step < steps; ++step) {
-        sideBarImages[step] = {loadImage(stepImageFiles[step].highlighted),
-                               loadImage(stepImageFiles[step].plain)};
     }
 }
 
@@ -203,24 +142,12 @@ bool Calyx::eventFilter(QObject *watched, QEvent *event)
             return false;
         }
     }
-    if (event->type() == QEvent::Enter || event->type() == QEvent::Leave) {
-        for (const auto &sideBar : sideBars) {
-            for (int step = 0; step < steps; ++step) {
-                QPushButton *const button = this->*sideBar[step].button;
-                const StepImages &images = sideBarImages[step];
-                if (watched == button) {
-                    const bool entered = event->type() == QEvent::Enter;
-                    showImage(button, entered ? images.highlighted : images.plain);
-                }
-            }
-        }
-    }
+    sideBar.followMouse(watched, event);
     if (watched == CmpExeEdit || watched == CmpExeFlagEdit || watched == CmpCmpFlagEdit
         || watched == CmpDefFlagEdit)
         updateCommandPreview();
-    const int current = currentId();
-    if (current >= 0)
-        showImage(this->*sideBars[current][current].button, sideBarImages[current].highlighted);
+    if (currentId() >= 0)
+        sideBar.highlight(currentId());
     return CalyxBase::eventFilter(watched, event);
 }
 

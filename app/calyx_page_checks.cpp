@@ -1,7 +1,8 @@
-#include "app/calyx.h"
+#include "calyx.h"
 
-#include "forms/colours.h"
-#include "platform/paths.h"
+#include "colours.h"
+#include "command_check.h"
+#include "host_path.h"
 
 #include <QCheckBox>
 #include <QFileDialog>
@@ -9,6 +10,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+
+using namespace Qt::StringLiterals;
 
 void Calyx::Page0LineEdit_textchanged(const QString &)
 {
@@ -32,6 +35,20 @@ void Calyx::Page1LineEdit_textchanged(const QString &)
     }
 }
 
+bool Calyx::checkExeCommand()
+{
+    const QString command = CmpExeEdit->text();
+    if (command.isEmpty())
+        return false;
+    const CommandState state = checkCommand(command);
+    const bool valid = state == CommandState::Valid;
+    const QString problem = state == CommandState::NotOnPath ? cmdNotOnPathText : cmdSpecifyText;
+    setForegroundColour(CmpExeEdit, valid ? Qt::black : Qt::red);
+    CmpExeEdit->setToolTip(valid ? cmdToolTip : problem);
+    CmpPathErrorLabel->setText(valid ? QString() : problem);
+    return valid;
+}
+
 void Calyx::CrossCmpCheckBox_clicked()
 {
     const bool cross = CrossCmpCheckBox->isChecked();
@@ -46,7 +63,7 @@ void Calyx::CrossCmpCheckBox_clicked()
 QString Calyx::askForDirectory(const QString &start, const QString &caption)
 {
     QFileDialog dialog(this, caption, platform::hostPath(start));
-    dialog.setObjectName(QStringLiteral("get existing directory"));
+    dialog.setObjectName(u"get existing directory"_s);
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
@@ -54,13 +71,13 @@ QString Calyx::askForDirectory(const QString &start, const QString &caption)
 
 QString Calyx::normalisePath(QString path)
 {
-    return path.replace(QLatin1Char('/'), QLatin1Char('\\'));
+    return path.replace(u'/', u'\\');
 }
 
 void Calyx::CmpHdrDirAddBtn_clicked()
 {
-    const QString path = normalisePath(askForDirectory(
-        lastDirectory, QStringLiteral("Select The Compiler Header File Directory")));
+    const QString path = normalisePath(
+        askForDirectory(lastDirectory, u"Select The Compiler Header File Directory"_s));
     if (path.isEmpty())
         return;
     CmpHdrDirListBox->addItem(path);
@@ -70,9 +87,8 @@ void Calyx::CmpHdrDirAddBtn_clicked()
 void Calyx::CmpHdrDirEditBtn_clicked()
 {
     QListWidgetItem *const row = CmpHdrDirListBox->currentItem();
-    const QString path =
-        normalisePath(askForDirectory(row ? row->text() : QString(),
-                                      QStringLiteral("Select The Compiler Header File Directory")));
+    const QString path = normalisePath(askForDirectory(
+        row ? row->text() : QString(), u"Select The Compiler Header File Directory"_s));
     if (path.isEmpty())
         return;
     if (row)
@@ -87,8 +103,8 @@ void Calyx::CmpHdrDirDeleteBtn_clicked()
 
 void Calyx::PersonDestBrowseBtn_clicked()
 {
-    const QString path = normalisePath(askForDirectory(
-        lastDirectory, QStringLiteral("Select the Compiler Personality Destination Directory")));
+    const QString path = normalisePath(
+        askForDirectory(lastDirectory, u"Select the Compiler Personality Destination Directory"_s));
     if (!path.isEmpty())
         lastDirectory = path;
     PersonDestEdit->setText(path);

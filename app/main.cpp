@@ -1,18 +1,20 @@
-#include "app/calyx.h"
-#include "forms/form_font.h"
+#include "calyx.h"
+#include "form_font.h"
 
 #include <QApplication>
 #include <QLocale>
 #include <QTranslator>
 
+using namespace Qt::StringLiterals;
+
 int main(int argc, char *argv[])
 {
-    QApplication::setStyle(QStringLiteral("windows"));
+    QApplication::setStyle(u"windows"_s);
     QApplication application(argc, argv);
     QApplication::setFont(formFont());
 
     QTranslator translators[2];
-    const QString names[] = {QStringLiteral("qt_"), QStringLiteral("calyx_")};
+    const QString names[] = {u"qt_"_s, u"calyx_"_s};
     for (int i = 0; i < 2; ++i) {
         // Without a translation file for this locale the texts stay English.
         if (translators[i].load(names[i] + QLocale::system().name(),

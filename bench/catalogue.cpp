@@ -4,10 +4,10 @@
 // the time from the start of the process to the first shown window against that of an empty
 // catalogue. The second measurement runs this program again.
 
-#include "app/calyx.h"
-#include "catalogue/compiler_catalogue.h"
-#include "forms/form_font.h"
-#include "platform/text_file.h"
+#include "calyx.h"
+#include "compiler_catalogue.h"
+#include "form_font.h"
+#include "text_file.h"
 
 #include <QApplication>
 #include <QDir>

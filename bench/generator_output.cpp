@@ -4,9 +4,9 @@
 //
 // Usage: bench_generator_output [MEGABYTES]
 
-#include "app/calyx.h"
-#include "forms/form_font.h"
-#include "forms/log_browser.h"
+#include "calyx.h"
+#include "form_font.h"
+#include "log_browser.h"
 
 #include <QAbstractButton>
 #include <QApplication>

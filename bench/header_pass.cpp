@@ -4,7 +4,7 @@
 //
 // Usage: bench_header_pass [DIRECTORY]
 
-#include "bexlor/names.h"
+#include "names.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

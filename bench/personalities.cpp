@@ -13,7 +13,7 @@
 // Of more headers than that, 400 unless said otherwise and all for 0, an evenly spread part is
 // taken.
 
-#include "bexlor/facts.h"
+#include "facts.h"
 
 #include <QCoreApplication>
 #include <QDir>

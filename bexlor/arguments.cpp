@@ -1,6 +1,10 @@
-#include "bexlor/arguments.h"
+#include "arguments.h"
 
-#include "platform/paths.h"
+#include "comma_list.h"
+#include "generator_interface.h"
+#include "host_path.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -17,15 +21,15 @@ public:
     }
 
     /// Whether the next argument is \a flag, which is then passed.
-    bool flag(const char *flag)
+    bool flag(QLatin1StringView flag)
     {
-        const bool found = m_next < m_list.size() && m_list[m_next] == QLatin1String(flag);
+        const bool found = m_next < m_list.size() && m_list[m_next] == flag;
         m_next += found ? 1 : 0;
         return found;
     }
 
     /// One of two words; true for the second.
-    bool either(const char *first, const char *second)
+    bool either(QLatin1StringView first, QLatin1StringView second)
     {
         const bool isSecond = flag(second);
         m_failed |= !isSecond && !flag(first);
@@ -46,64 +50,40 @@ private:
 
 QString usage()
 {
-    return QStringLiteral(
-        "usage: Bexlor.exe kov|kovpp cmp|ccmp COMMAND OUTPUT-FLAG OBJECT-FLAG DEFINE-FLAG "
-        "OBJECT-EXTENSION ORDER {-i DIRECTORY} -op PERSONALITY [-xd DEFINES] [-xs SWITCHES] "
-        "[-tpl FILE] [-fi FILE] [-sub DIRECTORY] [-rfs]");
+    return u"usage: Bexlor.exe kov|kovpp cmp|ccmp COMMAND OUTPUT-FLAG OBJECT-FLAG DEFINE-FLAG "
+           "OBJECT-EXTENSION ORDER {-i DIRECTORY} -op PERSONALITY [-xd DEFINES] [-xs SWITCHES] "
+           "[-tpl FILE] [-fi FILE] [-sub DIRECTORY] [-rfs]"_s;
 }
 
 std::optional<Arguments> parseArguments(const QStringList &list)
 {
     Reader reader(list);
     Arguments arguments;
-    arguments.isCpp = reader.either("kov", "kovpp");
-    arguments.crossCompiler = reader.either("cmp", "ccmp");
+    arguments.isCpp = reader.either(generator::productC, generator::productCpp);
+    arguments.crossCompiler = reader.either(generator::nativeCompiler, generator::crossCompiler);
     arguments.command = reader.value();
     arguments.outputFlag = reader.value();
     arguments.objectFlag = reader.value();
     arguments.defineFlag = reader.value();
     arguments.objectExtension = reader.value();
     arguments.order = reader.value();
-    while (reader.flag("-i"))
+    while (reader.flag(generator::headerDirectory))
         arguments.headerDirectories << reader.path();
-    if (!reader.flag("-op"))
+    if (!reader.flag(generator::personality))
         return {};
     arguments.personality = reader.path();
-    if (reader.flag("-xd"))
+    if (reader.flag(generator::defines))
         arguments.defines = splitCommaList(reader.value());
-    if (reader.flag("-xs"))
+    if (reader.flag(generator::switches))
         arguments.switches = splitCommaList(reader.value());
-    if (reader.flag("-tpl"))
+    if (reader.flag(generator::templateFile))
         arguments.templateFile = reader.path();
-    if (reader.flag("-fi"))
+    if (reader.flag(generator::forceIncludeFile))
         arguments.forceIncludeFile = reader.path();
-    if (reader.flag("-sub"))
+    if (reader.flag(generator::substituteHeaders))
         arguments.substituteHeaders = reader.path();
-    arguments.reduceFileSize = reader.flag("-rfs");
+    arguments.reduceFileSize = reader.flag(generator::reduceFileSize);
     if (!reader.isComplete())
         return {};
     return arguments;
-}
-
-QStringList splitCommaList(const QString &list)
-{
-    QStringList items {QString()};
-    int depth = 0;
-    bool quoted = false;
-    for (const QChar character : list) {
-        if (character == QLatin1Char('"'))
-            quoted = !quoted;
-        else if (!quoted && character == QLatin1Char('('))
-            ++depth;
-        else if (!quoted && character == QLatin1Char(')'))
-            --depth;
-        if (character == QLatin1Char(',') && depth <= 0 && !quoted)
-            items << QString();
-        else
-            items.last() += character;
-    }
-    for (QString &item : items)
-        item = item.trimmed();
-    items.removeAll(QString());
-    return items;
 }

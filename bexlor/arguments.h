@@ -31,7 +31,3 @@ QString usage();
 /// Takes \a list, the command line without the program's name, apart. Nothing when it is not made
 /// as usage() says.
 std::optional<Arguments> parseArguments(const QStringList &list);
-
-/// The items of a comma list without the white space around them, empty ones left out. A comma
-/// between parentheses or double quotes belongs to its item.
-QStringList splitCommaList(const QString &list);

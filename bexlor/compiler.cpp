@@ -1,10 +1,13 @@
-#include "bexlor/compiler.h"
+#include "compiler.h"
 
-#include "platform/program_search.h"
+#include "order_tokens.h"
+#include "program_search.h"
 
 #include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -23,12 +26,11 @@ bool isProgram(const QString &word)
 /// and it would be refused for its style.
 QStringList withoutWarningsAsErrors(QStringList words)
 {
-    static const QRegularExpression option(
-        QStringLiteral("^(-Werror(=.*)?|--Werror|-pedantic-errors|[-/]WX)$"));
+    static const QRegularExpression option(u"^(-Werror(=.*)?|--Werror|-pedantic-errors|[-/]WX)$"_s);
     words.removeIf([](const QString &word) { return option.match(word).hasMatch(); });
     // cc65's is made of two words.
     for (qsizetype i = words.size() - 1; i > 0; --i) {
-        if (words[i] == QLatin1String("error") && words[i - 1] == QLatin1String("-W"))
+        if (words[i] == "error"_L1 && words[i - 1] == "-W"_L1)
             words.remove(--i, 2);
     }
     return words;
@@ -53,7 +55,7 @@ QString withAbsolutePath(const QString &word)
     // What stands before a path in one word: an option with a sign behind it, a single letter, the
     // mark of a response file, or nothing.
     static const QRegularExpression start(
-        QStringLiteral("^(?:(?:--?|/)[A-Za-z][-A-Za-z]*[=:,]|[-/][A-Za-z]|@)?"));
+        u"^(?:(?:--?|/)[A-Za-z][-A-Za-z]*[=:,]|[-/][A-Za-z]|@)?"_s);
     if (QFileInfo(word).isAbsolute() && QFileInfo::exists(word))
         return word;
     const QString option = start.match(word).captured();
@@ -73,9 +75,8 @@ Compiler findCompiler(const Arguments &arguments)
         const bool isDefine =
             !arguments.defineFlag.isEmpty() && words[i].startsWith(arguments.defineFlag);
         // The program, and what is a path by chance only: a define, the GNU driver's language.
-        const bool isNoPath = i == 0 || isDefine || words[i - 1] == QLatin1String("-x");
-        const bool includes =
-            words[i] == QLatin1String("-include") || words[i] == QLatin1String("-imacros");
+        const bool isNoPath = i == 0 || isDefine || words[i - 1] == "-x"_L1;
+        const bool includes = words[i] == "-include"_L1 || words[i] == "-imacros"_L1;
         if (includes && i > 0 && i + 1 < words.size()) {
             compiler.includedFirst << words[i] << withAbsolutePath(words[i + 1]);
             ++i;
@@ -113,34 +114,31 @@ QStringList compileCommand(const Compiler &compiler, const QString &source, cons
         else
             joined += flag;
     };
-    const bool outputIsNamed =
-        !compiler.outputFlag.isEmpty() || !compiler.order.contains(QLatin1String("%o"));
+    const bool outputIsNamed = !compiler.outputFlag.isEmpty() || !compiler.order.contains("%o"_L1);
 
-    const QStringList tokens = compiler.order.split(QLatin1Char('%'), Qt::SkipEmptyParts);
-    for (const QString &token : tokens) {
-        const bool spaceFollows = token.endsWith(QLatin1Char(' '));
-        switch (token.front().toLatin1()) {
-        case 'c':
+    for (const OrderToken &token : parseOrderString(compiler.order)) {
+        switch (token.part) {
+        case CommandPart::Command:
             words << compiler.command;
             break;
-        case 'o':
-            addFlag(compiler.outputFlag, spaceFollows);
+        case CommandPart::OutputFlag:
+            addFlag(compiler.outputFlag, token.spaceFollows);
             break;
-        case 'e':
+        case CommandPart::OutputFile:
             if (outputIsNamed)
                 add(output);
             break;
-        case 'd':
+        case CommandPart::DefineFlag:
             for (const QString &define : compiler.defines) {
-                addFlag(compiler.defineFlag, spaceFollows);
+                addFlag(compiler.defineFlag, token.spaceFollows);
                 add(define);
             }
             break;
-        case 'j':
+        case CommandPart::ObjectFlag:
             if (product == Product::Object)
                 add(compiler.objectFlag);
             break;
-        case 's':
+        case CommandPart::Source:
             add(source);
             break;
         }
@@ -150,16 +148,16 @@ QStringList compileCommand(const Compiler &compiler, const QString &source, cons
 
 QString commandLine(const QStringList &command)
 {
-    static const QRegularExpression special(QStringLiteral("[ &|<>^()\"]"));
-    static const QRegularExpression beforeQuote(QStringLiteral("(\\\\*)\""));
-    static const QRegularExpression atEnd(QStringLiteral("(\\\\+)$"));
+    static const QRegularExpression special(u"[ &|<>^()\"]"_s);
+    static const QRegularExpression beforeQuote(u"(\\\\*)\""_s);
+    static const QRegularExpression atEnd(u"(\\\\+)$"_s);
     QStringList words = command;
     for (QString &word : words) {
         if (!word.isEmpty() && !word.contains(special))
             continue;
-        word.replace(beforeQuote, QStringLiteral("\\1\\1\\\""));
-        word.replace(atEnd, QStringLiteral("\\1\\1"));
-        word = QLatin1Char('"') + word + QLatin1Char('"');
+        word.replace(beforeQuote, u"\\1\\1\\\""_s);
+        word.replace(atEnd, u"\\1\\1"_s);
+        word = u'"' + word + u'"';
     }
-    return words.join(QLatin1Char(' '));
+    return words.join(u' ');
 }

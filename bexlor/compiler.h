@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bexlor/arguments.h"
+#include "arguments.h"
 
 /// The user's compiler, ready to be started: from the same command line everything about it is
 /// asked.

@@ -1,4 +1,4 @@
-#include "bexlor/experiment.h"
+#include "experiment.h"
 
 #include <algorithm>
 #include <numeric>

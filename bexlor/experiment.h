@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bexlor/prober.h"
+#include "prober.h"
 
 #include <functional>
 #include <optional>

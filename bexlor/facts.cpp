@@ -1,7 +1,9 @@
-#include "bexlor/facts.h"
+#include "facts.h"
 
 #include <QDir>
 #include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
 
 QByteArray typeLike(const Facts &facts, int size, bool isFloating, bool isUnsigned)
 {
@@ -63,7 +65,7 @@ void parseSearchPath(const QByteArray &listing, Facts &facts)
 
 QByteArray versionLineOf(const QByteArray &banner)
 {
-    static const QRegularExpression version(QStringLiteral("[A-Za-z].*[0-9]\\.[0-9]"));
+    static const QRegularExpression version(u"[A-Za-z].*[0-9]\\.[0-9]"_s);
     for (const QByteArray &line : banner.split('\n')) {
         if (version.match(QString::fromLocal8Bit(line)).hasMatch())
             return line.simplified();

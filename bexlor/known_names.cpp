@@ -1,4 +1,4 @@
-#include "bexlor/known_names.h"
+#include "known_names.h"
 
 #include <QSet>
 

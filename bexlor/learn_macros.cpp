@@ -1,6 +1,6 @@
-#include "bexlor/learning.h"
+#include "learning.h"
 
-#include "bexlor/known_names.h"
+#include "known_names.h"
 
 #include <QMap>
 #include <QSet>

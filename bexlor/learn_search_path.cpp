@@ -1,4 +1,4 @@
-#include "bexlor/learning.h"
+#include "learning.h"
 
 #include <QFile>
 #include <QHash>
@@ -7,6 +7,8 @@
 #include <QSet>
 #include <algorithm>
 #include <map>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -35,11 +37,11 @@ public:
             // A directory that has headers in its subdirectories only may be searched as well.
             QString directory = header.directory, name = header.name;
             for (int level = 0; level < levelsAbove; ++level) {
-                const qsizetype slash = directory.lastIndexOf(QLatin1Char('/'));
+                const qsizetype slash = directory.lastIndexOf(u'/');
                 // Behind the root a name would be a whole path, which is found without a search.
-                if (slash <= 0 || directory.at(slash - 1) == QLatin1Char(':'))
+                if (slash <= 0 || directory.at(slash - 1) == u':')
                     break;
-                name.prepend(directory.mid(slash + 1) + QLatin1Char('/'));
+                name.prepend(directory.mid(slash + 1) + u'/');
                 directory.truncate(slash);
                 if (!own.contains(directory) && m_names[directory].size() < namesFromBelow)
                     add(directory, name);
@@ -77,14 +79,14 @@ public:
     {
         QStringList names;
         for (const QString &directory : m_order) {
-            if (directory != first && !directory.startsWith(first + QLatin1Char('/')))
+            if (directory != first && !directory.startsWith(first + u'/'))
                 continue;
             const QString below = directory.mid(first.size());
             for (const QString &name : m_names[directory]) {
                 if (names.size() == headersCompared)
                     return names;
                 if (holders(name).contains(second + below))
-                    names << (below + QLatin1Char('/') + name).mid(1);
+                    names << (below + u'/' + name).mid(1);
             }
         }
         return names;
@@ -101,10 +103,10 @@ private:
 
     static bool mayBeIncluded(const QString &name, bool isCpp)
     {
-        static const QRegularExpression header(QStringLiteral("\\.(h|hh|hpp|hxx|inc|H)$"));
-        if (name.contains(QLatin1Char('>')) || name.contains(QLatin1Char('\\')))
+        static const QRegularExpression header(u"\\.(h|hh|hpp|hxx|inc|H)$"_s);
+        if (name.contains(u'>') || name.contains(u'\\'))
             return false;
-        return name.contains(header) || (isCpp && !name.contains(QLatin1Char('.')));
+        return name.contains(header) || (isCpp && !name.contains(u'.'));
     }
 
     QStringList m_order;
@@ -151,7 +153,7 @@ QSet<QString> foundOf(const Experiment &experiment, const QStringList &names)
 QSet<QByteArray> macrosOf(const QString &path)
 {
     static const QRegularExpression define(
-        QStringLiteral("^[ \\t]*#[ \\t]*define[ \\t]+([A-Za-z_][A-Za-z0-9_]*)"),
+        u"^[ \\t]*#[ \\t]*define[ \\t]+([A-Za-z_][A-Za-z0-9_]*)"_s,
         QRegularExpression::MultilineOption);
     QSet<QByteArray> names;
     QFile file(path);
@@ -176,8 +178,8 @@ public:
     /// the two do not differ in what shows.
     std::optional<bool> takesFirst(const QString &name, const QString &first, const QString &second)
     {
-        const QSet<QByteArray> &ofFirst = macrosIn(first + QLatin1Char('/') + name);
-        const QSet<QByteArray> &ofSecond = macrosIn(second + QLatin1Char('/') + name);
+        const QSet<QByteArray> &ofFirst = macrosIn(first + u'/' + name);
+        const QSet<QByteArray> &ofSecond = macrosIn(second + u'/' + name);
         if (ofFirst == ofSecond)
             return {};
         const QSet<QByteArray> &defined = definedBehind(name, {first, second});
@@ -239,12 +241,12 @@ private:
         directories << m_directories.holders(name);
         directories.removeDuplicates();
         directories.sort();
-        const QString key = name + QLatin1Char('\n') + directories.join(QLatin1Char('\n'));
+        const QString key = name + u'\n' + directories.join(u'\n');
         if (m_defined.contains(key))
             return m_defined[key];
         QSet<QByteArray> all;
         for (const QString &directory : directories)
-            all += macrosIn(directory + QLatin1Char('/') + name);
+            all += macrosIn(directory + u'/' + name);
         const QList<QByteArray> names(all.begin(), all.end());
         QList<QByteArray> tests;
         for (const QByteArray &macro : names)

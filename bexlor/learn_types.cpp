@@ -1,4 +1,4 @@
-#include "bexlor/learning.h"
+#include "learning.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "bexlor/experiment.h"
-#include "bexlor/facts.h"
-#include "bexlor/names.h"
+#include "experiment.h"
+#include "facts.h"
+#include "names.h"
 
 /// What can be learned of a compiler by compiling probes alone. Each function adds what it finds to
 /// the facts and needs those that the functions before it have added.

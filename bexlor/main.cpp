@@ -5,18 +5,21 @@
 // status is 0 when the personality has been written, 1 when a step failed, 2 for a command line
 // that usage() does not allow.
 
-#include "bexlor/arguments.h"
-#include "bexlor/known_names.h"
-#include "bexlor/learning.h"
-#include "bexlor/personality.h"
-#include "platform/process_tree.h"
-#include "platform/text_file.h"
+#include "arguments.h"
+#include "generator_interface.h"
+#include "known_names.h"
+#include "learning.h"
+#include "personality.h"
+#include "process_tree.h"
+#include "text_file.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <cstdio>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -35,11 +38,12 @@ void say(const QString &line)
     std::fflush(stdout);
 }
 
-const char *const logFiles[] = {"compile.bat", "stdout.log", "stderr.log"};
+const QLatin1StringView logFiles[] = {generator::attemptedCommand, generator::standardOutput,
+                                      generator::standardError};
 
 void leaveLogs(const QStringList &command, const ProgramRun &run)
 {
-    platform::writeTextFile(logFiles[0], commandLine(command) + QLatin1Char('\n'));
+    platform::writeTextFile(logFiles[0], commandLine(command) + u'\n');
     platform::writeFile(logFiles[1], run.output);
     platform::writeFile(logFiles[2], run.errors);
 }
@@ -48,29 +52,29 @@ QString howItEnded(const ProgramRun &run)
 {
     switch (run.ending) {
     case ProgramRun::NotStarted:
-        return QStringLiteral("the compiler could not be started");
+        return u"the compiler could not be started"_s;
     case ProgramRun::Crashed:
-        return QStringLiteral("the compiler crashed");
+        return u"the compiler crashed"_s;
     case ProgramRun::TimedOut:
-        return QStringLiteral("the compiler did not end within its time");
+        return u"the compiler did not end within its time"_s;
     case ProgramRun::Exited:
         break;
     }
-    return QStringLiteral("the compiler returned %1").arg(run.exitCode);
+    return u"the compiler returned %1"_s.arg(run.exitCode);
 }
 
 /// What a compiler that understands the GNU driver's options answers to them.
 void askLikeGnu(const Compiler &compiler, const Prober &prober, const QString &folder, Facts &facts)
 {
-    if (!platform::writeFile(folder + QLatin1Char('/') + prober.sourceName(), "\n"))
+    if (!platform::writeFile(folder + u'/' + prober.sourceName(), "\n"))
         return;
     QStringList question = compiler.command;
     for (const QString &define : compiler.defines)
-        question << QStringLiteral("-D") + define;
+        question << u"-D"_s + define;
     const ProgramRun macros = platform::runProgram(
-        question + QStringList {"-dM", "-E", prober.sourceName()}, folder, questionTimeLimit);
+        question + QStringList {u"-dM"_s, u"-E"_s, prober.sourceName()}, folder, questionTimeLimit);
     const ProgramRun searchPath = platform::runProgram(
-        question + QStringList {"-v", "-E", prober.sourceName()}, folder, questionTimeLimit);
+        question + QStringList {u"-v"_s, u"-E"_s, prober.sourceName()}, folder, questionTimeLimit);
     if (macros.succeeded()) {
         facts.macros = parseMacros(macros.output);
         facts.macros.removeIf(
@@ -85,7 +89,7 @@ QByteArray versionLine(const Compiler &compiler, const ProgramRun &firstRun, con
     const QByteArray banner = versionLineOf(firstRun.output + '\n' + firstRun.errors);
     if (!banner.isEmpty())
         return banner;
-    const ProgramRun run = platform::runProgram(compiler.command + QStringList {"--version"},
+    const ProgramRun run = platform::runProgram(compiler.command + QStringList {u"--version"_s},
                                                 folder, questionTimeLimit);
     return versionLineOf(run.output + '\n' + run.errors);
 }
@@ -94,10 +98,10 @@ QByteArray versionLine(const Compiler &compiler, const ProgramRun &firstRun, con
 QString widthRemark(const QString &directory)
 {
     const QFileInfo given(directory);
-    const bool isWide = given.isRoot() || given.absoluteFilePath() == QLatin1String("/usr");
-    return isWide ? QStringLiteral("%1 is too wide for a search directory; reading it takes long.")
-                        .arg(directory)
-                  : QString();
+    const bool isWide = given.isRoot() || given.absoluteFilePath() == "/usr"_L1;
+    return isWide
+             ? u"%1 is too wide for a search directory; reading it takes long."_s.arg(directory)
+             : QString();
 }
 
 TreeNames readDirectories(const QStringList &directories)
@@ -108,12 +112,12 @@ TreeNames readDirectories(const QStringList &directories)
             say(remark);
     }
     if (!directories.isEmpty())
-        say(QStringLiteral("Reading the search directories ..."));
+        say(u"Reading the search directories ..."_s);
     const TreeNames tree = readTree(directories);
     for (const QString &remark : tree.remarks)
         say(remark);
     if (!directories.isEmpty()) {
-        say(QStringLiteral("Found %1 names in %2 files.").arg(tree.names.size()).arg(tree.files));
+        say(u"Found %1 names in %2 files."_s.arg(tree.names.size()).arg(tree.files));
     }
     return tree;
 }
@@ -126,7 +130,7 @@ bool worksStill(const Prober &prober)
     if (again.compiled())
         return true;
     leaveLogs(prober.command(), again.run);
-    say(QStringLiteral("The first probe no longer compiles: %1.").arg(howItEnded(again.run)));
+    say(u"The first probe no longer compiles: %1."_s.arg(howItEnded(again.run)));
     return false;
 }
 
@@ -135,11 +139,11 @@ std::optional<Facts> learn(const Arguments &arguments, const QString &folder)
 {
     const Compiler compiler = findCompiler(arguments);
     const Prober prober(compiler, folder, arguments.reduceFileSize);
-    say(QStringLiteral("Compiling a first probe ..."));
+    say(u"Compiling a first probe ..."_s);
     const Answer first = prober.ask(firstProbe);
     leaveLogs(prober.command(), first.run);
     if (!first.compiled()) {
-        say(QStringLiteral("Compiling the first probe failed: %1.").arg(howItEnded(first.run)));
+        say(u"Compiling the first probe failed: %1."_s.arg(howItEnded(first.run)));
         return {};
     }
 
@@ -151,38 +155,37 @@ std::optional<Facts> learn(const Arguments &arguments, const QString &folder)
     TreeNames tree = readDirectories(arguments.headerDirectories);
     for (const QString &define : compiler.defines)
         tree.names.append(
-            {define.section(QRegularExpression(QStringLiteral("[=(]")), 0, 0).toUtf8(),
-             TestedInHeader});
+            {define.section(QRegularExpression(u"[=(]"_s), 0, 0).toUtf8(), TestedInHeader});
     const Experiment experiment(prober, !compiler.isCross);
     if (!experiment.readsConstants() && facts.macros.isEmpty()) {
-        say(QStringLiteral("Reading constants back failed: the compiler leaves no file that holds "
-                           "the bytes of a probe's constants."));
+        say(u"Reading constants back failed: the compiler leaves no file that holds "
+            "the bytes of a probe's constants."_s);
         return {};
     }
     if (facts.macros.isEmpty()) {
-        say(QStringLiteral("Looking for predefined macros ..."));
+        say(u"Looking for predefined macros ..."_s);
         learnMacros(experiment, tree.names, facts);
         if (!worksStill(prober))
             return {};
     }
-    say(QStringLiteral("Found %1 predefined macros, and %2 whose definition is not known.")
+    say(u"Found %1 predefined macros, and %2 whose definition is not known."_s
             .arg(facts.macros.size())
             .arg(facts.undeterminedMacros.size()));
     if (experiment.readsConstants()) {
-        say(QStringLiteral("Measuring types ..."));
+        say(u"Measuring types ..."_s);
         learnTypes(experiment, facts);
     }
-    say(QStringLiteral("Looking for keywords ..."));
+    say(u"Looking for keywords ..."_s);
     learnKeywords(experiment, tree.names, facts);
-    say(QStringLiteral("Found %1 keywords.").arg(facts.keywords.size()));
+    say(u"Found %1 keywords."_s.arg(facts.keywords.size()));
     if (facts.searchPath.isEmpty()) {
-        say(QStringLiteral("Looking for the search path ..."));
+        say(u"Looking for the search path ..."_s);
         learnSearchPath(experiment, tree.headers, facts);
     }
-    say(QStringLiteral("Found %1 directories on the search path.").arg(facts.searchPath.size()));
+    say(u"Found %1 directories on the search path."_s.arg(facts.searchPath.size()));
     if (!worksStill(prober))
         return {};
-    say(QStringLiteral("The compiler was started %1 times.").arg(prober.compilersStarted()));
+    say(u"The compiler was started %1 times."_s.arg(prober.compilersStarted()));
     return facts;
 }
 
@@ -191,18 +194,17 @@ QString problemWith(const Arguments &arguments)
 {
     const QString destination = QFileInfo(arguments.personality).absolutePath();
     if (!QFileInfo(destination).isDir())
-        return QStringLiteral("The folder of the personality does not exist: %1").arg(destination);
+        return u"The folder of the personality does not exist: %1"_s.arg(destination);
     if (!QFileInfo(destination).isWritable())
-        return QStringLiteral("The folder of the personality is not writable: %1").arg(destination);
+        return u"The folder of the personality is not writable: %1"_s.arg(destination);
     if (!arguments.templateFile.isEmpty() && !platform::readTextFile(arguments.templateFile))
-        return QStringLiteral("The template cannot be read: %1").arg(arguments.templateFile);
+        return u"The template cannot be read: %1"_s.arg(arguments.templateFile);
     if (!arguments.forceIncludeFile.isEmpty() && !QFileInfo(arguments.forceIncludeFile).isFile()) {
-        return QStringLiteral("The force-include file does not exist: %1")
-            .arg(arguments.forceIncludeFile);
+        return u"The force-include file does not exist: %1"_s.arg(arguments.forceIncludeFile);
     }
     if (!arguments.substituteHeaders.isEmpty() && !QFileInfo(arguments.substituteHeaders).isDir()) {
-        return QStringLiteral("The folder of substitute headers does not exist: %1")
-            .arg(arguments.substituteHeaders);
+        return u"The folder of substitute headers does not exist: %1"_s.arg(
+            arguments.substituteHeaders);
     }
     return QString();
 }
@@ -210,7 +212,7 @@ QString problemWith(const Arguments &arguments)
 bool generate(const Arguments &arguments, const QString &folder)
 {
     // What an earlier run has left would be taken for this one's.
-    for (const char *file : logFiles)
+    for (const QLatin1StringView file : logFiles)
         QFile::remove(file);
     const QString problem = problemWith(arguments);
     if (!problem.isEmpty()) {
@@ -224,10 +226,10 @@ bool generate(const Arguments &arguments, const QString &folder)
         return false;
     if (!platform::writeFile(arguments.personality,
                              personalityText(arguments, *facts, templateText))) {
-        say(QStringLiteral("The personality cannot be written: %1").arg(arguments.personality));
+        say(u"The personality cannot be written: %1"_s.arg(arguments.personality));
         return false;
     }
-    say(QStringLiteral("Wrote %1").arg(arguments.personality));
+    say(u"Wrote %1"_s.arg(arguments.personality));
     return true;
 }
 
@@ -243,7 +245,7 @@ int main(int argc, char *argv[])
     }
     QTemporaryDir workshop;
     if (!workshop.isValid()) {
-        say(QStringLiteral("No temporary folder can be made: %1").arg(workshop.errorString()));
+        say(u"No temporary folder can be made: %1"_s.arg(workshop.errorString()));
         return 1;
     }
     const platform::ProgramGuard guard(workshop.path());

@@ -1,4 +1,4 @@
-#include "bexlor/names.h"
+#include "names.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -15,6 +15,8 @@
 #include <thread>
 #include <unordered_set>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace fs = std::filesystem;
 
@@ -429,7 +431,7 @@ public:
 
     void remark(const fs::path &path)
     {
-        remarks << QStringLiteral("Passed over, since it cannot be read: %1").arg(toQString(path));
+        remarks << u"Passed over, since it cannot be read: %1"_s.arg(toQString(path));
     }
 
 private:
@@ -539,8 +541,7 @@ TreeNames readTree(const QStringList &directories)
     for (const QString &directory : directories) {
         const QDir given(directory);
         if (!given.exists())
-            walk.remarks
-                << QStringLiteral("Passed over, since it does not exist: %1").arg(directory);
+            walk.remarks << u"Passed over, since it does not exist: %1"_s.arg(directory);
         else
             walk.walk(withoutLinks(given.filesystemPath()));
     }

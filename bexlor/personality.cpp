@@ -1,8 +1,10 @@
-#include "bexlor/personality.h"
+#include "personality.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -368,12 +370,12 @@ QByteArray pathOption(const char *option, const QString &path)
 /// of the same names and contents, made for itself.
 bool holdsIntrinsics(const QString &directory)
 {
-    return QFileInfo::exists(directory + QLatin1String("/immintrin.h"));
+    return QFileInfo::exists(directory + "/immintrin.h"_L1);
 }
 
 bool hasHeaders(const QString &directory)
 {
-    return !QDir(directory).entryList({QStringLiteral("*.h")}, QDir::Files).isEmpty();
+    return !QDir(directory).entryList({u"*.h"_s}, QDir::Files).isEmpty();
 }
 
 QByteArray searchPathOptions(const Arguments &arguments, const Facts &facts)

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "bexlor/arguments.h"
-#include "bexlor/facts.h"
+#include "arguments.h"
+#include "facts.h"
 
 /// The text of a personality: a file of compiler options that clang reads under --config, one
 /// option a line. It makes clang see the code as the compiler of \a facts does, with what the user

@@ -1,6 +1,6 @@
-#include "bexlor/prober.h"
+#include "prober.h"
 
-#include "platform/text_file.h"
+#include "text_file.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -8,6 +8,8 @@
 #include <QRegularExpression>
 #include <QThreadPool>
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -102,15 +104,14 @@ QString Prober::sourceName() const
 
 QStringList Prober::command(Product product) const
 {
-    const QString output = product == Product::Object
-                             ? QLatin1String("probe") + m_compiler.objectExtension
-                             : QStringLiteral("probe.exe");
+    const QString output =
+        product == Product::Object ? "probe"_L1 + m_compiler.objectExtension : u"probe.exe"_s;
     return compileCommand(m_compiler, sourceName(), output, product);
 }
 
 Answer Prober::ask(const QByteArray &source, Product product) const
 {
-    const QString folder = m_folder + QStringLiteral("/%1").arg(++m_folders);
+    const QString folder = m_folder + u"/%1"_s.arg(++m_folders);
     const Answer answer = askIn(folder, source, product);
     QDir(folder).removeRecursively();
     return answer;
@@ -124,7 +125,7 @@ Answer Prober::askIn(const QString &folder, const QByteArray &source, Product pr
     const bool needsMain =
         product == Product::Object && m_compiler.objectFlag.isEmpty() && !m_compiler.isCross;
     const QByteArray text = needsMain ? source + "int main(void) { return 0; }\n" : source;
-    if (!platform::writeFile(folder + QLatin1Char('/') + sourceName(), text))
+    if (!platform::writeFile(folder + u'/' + sourceName(), text))
         return answer;
     ++m_started;
     answer.run = platform::runProgram(command(product), folder, timeLimit());
@@ -152,11 +153,11 @@ QList<Answer> Prober::askAll(const QList<QByteArray> &sources) const
 
 Answer Prober::askByRunning(const QByteArray &source) const
 {
-    const QString folder = m_folder + QStringLiteral("/%1").arg(++m_folders);
+    const QString folder = m_folder + u"/%1"_s.arg(++m_folders);
     Answer answer = askIn(folder, source, Product::Executable);
     if (answer.compiled()) {
-        for (const QString &name : {QStringLiteral("probe.exe"), QStringLiteral("a.out")}) {
-            const QString program = folder + QLatin1Char('/') + name;
+        for (const QString &name : {u"probe.exe"_s, u"a.out"_s}) {
+            const QString program = folder + u'/' + name;
             if (QFile::exists(program))
                 answer.bytes = platform::runProgram({program}, folder, timeLimit()).output;
         }
@@ -167,11 +168,10 @@ Answer Prober::askByRunning(const QByteArray &source) const
 
 QSet<int> namedLines(const QByteArray &messages, const QByteArray &source, bool ofErrors)
 {
-    static const QRegularExpression lineBefore(QStringLiteral("\\bline ([0-9]+)\\D*$"),
+    static const QRegularExpression lineBefore(u"\\bline ([0-9]+)\\D*$"_s,
                                                QRegularExpression::CaseInsensitiveOption);
-    static const QRegularExpression number(
-        QStringLiteral("^[^0-9\\n]{1,10}?(?<![A-Za-z_])([0-9]+)"));
-    static const QRegularExpression isError(QStringLiteral("error|fatal"),
+    static const QRegularExpression number(u"^[^0-9\\n]{1,10}?(?<![A-Za-z_])([0-9]+)"_s);
+    static const QRegularExpression isError(u"error|fatal"_s,
                                             QRegularExpression::CaseInsensitiveOption);
     QSet<int> lines;
     for (const QByteArray &message : messages.split('\n')) {
@@ -193,7 +193,7 @@ QSet<int> namedLines(const QByteArray &messages, const QByteArray &source, bool 
 QByteArray objectBytes(const QByteArray &file)
 {
     // The first line of an ASxxxx file: radix, byte order, and how many bytes an address has.
-    static const QRegularExpression relocatable(QStringLiteral("^X[HL]([234])\\s"));
+    static const QRegularExpression relocatable(u"^X[HL]([234])\\s"_s);
     const QRegularExpressionMatch match = relocatable.match(QString::fromLatin1(file.left(16)));
     if (file.startsWith("Uzna"))
         return fromCa65(file);

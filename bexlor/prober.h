@@ -1,7 +1,7 @@
 #pragma once
 
-#include "bexlor/compiler.h"
-#include "platform/program_run.h"
+#include "compiler.h"
+#include "program_run.h"
 
 #include <QList>
 #include <QSet>

@@ -1,6 +1,9 @@
-#include "catalogue/compiler_catalogue.h"
+#include "compiler_catalogue.h"
 
+#include <QTextStream>
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -10,8 +13,7 @@ struct Tag
     QString closes;
 
     explicit Tag(const char *name)
-        : opens(QLatin1Char('<') + QLatin1String(name) + QLatin1Char('>')),
-          closes(QLatin1String("</") + QLatin1String(name) + QLatin1Char('>'))
+        : opens(u'<' + QLatin1String(name) + u'>'), closes("</"_L1 + QLatin1String(name) + u'>')
     { }
 
     /// \a line without any of the tags.
@@ -53,6 +55,12 @@ void readField(CompilerRecord &record, const QString &line)
 
 } // namespace
 
+void CompilerCatalogue::append(const CompilerCatalogue &other)
+{
+    families << other.families;
+    compilers << other.compilers;
+}
+
 CompilerRecord *findRecord(QList<CompilerRecord> &compilers, const QString &family,
                            const QString &name)
 {
@@ -78,7 +86,7 @@ CompilerCatalogue parseCatalogue(const QString &text)
     CompilerCatalogue catalogue;
     CompilerRecord record;
     bool insideRecord = false;
-    for (const QStringView &rawLine : QStringView(text).split(QLatin1Char('\n'))) {
+    for (const QStringView &rawLine : QStringView(text).split(u'\n')) {
         const QString line = rawLine.toString().simplified();
         if (insideRecord && line == recordTag.closes) {
             catalogue.compilers << record;
@@ -97,19 +105,22 @@ CompilerCatalogue parseCatalogue(const QString &text)
     return catalogue;
 }
 
+void writeCompilerBlock(QTextStream &stream, const CompilerRecord &record)
+{
+    stream << ' ' << recordTag.opens << '\n';
+    for (const Field &field : fields)
+        stream << "  " << field.tag.opens << record.*field.value << field.tag.closes << '\n';
+    stream << ' ' << recordTag.closes << "\n\n";
+}
+
 QString catalogueText(const CompilerCatalogue &catalogue)
 {
     QString text;
+    QTextStream stream(&text);
     for (const QString &family : catalogue.families)
-        text += familyTag.opens + family + familyTag.closes + QLatin1Char('\n');
-    text += QLatin1Char('\n');
-    for (const CompilerRecord &record : catalogue.compilers) {
-        text += QLatin1Char(' ') + recordTag.opens + QLatin1Char('\n');
-        for (const Field &field : fields) {
-            text += QLatin1String("  ") + field.tag.opens + record.*field.value + field.tag.closes
-                  + QLatin1Char('\n');
-        }
-        text += QLatin1Char(' ') + recordTag.closes + QLatin1String("\n\n");
-    }
+        stream << familyTag.opens << family << familyTag.closes << '\n';
+    stream << '\n';
+    for (const CompilerRecord &record : catalogue.compilers)
+        writeCompilerBlock(stream, record);
     return text;
 }

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+class QTextStream;
+
 /// A known compiler: what the wizard fills in when it is chosen. No field holds a line break.
 struct CompilerRecord
 {
@@ -33,6 +35,8 @@ struct CompilerCatalogue
     QStringList families;
     QList<CompilerRecord> compilers;
 
+    void append(const CompilerCatalogue &other);
+
     bool operator==(const CompilerCatalogue &) const = default;
 };
 
@@ -47,6 +51,9 @@ QStringList namesOf(const QList<CompilerRecord> &compilers, const QString &famil
 /// its white space simplified. What is not understood is passed over; a record that the end of the
 /// text cuts short is kept with what was read of it.
 CompilerCatalogue parseCatalogue(const QString &text);
+
+/// Writes one record as lines of a catalogue file, with the empty line that follows it.
+void writeCompilerBlock(QTextStream &stream, const CompilerRecord &record);
 
 /// The text of a catalogue file. parseCatalogue() gives the same catalogue back unless a value
 /// holds white space other than single spaces, or its own tag.

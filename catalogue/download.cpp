@@ -1,4 +1,4 @@
-#include "catalogue/download.h"
+#include "download.h"
 
 #include <QUrl>
 

@@ -3,8 +3,7 @@
 #include <QString>
 
 /// Where integration packages are downloaded from.
-inline const QString downloadBaseAddress =
-    QStringLiteral("https://www.vantor.example/downloads/Windows/");
+inline const QLatin1String downloadBaseAddress("https://www.vantor.example/downloads/Windows/");
 
 /// Whether a record's Template stands for an integration package that must be downloaded.
 bool isDownload(const QString &templateValue);

@@ -1,21 +1,36 @@
-#include "catalogue/product_language.h"
+#include "product_language.h"
+
+#include "generator_interface.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-QLatin1String otherLanguage(const QString &productCode)
+bool isForC(const QString &productCode)
 {
-    return QLatin1String(productCode == QLatin1String("kov") ? "C++" : "C");
+    return productCode == generator::productC;
+}
+
+QLatin1StringView otherLanguage(const QString &productCode)
+{
+    return isForC(productCode) ? "C++"_L1 : "C"_L1;
 }
 
 } // namespace
 
 bool isOffered(const QString &name, const QString &productCode)
 {
-    const QLatin1String other = otherLanguage(productCode);
-    return name != other && !name.endsWith(QLatin1String("- ") + other);
+    const QLatin1StringView other = otherLanguage(productCode);
+    return name != other && !name.endsWith("- "_L1 + other);
 }
 
-bool conflictsWith(const QString &name, const QString &productCode)
+QString conflictWith(const QString &name, const QString &productCode)
 {
-    return name.endsWith(otherLanguage(productCode));
+    if (!name.endsWith(otherLanguage(productCode)))
+        return QString();
+    return isForC(productCode)
+             ? u"You have selected KOV for a currently selected C++ execution command.\n"
+               "Please reselect the Exe Command below."_s
+             : u"You have selected KOV++ for a currently selected C execution command.\n"
+               "Please reselect the Exe Command below."_s;
 }

@@ -8,6 +8,6 @@
 /// "C++" nor those that end with "- C++", under "kovpp" likewise "C" and "- C".
 bool isOffered(const QString &name, const QString &productCode);
 
-/// Whether the chosen compiler \a name is of the other language than the product: under "kov" it
-/// ends with "C++", under "kovpp" with a capital "C".
-bool conflictsWith(const QString &name, const QString &productCode);
+/// What to say when the chosen compiler \a name is of the other language than the product: under
+/// "kov" when it ends with "C++", under "kovpp" with a capital "C". Otherwise an empty text.
+QString conflictWith(const QString &name, const QString &productCode);

@@ -1,4 +1,4 @@
-#include "catalogue/save_compiler_details.h"
+#include "save_compiler_details.h"
 
 #include <QComboBox>
 #include <QEvent>
@@ -8,9 +8,11 @@
 #include <QRadioButton>
 #include <QShowEvent>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString caption = QStringLiteral("Save Compiler Details");
+const QString caption = u"Save Compiler Details"_s;
 
 /// Makes the last of \a list's items from \a firstItem on that equals \a text current.
 void selectLast(QComboBox *list, const QString &text, int firstItem)
@@ -133,14 +135,14 @@ QString SaveCompilerDetails::withLanguage(const QString &name) const
     if (BothRadioButton->isChecked())
         return name;
     const QString language = QLatin1String(CRadioButton->isChecked() ? "C" : "C++");
-    return name.isEmpty() ? language : name + QLatin1String(" - ") + language;
+    return name.isEmpty() ? language : name + " - "_L1 + language;
 }
 
 bool SaveCompilerDetails::contradictsLanguage(const QString &name) const
 {
-    const bool namesC = name == QLatin1String("C");
-    const bool namesCpp = name == QLatin1String("C++");
-    const bool spellsCpp = name == QLatin1String("Cpp") || name == QLatin1String("CPP");
+    const bool namesC = name == "C"_L1;
+    const bool namesCpp = name == "C++"_L1;
+    const bool spellsCpp = name == "Cpp"_L1 || name == "CPP"_L1;
     if (CPPRadioButton->isChecked())
         return namesC;
     if (CRadioButton->isChecked())
@@ -180,21 +182,20 @@ void SaveCompilerDetails::accept()
 
     bool accepted = true;
     if (family.isEmpty() && name.isEmpty()) {
-        accepted =
-            showProblem(QStringLiteral("Compiler Family and Compiler Name cannot be empty."));
+        accepted = showProblem(u"Compiler Family and Compiler Name cannot be empty."_s);
     } else if (isListed || findRecord(compilers, family, savedName)) {
-        accepted = isConfirmed(
-            QStringLiteral("Compiler Family and Compiler Name match an existing compiler, do you "
-                           "want to overwrite this?"));
+        accepted =
+            isConfirmed(u"Compiler Family and Compiler Name match an existing compiler, do you "
+                        "want to overwrite this?"_s);
     } else if (BothRadioButton->isChecked() && name.isEmpty()) {
-        accepted = showProblem(
-            QStringLiteral("Compiler Name cannot be empty if language: Both is selected."));
+        accepted = showProblem(u"Compiler Name cannot be empty if language: Both is selected."_s);
     }
     if (contradictsLanguage(name)) {
-        accepted &= isConfirmed(QStringLiteral(
-            "Compiler Name provided does not match the language selected,\nor describes a specific "
+        accepted &= isConfirmed(
+            u"Compiler Name provided does not match the language selected,\nor describes a "
+            u"specific "
             "language when 'Both' is selected.\n\nIt is advisabe to ensure that the compiler name "
-            "reflects the language. Are you sure you wish to continue with this name?"));
+            "reflects the language. Are you sure you wish to continue with this name?"_s);
     }
     resultFamily = family;
     resultName = savedName;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "catalogue/compiler_catalogue.h"
-#include "forms/save_compiler_details_base.h"
+#include "compiler_catalogue.h"
+#include "save_compiler_details_base.h"
 
 /// Asks under which family and name a compiler is saved: over a known one, or as a new one.
 class SaveCompilerDetails : public SaveCompilerDetailsBase

@@ -1,7 +1,8 @@
-#include "catalogue/sub_popup_menu.h"
+#include "sub_popup_menu.h"
 
-#include "app/calyx.h"
-#include "catalogue/product_language.h"
+#include "product_language.h"
+
+using namespace Qt::StringLiterals;
 
 SubPopupMenu::SubPopupMenu()
 {
@@ -36,5 +37,5 @@ void SubPopupMenu::slot_activated(int id)
 
 QString menuText(QString name)
 {
-    return name.replace(QLatin1Char('&'), QLatin1String("&&"));
+    return name.replace(u'&', "&&"_L1);
 }

@@ -2,7 +2,17 @@
 
 #include <QMenu>
 
-class Calyx;
+/// Who is told which compiler of the menu has been chosen. That is the wizard, of which this folder
+/// knows no more: the wizard stands above it.
+class CompilerMenuOwner
+{
+public:
+    /// Both texts are those of the catalogue.
+    virtual void applyCatalogueCompiler(QString family, QString name) = 0;
+
+protected:
+    ~CompilerMenuOwner() = default;
+};
 
 /// The compilers of one family, as a sub-menu of the Exe Command menu.
 class SubPopupMenu : public QMenu
@@ -12,7 +22,7 @@ class SubPopupMenu : public QMenu
 public:
     SubPopupMenu();
 
-    Calyx *owner = nullptr; ///< is told which compiler has been chosen
+    CompilerMenuOwner *owner = nullptr;
     QString family;
 
     /// Adds the compiler \a name at the end. It is shown as it is, and has no shortcut.

@@ -1,7 +1,7 @@
-#include "forms/calyx_base.h"
+#include "calyx_base.h"
 
-#include "forms/form_table.h"
-#include "forms/log_browser.h"
+#include "form_table.h"
+#include "log_browser.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
@@ -14,6 +14,8 @@
 #include <QRadioButton>
 #include <QStyledItemDelegate>
 #include <QTextEdit>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -61,20 +63,11 @@ const Place lineLeftOfSideBar {{521, 36, 20, 324}, SetUp::SeparatorLine};
 const Place lineRightOfContent {{532, 32, 20, 328}, SetUp::SeparatorLine};
 const Place lineAtRightEdge {{746, 32, 20, 328}, SetUp::SeparatorLine};
 
-enum Step { ProductStep, CompilerStep, SearchStep, DefinesStep, ReviewStep };
-using StepImages = QPixmap CalyxBase::*[5];
-
-const StepImages on {&CalyxBase::productOnImage, &CalyxBase::compilerOnImage,
-                     &CalyxBase::searchOnImage, &CalyxBase::definesOnImage,
-                     &CalyxBase::reviewOnImage};
-const StepImages off {&CalyxBase::productOffImage, &CalyxBase::compilerOffImage,
-                      &CalyxBase::searchOffImage, &CalyxBase::definesOffImage,
-                      &CalyxBase::reviewOffImage};
-
-Place stepButton(const StepImages &images, Step step)
+/// The place of a button of the side bar; it is given its image together with the others.
+Place sideBarButton(int step)
 {
     return {QRect(560, 40 + 40 * step, 190, 31),
-            SetUp::Flat | SetUp::WhiteBackground | SetUp::MouseTracking, images[step]};
+            SetUp::Flat | SetUp::WhiteBackground | SetUp::MouseTracking};
 }
 
 const WidgetRow<CalyxBase> page0Widgets[] = {
@@ -85,8 +78,8 @@ const WidgetRow<CalyxBase> page0Widgets[] = {
     {ROW(pixmapLabel3_2), bannerRight},
     {ROW(pixmapLabel3_3), bandLeft},
     {ROW(pixmapLabel3_3_2), bandRight},
-    {ROW(P0_PrdctBtn), stepButton(on, ProductStep)},
-    {ROW(P0_RevBtn), stepButton(off, ReviewStep)},
+    {ROW(P0_PrdctBtn), sideBarButton(0)},
+    {ROW(P0_RevBtn), sideBarButton(4)},
     {ROW(line1), lineAtLeftEdge},
     {ROW(PersonDestEdit), {{150, 272, 290, 25}}},
     {ROW(PersonNameEdit), {{150, 310, 290, 25}}},
@@ -96,9 +89,9 @@ const WidgetRow<CalyxBase> page0Widgets[] = {
     {ROW(textLabel1_3), {{10, 10, 461, 21}, SetUp::Welcome}, "groupBox1"},
     {ROW(textLabel1), {{20, 272, 125, 20}}},
     {ROW(textLabel1_2), {{20, 310, 125, 20}}},
-    {ROW(P0_CmpBtn), stepButton(off, CompilerStep)},
-    {ROW(P0_DefBtn), stepButton(off, DefinesStep)},
-    {ROW(P0_SrchBtn), stepButton(off, SearchStep)},
+    {ROW(P0_CmpBtn), sideBarButton(1)},
+    {ROW(P0_DefBtn), sideBarButton(3)},
+    {ROW(P0_SrchBtn), sideBarButton(2)},
     {ROW(DestErrorLabel),
      {{150, 340, 370, 16}, SetUp::ErrorText | SetUp::Wrapped | SetUp::LiteralText}},
     {ROW(buttonGroup1), {{60, 200, 390, 20}}},
@@ -114,9 +107,9 @@ const WidgetRow<CalyxBase> page1Widgets[] = {
     {ROW(line1_3), lineAtLeftEdge},
     {ROW(line1_2_2_2_2), lineAtRightEdge},
     {ROW(pixmapLabel5_2), logo},
-    {ROW(P1_PrdctBtn), stepButton(off, ProductStep)},
-    {ROW(P1_CmpBtn), stepButton(on, CompilerStep)},
-    {ROW(P1_RevBtn), stepButton(off, ReviewStep)},
+    {ROW(P1_PrdctBtn), sideBarButton(0)},
+    {ROW(P1_CmpBtn), sideBarButton(1)},
+    {ROW(P1_RevBtn), sideBarButton(4)},
     {ROW(pixmapLabel3_4), bannerLeft},
     {ROW(pixmapLabel3_2_2), bannerRight},
     {ROW(pixmapLabel3_3_3), bandLeft},
@@ -142,8 +135,8 @@ const WidgetRow<CalyxBase> page1Widgets[] = {
     {ROW(groupBox1_2), {{20, 40, 500, 65}}},
     {ROW(textLabel2_2), {{10, 5, 481, 55}, SetUp::Wrapped}, "groupBox1_2"},
     {ROW(textLabel4_2_2_3), {{30, 290, 100, 40}, SetUp::TopAligned}},
-    {ROW(P1_DefBtn), stepButton(off, DefinesStep)},
-    {ROW(P1_SrchBtn), stepButton(off, SearchStep)},
+    {ROW(P1_DefBtn), sideBarButton(3)},
+    {ROW(P1_SrchBtn), sideBarButton(2)},
     {ROW(CmpOrderListBox), {{320, 170, 120, 120}}},
     {ROW(CmpDefFlagChkBox), {{214, 212, 20, 20}}},
     {ROW(ReduceFileSizeCheckBox), {{214, 295, 100, 20}}},
@@ -159,9 +152,9 @@ const WidgetRow<CalyxBase> page2Widgets[] = {
     {ROW(line1_5), lineAtLeftEdge},
     {ROW(line1_2_2_2_4), lineAtRightEdge},
     {ROW(pixmapLabel5_4), logo},
-    {ROW(P3_PrdctBtn), stepButton(off, ProductStep)},
-    {ROW(P3_CmpBtn), stepButton(off, CompilerStep)},
-    {ROW(P3_RevBtn), stepButton(off, ReviewStep)},
+    {ROW(P3_PrdctBtn), sideBarButton(0)},
+    {ROW(P3_CmpBtn), sideBarButton(1)},
+    {ROW(P3_RevBtn), sideBarButton(4)},
     {ROW(pixmapLabel3_4_2_2), bannerLeft},
     {ROW(pixmapLabel3_2_2_2_2), bannerRight},
     {ROW(pixmapLabel3_3_3_2_2), bandLeft},
@@ -174,8 +167,8 @@ const WidgetRow<CalyxBase> page2Widgets[] = {
     {ROW(SearchCompileCmdTxt), {{20, 155, 500, 20}, SetUp::LiteralText}},
     {ROW(groupBox1_2_2_2), {{20, 40, 500, 90}}},
     {ROW(textLabel2_2_2_2), {{10, 5, 481, 60}, SetUp::Wrapped}, "groupBox1_2_2_2"},
-    {ROW(P3_DefBtn), stepButton(off, DefinesStep)},
-    {ROW(P3_SrchBtn), stepButton(on, SearchStep)},
+    {ROW(P3_DefBtn), sideBarButton(3)},
+    {ROW(P3_SrchBtn), sideBarButton(2)},
 };
 
 const WidgetRow<CalyxBase> page3Widgets[] = {
@@ -185,9 +178,9 @@ const WidgetRow<CalyxBase> page3Widgets[] = {
     {ROW(line1_4), lineAtLeftEdge},
     {ROW(line1_2_2_2_3), lineAtRightEdge},
     {ROW(pixmapLabel5_3), logo},
-    {ROW(P2_PrdctBtn), stepButton(off, ProductStep)},
-    {ROW(P2_CmpBtn), stepButton(off, CompilerStep)},
-    {ROW(P2_RevBtn), stepButton(off, ReviewStep)},
+    {ROW(P2_PrdctBtn), sideBarButton(0)},
+    {ROW(P2_CmpBtn), sideBarButton(1)},
+    {ROW(P2_RevBtn), sideBarButton(4)},
     {ROW(pixmapLabel3_4_2), bannerLeft},
     {ROW(pixmapLabel3_2_2_2), bannerRight},
     {ROW(pixmapLabel3_3_3_2), bandLeft},
@@ -195,8 +188,8 @@ const WidgetRow<CalyxBase> page3Widgets[] = {
     {ROW(groupBox1_2_2), {{20, 40, 500, 55}}},
     {ROW(textLabel2_2_2), {{10, 5, 481, 45}, SetUp::Wrapped}, "groupBox1_2_2"},
     {ROW(DefSwitchCompileCmdTxt), {{20, 100, 500, 20}, SetUp::LiteralText}},
-    {ROW(P2_DefBtn), stepButton(on, DefinesStep)},
-    {ROW(P2_SrchBtn), stepButton(off, SearchStep)},
+    {ROW(P2_DefBtn), sideBarButton(3)},
+    {ROW(P2_SrchBtn), sideBarButton(2)},
     {ROW(textLabel4_3), {{20, 125, 210, 20}}},
     {ROW(CmpSwtchEdit), {{20, 145, 340, 90}}},
     {ROW(textLabel4), {{20, 237, 210, 20}}},
@@ -211,16 +204,16 @@ const WidgetRow<CalyxBase> page4Widgets[] = {
     {ROW(pixmapLabel5_5), logo},
     {ROW(SaveLogBtn), {{420, 320, 100, 31}, SetUp::WhiteBackground | SetUp::Disabled}},
     {ROW(DetailsText), {{20, 40, 390, 310}}},
-    {ROW(P4_PrdctBtn), stepButton(off, ProductStep)},
-    {ROW(P4_CmpBtn), stepButton(off, CompilerStep)},
-    {ROW(P4_RevBtn), stepButton(on, ReviewStep)},
+    {ROW(P4_PrdctBtn), sideBarButton(0)},
+    {ROW(P4_CmpBtn), sideBarButton(1)},
+    {ROW(P4_RevBtn), sideBarButton(4)},
     {ROW(pixmapLabel3_4_2_3), bannerLeft},
     {ROW(pixmapLabel3_2_2_2_3), bannerRight},
     {ROW(pixmapLabel3_3_3_2_3), bandLeft},
     {ROW(pixmapLabel3_3_2_2_2_3), bandRight},
     {ROW(AddCompilerBtn), {{420, 280, 100, 31}, SetUp::WhiteBackground | SetUp::Disabled}},
-    {ROW(P4_DefBtn), stepButton(off, DefinesStep)},
-    {ROW(P4_SrchBtn), stepButton(off, SearchStep)},
+    {ROW(P4_DefBtn), sideBarButton(3)},
+    {ROW(P4_SrchBtn), sideBarButton(2)},
 };
 
 struct Page
@@ -362,22 +355,6 @@ const TextRow texts[] = {
     {"AddCompilerBtn", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Save Compiler")}},
 };
 
-const char *const sideBarPrefixes[] = {"P0_", "P1_", "P2_", "P3_", "P4_"};
-
-struct SideBarName
-{
-    const char *ending; ///< of the button's object name
-    const char *accessibleName;
-};
-
-const SideBarName sideBarNames[] = {
-    {"PrdctBtn", QT_TRANSLATE_NOOP("CalyxBase", "Product & Output")},
-    {"CmpBtn", QT_TRANSLATE_NOOP("CalyxBase", "Compiler Command")},
-    {"SrchBtn", QT_TRANSLATE_NOOP("CalyxBase", "Search Directories")},
-    {"DefBtn", QT_TRANSLATE_NOOP("CalyxBase", "Defines & Switches")},
-    {"RevBtn", QT_TRANSLATE_NOOP("CalyxBase", "Review")},
-};
-
 const char *const orderItems[] = {
     QT_TRANSLATE_NOOP("CalyxBase", "Exe Command"), QT_TRANSLATE_NOOP("CalyxBase", "Output Flag"),
     QT_TRANSLATE_NOOP("CalyxBase", "<exe file>"),  QT_TRANSLATE_NOOP("CalyxBase", "Define Flag"),
@@ -494,7 +471,7 @@ CalyxBase::CalyxBase(QWidget *parent, const char *name, bool modal, Qt::WindowFl
     : SteppedWizard(parent, flags)
 {
     for (const ImageFile &file : imageFiles)
-        this->*file.image = QPixmap(QStringLiteral(":/images/") + QLatin1String(file.name));
+        this->*file.image = QPixmap(u":/images/"_s + QLatin1String(file.name));
     setObjectName(QLatin1String(name ? name : "CalyxBase"));
     setModal(modal);
     setPalette(windowPalette());
@@ -504,7 +481,8 @@ CalyxBase::CalyxBase(QWidget *parent, const char *name, bool modal, Qt::WindowFl
     languageChange();
     resize(QSize(768, 455).expandedTo(minimumSizeHint()));
     for (std::size_t i = 1; i < std::size(tabOrder); ++i)
-        setTabOrder(findChild<QWidget *>(tabOrder[i - 1]), findChild<QWidget *>(tabOrder[i]));
+        setTabOrder(findChild<QWidget *>(QLatin1StringView(tabOrder[i - 1])),
+                    findChild<QWidget *>(QLatin1StringView(tabOrder[i])));
     // The first page is current before the window is shown, so that showing it does not go back
     // there once another page has been chosen.
     restart();
@@ -520,6 +498,7 @@ void CalyxBase::createPages()
         createWidgets(this, page, row.widgets);
         addPage(page);
     }
+    sideBar.showBuiltInImages();
     Page4->setComplete(false);
     CmpOrderListBox->setItemDelegate(new OrderItemDelegate(CmpOrderListBox));
     for (QTextEdit *edit : {CmpSwtchEdit, CmpDefEdit}) {
@@ -535,14 +514,7 @@ void CalyxBase::languageChange()
     CmpOrderListBox->clear();
     for (const char *item : orderItems)
         CmpOrderListBox->addItem(QLatin1String(item));
-    for (const char *prefix : sideBarPrefixes) {
-        for (const SideBarName &row : sideBarNames) {
-            auto *button =
-                findChild<QPushButton *>(QLatin1String(prefix) + QLatin1String(row.ending));
-            button->setAccessibleName(QCoreApplication::translate("CalyxBase", row.accessibleName));
-            button->setShortcut(QKeySequence());
-        }
-    }
+    sideBar.setTexts();
     for (QPushButton *button : {SaveLogBtn, AddCompilerBtn})
         button->setShortcut(QKeySequence());
     for (const Page &row : pages)

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "forms/stepped_wizard.h"
+#include "side_bar.h"
+#include "stepped_wizard.h"
 
 #include <QPixmap>
 
@@ -82,6 +83,8 @@ public:
     QPushButton *SaveLogBtn, *P4_PrdctBtn, *P4_CmpBtn, *P4_RevBtn, *AddCompilerBtn, *P4_DefBtn,
         *P4_SrchBtn;
     LogBrowser *DetailsText;
+
+    SideBar sideBar {*this};
 
 protected slots:
     /// Sets every visible text, tool tip and accessible name, and restores the default command

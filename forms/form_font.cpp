@@ -1,9 +1,11 @@
-#include "forms/form_font.h"
+#include "form_font.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QGuiApplication>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -19,7 +21,8 @@ bool isTooLarge(const QFont &font)
 {
     const QFontMetricsF metrics(font);
     const int em = QFontInfo(font).pixelSize();
-    return metrics.horizontalAdvance("abcdefghijklmnopqrstuvwxyz") > alphabetInEms * tolerance * em
+    return metrics.horizontalAdvance(u"abcdefghijklmnopqrstuvwxyz"_s)
+             > alphabetInEms * tolerance * em
         || metrics.lineSpacing() > lineInEms * em + 1;
 }
 

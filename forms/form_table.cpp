@@ -1,6 +1,6 @@
-#include "forms/form_table.h"
+#include "form_table.h"
 
-#include "forms/colours.h"
+#include "colours.h"
 
 #include <QAbstractButton>
 #include <QCoreApplication>
@@ -83,6 +83,6 @@ void setTexts(QWidget *form, const char *context, std::span<const TextRow> rows)
         const QString text = *source.text ? QCoreApplication::translate(context, source.text,
                                                                         source.translationComment)
                                           : QString();
-        form->findChild<QWidget *>(row.widget)->setProperty(row.property, text);
+        form->findChild<QWidget *>(QLatin1StringView(row.widget))->setProperty(row.property, text);
     }
 }

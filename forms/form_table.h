@@ -80,7 +80,8 @@ template <typename Form>
 void createWidgets(Form *form, QWidget *page, std::span<const WidgetRow<Form>> rows)
 {
     for (const WidgetRow<Form> &row : rows) {
-        QWidget *parent = row.parent ? page->findChild<QWidget *>(row.parent) : page;
+        QWidget *parent =
+            row.parent ? page->findChild<QWidget *>(QLatin1StringView(row.parent)) : page;
         const Placement<Form> &placement = row.placement;
         setUpWidget(row.create(form, parent), row.name, placement.rectangle, placement.setUps,
                     placement.image ? &(form->*placement.image) : nullptr);

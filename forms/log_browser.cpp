@@ -1,23 +1,44 @@
-#include "forms/log_browser.h"
+#include "log_browser.h"
 
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
 
+namespace {
+
+// A line is laid out anew with every read that makes it longer, so that one without end would
+// freeze the window; beyond this many characters it is shown in pieces.
+const int longestLine = 8'000;
+
+} // namespace
+
 LogBrowser::LogBrowser(QWidget *parent) : QTextBrowser(parent) { }
 
 void LogBrowser::setText(const QString &text)
 {
+    m_lineIsUnfinished = false;
     setPlainText(text);
 }
 
 void LogBrowser::append(const QString &text)
 {
+    m_lineIsUnfinished = false;
     const bool lastParagraphIsEmpty = document()->lastBlock().length() <= 1;
-    continueLine(lastParagraphIsEmpty ? text : QLatin1Char('\n') + text);
+    insertAtEnd(lastParagraphIsEmpty ? text : u'\n' + text);
 }
 
-void LogBrowser::continueLine(const QString &text)
+void LogBrowser::write(const QString &output)
+{
+    if (output.isEmpty())
+        return;
+    if (m_lineIsUnfinished)
+        insertAtEnd(output);
+    else
+        append(output);
+    m_lineIsUnfinished = !output.endsWith(u'\n') && document()->lastBlock().length() < longestLine;
+}
+
+void LogBrowser::insertAtEnd(const QString &text)
 {
     // A reader who has scrolled back keeps the place; at the end the text scrolls along.
     QScrollBar *scrollBar = verticalScrollBar();

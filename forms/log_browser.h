@@ -15,6 +15,12 @@ public:
     /// Adds \a text as a new paragraph, or in the last one when that is still empty, so that text
     /// that ends with a line feed leaves no empty line before what is appended next.
     void append(const QString &text);
-    /// Adds \a text right behind the last character.
-    void continueLine(const QString &text);
+    /// Adds output as it comes: to the line that the last write() has begun, or as append() does
+    /// where that had an end.
+    void write(const QString &output);
+
+private:
+    void insertAtEnd(const QString &text);
+
+    bool m_lineIsUnfinished = false;
 };

@@ -1,7 +1,7 @@
-#include "forms/save_compiler_details_base.h"
+#include "save_compiler_details_base.h"
 
-#include "forms/colours.h"
-#include "forms/form_table.h"
+#include "colours.h"
+#include "form_table.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
@@ -10,6 +10,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -101,9 +103,8 @@ QString translated(const char *text)
 
 SaveCompilerDetailsBase::SaveCompilerDetailsBase(QWidget *parent, const char *name, bool,
                                                  Qt::WindowFlags flags)
-    : QDialog(parent, flags), iconImage(QStringLiteral(":/images/icon.png")),
-      bannerLeftImage(QStringLiteral(":/images/bannerLeft.xpm")),
-      bandLeftImage(QStringLiteral(":/images/bandLeft.xpm"))
+    : QDialog(parent, flags), iconImage(u":/images/icon.png"_s),
+      bannerLeftImage(u":/images/bannerLeft.xpm"_s), bandLeftImage(u":/images/bandLeft.xpm"_s)
 {
     setObjectName(QLatin1String(name ? name : "SaveCompilerDetailsBase"));
     setBackgroundColour(this, Qt::white);

@@ -1,14 +1,16 @@
-#include "forms/stepped_wizard.h"
+#include "stepped_wizard.h"
 
 #include <QAbstractButton>
 #include <QProxyStyle>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 class FormStyle : public QProxyStyle
 {
 public:
-    FormStyle() : QProxyStyle(QStringLiteral("windows")) { }
+    FormStyle() : QProxyStyle(u"windows"_s) { }
 
     // The pages have fixed sizes and bring their own margins, so the wizard's own layout must leave
     // them 760 of 768 pixels.

@@ -6,3 +6,12 @@
 /// begins with one (up to its end when there is no second quote), else the text before the first
 /// space.
 QString commandWord(const QString &commandLine);
+
+enum class CommandState {
+    Valid,
+    NotOnPath,  ///< its program is not found
+    Incomplete, ///< its program is found, but a "<specify ...>" of the catalogue is left in it
+};
+
+/// Whether \a commandLine, which is not empty, can be used.
+CommandState checkCommand(const QString &commandLine);

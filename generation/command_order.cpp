@@ -1,51 +1,50 @@
-#include "generation/command_order.h"
+#include "command_order.h"
+
+#include "order_tokens.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 struct OrderItem
 {
-    const char *text;
-    char letter;                        ///< of its token
-    QString CompileCommand::*value;     ///< null: the item's own text stands for it
-    bool CompileCommand::*spaceFollows; ///< null: always
-    const char *example;                ///< what the preview shows behind the value
+    QLatin1StringView text;
+    CommandPart part;
+    QString Answers::*value = nullptr;     ///< null: the item's own text stands for it
+    bool Answers::*spaceFollows = nullptr; ///< null: always
+    QLatin1StringView example = {};        ///< what the preview shows behind the value
 };
 
 const OrderItem orderItems[] = {
-    {"Exe Command", 'c', &CompileCommand::command, nullptr, ""},
-    {"Output Flag", 'o', &CompileCommand::outputFlag, &CompileCommand::spaceAfterOutputFlag, ""},
-    {"<exe file>", 'e', nullptr, nullptr, ""},
-    {"Define Flag", 'd', &CompileCommand::defineFlag, &CompileCommand::spaceAfterDefineFlag,
-     "XXX "},
-    {"Object Flag", 'j', &CompileCommand::objectFlag, nullptr, ""},
-    {"<src file>", 's', nullptr, nullptr, ""},
+    {"Exe Command"_L1, CommandPart::Command, &Answers::command},
+    {"Output Flag"_L1, CommandPart::OutputFlag, &Answers::outputFlag,
+     &Answers::spaceAfterOutputFlag},
+    {"<exe file>"_L1, CommandPart::OutputFile},
+    {"Define Flag"_L1, CommandPart::DefineFlag, &Answers::defineFlag,
+     &Answers::spaceAfterDefineFlag, "XXX "_L1},
+    {"Object Flag"_L1, CommandPart::ObjectFlag, &Answers::objectFlag},
+    {"<src file>"_L1, CommandPart::Source},
 };
 
-// Where a token holds more than one letter, the first of these counts.
-const char lettersInOrderOfReading[] = "cjdoes";
-const int sectionsRead = 7;
-
-const OrderItem *findItem(const QString &text)
+/// The item called \a text, or null.
+const OrderItem *itemCalled(const QString &text)
 {
-    for (const OrderItem &item : orderItems) {
-        if (text == QLatin1String(item.text))
-            return &item;
-    }
-    return nullptr;
+    const auto found = std::find_if(std::begin(orderItems), std::end(orderItems),
+                                    [&text](const OrderItem &item) { return item.text == text; });
+    return found == std::end(orderItems) ? nullptr : found;
 }
 
-const OrderItem *findItem(char letter)
+const OrderItem &itemOf(CommandPart part)
 {
-    for (const OrderItem &item : orderItems) {
-        if (item.letter == letter)
-            return &item;
-    }
-    return nullptr;
+    return *std::find_if(std::begin(orderItems), std::end(orderItems),
+                         [part](const OrderItem &item) { return item.part == part; });
 }
 
-QLatin1String space(const OrderItem &item, const CompileCommand &command)
+bool spaceFollows(const OrderItem &item, const Answers &answers)
 {
-    return QLatin1String(!item.spaceFollows || command.*item.spaceFollows ? " " : "");
+    return !item.spaceFollows || answers.*item.spaceFollows;
 }
 
 } // namespace
@@ -54,59 +53,41 @@ QStringList defaultOrder()
 {
     QStringList order;
     for (const OrderItem &item : orderItems)
-        order << QLatin1String(item.text);
+        order << item.text;
     return order;
 }
 
-QString commandPreview(const CompileCommand &command)
+QString commandPreview(const Answers &answers)
 {
     QString preview;
-    for (const QString &row : command.order) {
-        const OrderItem *item = findItem(row);
-        if (!item) {
-            preview += row + QLatin1Char(' ');
-            continue;
-        }
-        preview += item->value ? command.*item->value : row;
-        preview += space(*item, command) + QLatin1String(item->example);
+    for (const QString &row : answers.order) {
+        const OrderItem *item = itemCalled(row);
+        preview += item && item->value ? answers.*item->value : row;
+        if (!item || spaceFollows(*item, answers))
+            preview += u' ';
+        if (item)
+            preview += item->example;
     }
     return preview;
 }
 
-QString commandOrderString(const CompileCommand &command)
+QString commandOrderString(const Answers &answers)
 {
-    QString tokens;
-    for (const QString &row : command.order) {
-        if (const OrderItem *item = findItem(row))
-            tokens += QStringLiteral("%") + QLatin1Char(item->letter) + space(*item, command);
+    QList<OrderToken> tokens;
+    for (const QString &row : answers.order) {
+        if (const OrderItem *item = itemCalled(row))
+            tokens.append({item->part, spaceFollows(*item, answers)});
     }
-    return tokens;
+    return orderString(tokens);
 }
 
-StoredOrder parseOrderString(const QString &tokens)
+void applyOrderString(Answers &answers, const QString &order)
 {
-    StoredOrder stored;
-    for (int index = 0; index < sectionsRead; ++index) {
-        const QString section = tokens.section(QLatin1Char('%'), index, index);
-        const OrderItem *item = nullptr;
-        for (const char *letter = lettersInOrderOfReading; *letter && !item; ++letter) {
-            if (section.contains(QLatin1Char(*letter)))
-                item = findItem(*letter);
-        }
-        if (!item)
-            continue;
-        stored.order << QLatin1String(item->text);
-        const bool spaceFollows = section.endsWith(QLatin1Char(' '));
-        if (item->letter == 'o')
-            stored.spaceAfterOutputFlag = spaceFollows;
-        else if (item->letter == 'd')
-            stored.spaceAfterDefineFlag = spaceFollows;
+    answers.order.clear();
+    for (const OrderToken &token : parseOrderString(order)) {
+        const OrderItem &item = itemOf(token.part);
+        answers.order << item.text;
+        if (item.spaceFollows)
+            answers.*item.spaceFollows = token.spaceFollows;
     }
-    return stored;
-}
-
-QString toCommaList(QString lines)
-{
-    return lines.replace(QLatin1Char('\n'), QLatin1Char(','))
-        .replace(QLatin1String(",,"), QLatin1String(","));
 }

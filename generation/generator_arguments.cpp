@@ -1,8 +1,12 @@
-#include "generation/generator_arguments.h"
+#include "generator_arguments.h"
+
+#include "answer_table.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
-
-const QLatin1Char backslash('\\');
 
 // What the local encoding lacks does not survive in a file name that other programs must open.
 QString inLocalEncoding(const QString &text)
@@ -10,63 +14,51 @@ QString inLocalEncoding(const QString &text)
     return QString::fromLocal8Bit(text.toLocal8Bit());
 }
 
-QString quoted(const QString &command)
-{
-    const QLatin1Char quote('"');
-    if (!command.contains(QLatin1Char(' ')) || command.startsWith(quote) || command.endsWith(quote))
-        return command;
-    return quote + command + quote;
-}
-
-QString withDot(const QString &extension)
-{
-    return extension.isEmpty() || extension.startsWith(QLatin1Char('.'))
-             ? extension
-             : QLatin1Char('.') + extension;
-}
-
-QString withExtension(const QString &name, QLatin1String extension)
-{
-    return name.endsWith(extension) ? name : name + extension;
-}
-
-QStringList option(const char *flag, const QString &value)
-{
-    return value.isEmpty() ? QStringList() : QStringList {QLatin1String(flag), value};
-}
-
-QString inFolder(const char *folder, const QString &file)
-{
-    if (file.isEmpty() || file.contains(backslash))
-        return file;
-    return QLatin1String("..\\") + QLatin1String(folder) + backslash + file;
-}
-
 } // namespace
 
 QStringList generatorArguments(const Answers &answers)
 {
-    const CompileCommand &compile = answers.compile;
-    QStringList arguments {QStringLiteral("Bexlor.exe"),
-                           answers.productCode,
-                           answers.crossCompiler ? QStringLiteral("ccmp") : QStringLiteral("cmp"),
-                           quoted(compile.command),
-                           compile.outputFlag,
-                           compile.objectFlag,
-                           compile.defineFlag,
-                           inLocalEncoding(withDot(answers.objectExtension)),
-                           commandOrderString(compile)};
-    for (const QString &directory : answers.headerDirectories)
-        arguments << QStringLiteral("-i") << directory;
-    arguments << QStringLiteral("-op")
-              << answers.destination + backslash
-                     + inLocalEncoding(withExtension(answers.name, QLatin1String(".p_c")));
-    arguments << option("-xd", toCommaList(answers.defines))
-              << option("-xs", toCommaList(answers.switches))
-              << option("-tpl", inFolder("TemplatePersonalities", answers.templatePersonalityFile))
-              << option("-fi", inFolder("ForceIncludeFiles", answers.forceIncludeFile))
-              << option("-sub", inFolder("SubstituteHeaders", answers.substituteHeaders));
-    if (answers.reduceFileSize)
-        arguments << QStringLiteral("-rfs");
-    return arguments;
+    QList<const AnswerField *> passed;
+    for (const AnswerField &field : answerTable()) {
+        if (field.arguments)
+            passed << &field;
+    }
+    std::sort(passed.begin(), passed.end(), [](const AnswerField *a, const AnswerField *b) {
+        return a->argumentPlace < b->argumentPlace;
+    });
+    QStringList list {generator::program};
+    for (const AnswerField *field : passed)
+        list << field->arguments(answers);
+    return list;
+}
+
+QString quotedCommand(const QString &command)
+{
+    const QChar quote(u'"');
+    const bool needsQuotes =
+        command.contains(u' ') && !command.startsWith(quote) && !command.endsWith(quote);
+    return needsQuotes ? quote + command + quote : command;
+}
+
+QString withDot(const QString &extension)
+{
+    const bool lacksDot = !extension.isEmpty() && !extension.startsWith(u'.');
+    return inLocalEncoding(lacksDot ? u'.' + extension : extension);
+}
+
+QString personalityPath(const QString &destination, const QString &name)
+{
+    const QLatin1StringView extension(".p_c");
+    return destination + u'\\'
+         + inLocalEncoding(name.endsWith(extension) ? name : name + extension);
+}
+
+QString inFolder(QLatin1StringView folder, const QString &file)
+{
+    return file.isEmpty() || file.contains(u'\\') ? file : "..\\"_L1 + folder + u'\\' + file;
+}
+
+QStringList option(QLatin1StringView flag, const QString &value)
+{
+    return value.isEmpty() ? QStringList() : QStringList {flag, value};
 }

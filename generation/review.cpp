@@ -1,50 +1,40 @@
-#include "generation/review.h"
+#include "review.h"
 
-namespace {
+#include <algorithm>
 
-QString block(const QString &key, const QString &value)
+using namespace Qt::StringLiterals;
+
+void tidy(Answers &answers)
 {
-    return key + QLatin1Char('\n') + value + QLatin1String("\n\n");
+    for (const AnswerField &field : answerTable()) {
+        if (field.roles & AnswerField::Tidied)
+            field.setLines(answers, {field.lines(answers).first().simplified()});
+    }
 }
 
-QString block(const QString &key, bool value)
+QString reviewText(const Answers &answers, AnswerField::Role role)
 {
-    return block(key, QLatin1String(value ? "Yes" : "No"));
-}
-
-QString block(const QString &key, const QStringList &rows)
-{
-    QString text = key + QLatin1Char('\n');
-    for (const QString &row : rows)
-        text += row + QLatin1Char('\n');
-    return text + QLatin1Char('\n');
-}
-
-} // namespace
-
-QString reviewText(const Answers &answers)
-{
-    const CompileCommand &compile = answers.compile;
-    return block(reviewKeys::product, answers.productCode)
-         + block(reviewKeys::destination, answers.destination)
-         + block(reviewKeys::name, answers.name) + block(reviewKeys::command, compile.command)
-         + block(reviewKeys::crossCompiler, answers.crossCompiler)
-         + block(reviewKeys::outputFlag, compile.outputFlag)
-         + block(reviewKeys::objectFlag, compile.objectFlag)
-         + block(reviewKeys::defineFlag, compile.defineFlag)
-         + block(reviewKeys::objectExtension, answers.objectExtension)
-         + block(reviewKeys::reduceFileSize, answers.reduceFileSize)
-         + block(reviewKeys::headerDirectories, answers.headerDirectories)
-         + block(reviewKeys::defines, answers.defines)
-         + block(reviewKeys::switches, answers.switches);
+    QString text;
+    for (const AnswerField &field : answerTable()) {
+        if (field.roles & role)
+            text += reviewBlock(field.key, field.lines(answers));
+    }
+    return text;
 }
 
 QString shownOrder(const QString &preview)
 {
-    return block(reviewKeys::order, preview);
+    const auto fields = answerTable();
+    const auto order = std::find_if(fields.begin(), fields.end(), [](const AnswerField &field) {
+        return (field.roles & AnswerField::Kept) && !(field.roles & AnswerField::Shown);
+    });
+    return reviewBlock(order->key, {preview});
 }
 
-QString keptOrder(const Answers &answers)
+QString reviewBlock(QLatin1StringView heading, const QStringList &values)
 {
-    return block(reviewKeys::order, answers.compile.order);
+    QString text = heading + u'\n';
+    for (const QString &value : values)
+        text += value + u'\n';
+    return text + u'\n';
 }

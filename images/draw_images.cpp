@@ -26,6 +26,8 @@
 #include <map>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QColor ink(0x22, 0x27, 0x2b);
@@ -46,7 +48,7 @@ QImage blank(int width, int height, const QColor &background = Qt::white)
 
 QFont capitals(int pixelSize, qreal spacing)
 {
-    QFont font(QStringLiteral("Liberation Sans"));
+    QFont font(u"Liberation Sans"_s);
     font.setPixelSize(pixelSize);
     font.setBold(true);
     font.setLetterSpacing(QFont::AbsoluteSpacing, spacing);

@@ -1,4 +1,4 @@
-#include "platform/process_tree.h"
+#include "process_tree.h"
 
 #include <cerrno>
 #include <csignal>

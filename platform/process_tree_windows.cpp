@@ -1,4 +1,4 @@
-#include "platform/process_tree.h"
+#include "process_tree.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -6,6 +6,8 @@
 #include <array>
 #include <qt_windows.h>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace platform {
 
@@ -18,7 +20,7 @@ HANDLE lock = INVALID_HANDLE_VALUE;
 
 HANDLE openLock(const QString &folder, DWORD disposition)
 {
-    const QString path = QDir::toNativeSeparators(folder + QLatin1Char('/') + lockName);
+    const QString path = QDir::toNativeSeparators(folder + u'/' + lockName);
     return CreateFileW(reinterpret_cast<const wchar_t *>(path.utf16()), GENERIC_WRITE, 0, nullptr,
                        disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
 }
@@ -28,9 +30,9 @@ HANDLE openLock(const QString &folder, DWORD disposition)
 void removeAbandonedFolders(const QString &folder)
 {
     const QFileInfo own(folder);
-    const QString stem = own.fileName().section(QLatin1Char('-'), 0, -2);
+    const QString stem = own.fileName().section(u'-', 0, -2);
     const QDir parent = own.dir();
-    for (const QString &name : parent.entryList({stem + QLatin1String("-*")}, QDir::Dirs)) {
+    for (const QString &name : parent.entryList({stem + "-*"_L1}, QDir::Dirs)) {
         const QString path = parent.filePath(name);
         const HANDLE abandoned = openLock(path, OPEN_EXISTING);
         if (abandoned == INVALID_HANDLE_VALUE)
@@ -44,7 +46,7 @@ void removeAbandonedFolders(const QString &folder)
 /// name, and cannot start a script that lies, without an extension, beside a program.
 QString programFile(QString program)
 {
-    while (program.endsWith(QLatin1Char('.')) || program.endsWith(QLatin1Char(' ')))
+    while (program.endsWith(u'.') || program.endsWith(u' '))
         program.chop(1);
     if (QFileInfo(program).suffix().isEmpty()) {
         for (const char *extension : {".exe", ".com", ".bat", ".cmd"}) {
@@ -58,14 +60,14 @@ QString programFile(QString program)
 bool isBatchFile(const QString &program)
 {
     const QString suffix = QFileInfo(program).suffix().toLower();
-    return suffix == QLatin1String("bat") || suffix == QLatin1String("cmd");
+    return suffix == "bat"_L1 || suffix == "cmd"_L1;
 }
 
 QString commandInterpreter()
 {
     std::array<wchar_t, MAX_PATH> folder {};
     GetSystemDirectoryW(folder.data(), UINT(folder.size()));
-    return QString::fromWCharArray(folder.data()) + QLatin1String("\\cmd.exe");
+    return QString::fromWCharArray(folder.data()) + "\\cmd.exe"_L1;
 }
 
 // Stands for a percent sign in a command: what a variable holds is not looked through again.
@@ -77,21 +79,21 @@ const QLatin1String percentVariable("BEXLOR_PERCENT");
 /// backslashes before it are doubled.
 QString quotedForInterpreter(const QString &argument)
 {
-    static const QRegularExpression plainWord(QStringLiteral("^[A-Za-z0-9_.:/\\\\+-]+$"));
+    static const QRegularExpression plainWord(u"^[A-Za-z0-9_.:/\\\\+-]+$"_s);
     if (plainWord.match(argument).hasMatch())
         return argument;
-    QString quoted(QLatin1Char('"'));
+    QString quoted(u'"');
     int backslashes = 0;
     for (const QChar character : argument) {
-        if (character == QLatin1Char('"'))
-            quoted += QString(backslashes, QLatin1Char('\\')) + QLatin1String("\"\"");
-        else if (character == QLatin1Char('%'))
-            quoted += QLatin1Char('%') + percentVariable + QLatin1Char('%');
+        if (character == u'"')
+            quoted += QString(backslashes, u'\\') + "\"\""_L1;
+        else if (character == u'%')
+            quoted += u'%' + percentVariable + u'%';
         else
             quoted += character;
-        backslashes = character == QLatin1Char('\\') ? backslashes + 1 : 0;
+        backslashes = character == u'\\' ? backslashes + 1 : 0;
     }
-    return quoted + QString(backslashes, QLatin1Char('\\')) + QLatin1Char('"');
+    return quoted + QString(backslashes, u'\\') + u'"';
 }
 
 } // namespace
@@ -164,16 +166,15 @@ bool ProcessTree::start(const QStringList &command)
     QString line = quotedForInterpreter(QDir::toNativeSeparators(program));
     for (const QString &argument : command.mid(1)) {
         // A line feed ends the interpreter's command, whatever stands around it.
-        if (argument.contains(QLatin1Char('\n')) || argument.contains(QLatin1Char('\r')))
+        if (argument.contains(u'\n') || argument.contains(u'\r'))
             return false;
-        line += QLatin1Char(' ') + quotedForInterpreter(argument);
+        line += u' ' + quotedForInterpreter(argument);
     }
     QProcessEnvironment environment = m_process.processEnvironment();
-    environment.insert(percentVariable, QStringLiteral("%"));
+    environment.insert(percentVariable, u"%"_s);
     m_process.setProcessEnvironment(environment);
     // The interpreter takes the outermost quotation marks away.
-    m_process.setNativeArguments(QLatin1String("/e:on /v:off /d /s /c \"") + line
-                                 + QLatin1Char('"'));
+    m_process.setNativeArguments("/e:on /v:off /d /s /c \""_L1 + line + u'"');
     m_process.start(commandInterpreter(), QStringList());
     return m_process.waitForStarted();
 }

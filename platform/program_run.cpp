@@ -1,9 +1,11 @@
-#include "platform/program_run.h"
+#include "program_run.h"
 
-#include "platform/process_tree.h"
+#include "process_tree.h"
 
 #include <QDeadlineTimer>
 #include <QProcess>
+
+using namespace Qt::StringLiterals;
 
 namespace platform {
 
@@ -28,7 +30,7 @@ ProgramRun runProgram(const QStringList &command, const QString &directory, int 
         return run;
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    environment.insert(u"LC_ALL"_s, u"C"_s);
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(directory);
     process.setStandardInputFile(QProcess::nullDevice());

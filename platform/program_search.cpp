@@ -1,12 +1,14 @@
-#include "platform/program_search.h"
+#include "program_search.h"
 
-#include "platform/paths.h"
+#include "host_path.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
 
 namespace platform {
 
@@ -25,15 +27,15 @@ QString searchPathVariable()
     // Qt reports an empty variable and a missing one alike unless asked.
     if (!qEnvironmentVariableIsSet("PATH"))
         return QString();
-    return qEnvironmentVariable("PATH").replace(QDir::listSeparator(), QLatin1Char(';'));
+    return qEnvironmentVariable("PATH").replace(QDir::listSeparator(), u';');
 }
 
 QStringList programCandidates(const QString &word, const QString &searchPath)
 {
-    QStringList candidates {hostPath(QStringLiteral("."), word + QLatin1String(".exe"))};
+    QStringList candidates {hostPath(u"."_s, word + ".exe"_L1)};
     if (searchPath.isNull())
         return candidates;
-    for (const QString &directory : searchPath.split(QLatin1Char(';'))) {
+    for (const QString &directory : searchPath.split(u';')) {
         for (const char *suffix : {"", ".exe", ".com", ".bat"})
             candidates << hostPath(directory, word + QLatin1String(suffix));
     }
@@ -42,7 +44,7 @@ QStringList programCandidates(const QString &word, const QString &searchPath)
 
 QString findCommand(const QString &word, const QString &searchPath)
 {
-    if (word.contains(QLatin1Char('\\'))) {
+    if (word.contains(u'\\')) {
         const QString path = hostPath(word);
         return QFileInfo::exists(path) ? path : QString();
     }

@@ -1,4 +1,4 @@
-#include "platform/text_file.h"
+#include "text_file.h"
 
 #include <QFile>
 #include <QSaveFile>

@@ -1,6 +1,6 @@
-#include "forms/log_browser.h"
-#include "tests/support/row.h"
-#include "tests/support/wizard_test.h"
+#include "log_browser.h"
+#include "row.h"
+#include "wizard_test.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,6 +1,6 @@
-#include "forms/log_browser.h"
-#include "tests/support/row.h"
-#include "tests/support/wizard_test.h"
+#include "log_browser.h"
+#include "row.h"
+#include "wizard_test.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -236,30 +236,25 @@ private slots:
         QVERIFY(details(user).contains("Command Attempted:"));
     }
 
-    void judgesEachRunByItself()
+    void endsARunBeforeTheNextBegins()
     {
         const ProgramFolder folder;
         const WizardUser user;
-        const auto startAgain = [&user](const QByteArray &instructions) {
-            ProgramFolder::instruct(instructions);
-            user.press(QWizard::BackButton);
-            user.press(QWizard::NextButton);
-            user.press(QWizard::FinishButton);
-        };
         user.walkToReview();
-        ProgramFolder::instruct("wait first\nprint late\ncrash");
+        ProgramFolder::instruct("print first\nbeat beat");
         user.press(QWizard::FinishButton);
-        startAgain("wait second\nprint second\nexit 0");
-        QCOMPARE(user->findChildren<QProcess *>().size(), 2);
-        folder.write("bin/first", "");
-        QTRY_COMPARE(user->findChildren<QProcess *>().first()->state(), QProcess::NotRunning);
+        QTRY_VERIFY(!folder.read("bin/beat").isEmpty());
+        QVERIFY(!QFile::exists(folder.path("bin/settings.txt")));
+        ProgramFolder::instruct("wait go\nprint second");
+        user.press(QWizard::BackButton);
+        user.press(QWizard::NextButton);
+        user.press(QWizard::FinishButton);
+        QVERIFY(folder.read("bin/settings.txt").startsWith("Product:\n"));
         QVERIFY(!user->SaveLogBtn->isEnabled());
-        folder.write("bin/second", "");
-        QTRY_COMPARE(details(user), initial + "late\nsecond\n" + success);
-        QVERIFY(user->AddCompilerBtn->isEnabled());
-
-        startAgain("print third");
-        QTRY_COMPARE(details(user), initial + "third\n" + success);
+        const QString beat = folder.read("bin/beat");
+        folder.write("bin/go", "");
+        QTRY_COMPARE(details(user), initial + "second\n" + success);
+        QCOMPARE(folder.read("bin/beat"), beat);
     }
 
     void savesTheLog()

@@ -1,5 +1,5 @@
-#include "tests/support/row.h"
-#include "tests/support/wizard_test.h"
+#include "row.h"
+#include "wizard_test.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>

@@ -1,7 +1,7 @@
-#include "bexlor/arguments.h"
+#include "arguments.h"
 
-#include "platform/paths.h"
-#include "tests/support/row.h"
+#include "host_path.h"
+#include "row.h"
 
 #include <QTest>
 
@@ -49,22 +49,6 @@ private slots:
         QVERIFY(parseArguments(plain()));
         QFETCH(QStringList, list);
         QVERIFY(!parseArguments(list));
-    }
-
-    void splitsCommaLists_data()
-    {
-        QTest::addColumn<QString>("list");
-        QTest::addColumn<QStringList>("items");
-        row("spaces", " ONE,TWO=2, THREE=3 ", QStringList {"ONE", "TWO=2", "THREE=3"});
-        row("parameters", "F(a,b)=a,G", QStringList {"F(a,b)=a", "G"});
-        row("string", "S=\"a,(b\",G", QStringList {"S=\"a,(b\"", "G"});
-        row("stray parenthesis", "A=),B", QStringList {"A=)", "B"});
-        row("nothing", ",, ,", QStringList());
-    }
-    void splitsCommaLists()
-    {
-        QFETCH(QString, list);
-        QTEST(splitCommaList(list), "items");
     }
 };
 

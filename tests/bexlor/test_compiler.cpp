@@ -1,5 +1,5 @@
-#include "bexlor/compiler.h"
-#include "tests/support/row.h"
+#include "compiler.h"
+#include "row.h"
 
 #include <QDir>
 #include <QTemporaryDir>

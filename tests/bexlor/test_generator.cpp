@@ -1,4 +1,4 @@
-#include "tests/support/row.h"
+#include "row.h"
 
 #include <QDir>
 #include <QProcess>
@@ -295,5 +295,5 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestGenerator)
+#include "row.h"
 #include "test_generator.moc"
-#include "tests/support/row.h"

@@ -1,5 +1,5 @@
-#include "bexlor/learning.h"
-#include "tests/support/row.h"
+#include "learning.h"
+#include "row.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "bexlor/names.h"
+#include "names.h"
 
 #include <QDir>
 #include <QFile>

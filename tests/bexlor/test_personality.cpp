@@ -1,4 +1,4 @@
-#include "bexlor/personality.h"
+#include "personality.h"
 
 #include <QProcess>
 #include <QTemporaryDir>

@@ -1,5 +1,5 @@
-#include "bexlor/prober.h"
-#include "tests/support/row.h"
+#include "prober.h"
+#include "row.h"
 
 #include <QTest>
 

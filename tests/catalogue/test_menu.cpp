@@ -1,4 +1,4 @@
-#include "tests/support/wizard_test.h"
+#include "wizard_test.h"
 
 #include <QCheckBox>
 #include <QLabel>

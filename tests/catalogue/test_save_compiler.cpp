@@ -1,5 +1,5 @@
-#include "catalogue/save_compiler_details.h"
-#include "tests/support/wizard_test.h"
+#include "save_compiler_details.h"
+#include "wizard_test.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

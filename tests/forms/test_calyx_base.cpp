@@ -1,7 +1,7 @@
-#include "forms/save_compiler_details_base.h"
-#include "generation/command_order.h"
-#include "tests/support/row.h"
-#include "tests/support/wizard_test.h"
+#include "command_order.h"
+#include "row.h"
+#include "save_compiler_details_base.h"
+#include "wizard_test.h"
 
 #include <QCheckBox>
 #include <QLabel>

@@ -1,5 +1,5 @@
-#include "forms/log_browser.h"
-#include "tests/support/row.h"
+#include "log_browser.h"
+#include "row.h"
 
 #include <QScrollBar>
 #include <QTest>

@@ -1,6 +1,6 @@
 // A catalogue of any bytes is read, written and read again.
 
-#include "catalogue/compiler_catalogue.h"
+#include "compiler_catalogue.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const char *data, std::size_t size)
 {

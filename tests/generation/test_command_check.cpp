@@ -1,5 +1,5 @@
-#include "generation/command_check.h"
-#include "tests/support/row.h"
+#include "command_check.h"
+#include "row.h"
 
 #include <QTest>
 

@@ -1,5 +1,5 @@
-#include "generation/command_order.h"
-#include "tests/support/row.h"
+#include "command_order.h"
+#include "row.h"
 
 #include <QTest>
 #include <algorithm>
@@ -9,9 +9,15 @@ class TestCommandOrder : public QObject
     Q_OBJECT
 
 private:
-    static CompileCommand command()
+    static Answers command()
     {
-        return {defaultOrder(), "cc", "-o", false, "-D", false, "-c"};
+        Answers answers;
+        answers.order = defaultOrder();
+        answers.command = "cc";
+        answers.outputFlag = "-o";
+        answers.defineFlag = "-D";
+        answers.objectFlag = "-c";
+        return answers;
     }
 
 private slots:
@@ -37,7 +43,7 @@ private slots:
         QFETCH(QStringList, order);
         QFETCH(bool, outputSpace);
         QFETCH(bool, defineSpace);
-        CompileCommand shown = command();
+        Answers shown = command();
         shown.order = order;
         shown.spaceAfterOutputFlag = outputSpace;
         shown.spaceAfterDefineFlag = defineSpace;
@@ -47,51 +53,29 @@ private slots:
 
     void readsBackEveryOrder()
     {
-        CompileCommand written = command();
+        Answers written = command();
         std::sort(written.order.begin(), written.order.end());
         int orders = 0;
         do {
             written.spaceAfterOutputFlag = orders % 2;
             written.spaceAfterDefineFlag = orders % 3;
-            const StoredOrder read = parseOrderString(commandOrderString(written));
+            Answers read;
+            applyOrderString(read, commandOrderString(written));
             QCOMPARE(read.order, written.order);
-            QCOMPARE(read.spaceAfterOutputFlag.value(), written.spaceAfterOutputFlag);
-            QCOMPARE(read.spaceAfterDefineFlag.value(), written.spaceAfterDefineFlag);
+            QCOMPARE(read.spaceAfterOutputFlag, written.spaceAfterOutputFlag);
+            QCOMPARE(read.spaceAfterDefineFlag, written.spaceAfterDefineFlag);
             ++orders;
         } while (std::next_permutation(written.order.begin(), written.order.end()));
         QCOMPARE(orders, 720);
     }
 
-    void readsForeignOrders_data()
+    void keepsTheSpacesThatAnOrderLacks()
     {
-        QTest::addColumn<QString>("tokens");
-        QTest::addColumn<QStringList>("order");
-        row("two items", "%s %c ", QStringList {"<src file>", "Exe Command"});
-        row("no token", "", QStringList());
-        row("text without a percent sign", "code", QStringList {"Exe Command"});
-        row("more than one letter", "%es%jo", QStringList {"<exe file>", "Object Flag"});
-        row("an eighth section", "%s%s%s%s%s%s%c", QStringList(6, QStringLiteral("<src file>")));
-    }
-    void readsForeignOrders()
-    {
-        QFETCH(QString, tokens);
-        const StoredOrder read = parseOrderString(tokens);
-        QTEST(read.order, "order");
-        QVERIFY(!read.spaceAfterOutputFlag && !read.spaceAfterDefineFlag);
-    }
-
-    void joinsLinesWithCommas_data()
-    {
-        QTest::addColumn<QString>("lines");
-        QTest::addColumn<QString>("list");
-        row("an empty line", "A\nB\n\nC", "A,B,C");
-        row("a trailing line feed", "A\n", "A,");
-        row("two empty lines", "A\n\n\nB", "A,,B");
-    }
-    void joinsLinesWithCommas()
-    {
-        QFETCH(QString, lines);
-        QTEST(toCommaList(lines), "list");
+        Answers answers = command();
+        answers.spaceAfterDefineFlag = true;
+        applyOrderString(answers, "%s %c ");
+        QCOMPARE(answers.order, QStringList({"<src file>", "Exe Command"}));
+        QVERIFY(answers.spaceAfterDefineFlag && !answers.spaceAfterOutputFlag);
     }
 };
 

@@ -1,5 +1,6 @@
-#include "generation/generator_arguments.h"
-#include "tests/support/row.h"
+#include "command_order.h"
+#include "generator_arguments.h"
+#include "row.h"
 
 #include <QTest>
 #include <functional>
@@ -23,10 +24,10 @@ private slots:
             [](Answers &) {});
         row("nothing answered", "Bexlor.exe|kov|cmp||||||%c %o%e %d%j %s |-op|\\.p_c|",
             [](Answers &answers) {
-                const QStringList order = answers.compile.order;
+                const QStringList order = answers.order;
                 answers = Answers();
                 answers.productCode = "kov";
-                answers.compile.order = order;
+                answers.order = order;
             });
         row("everything answered",
             "Bexlor.exe|kovpp|ccmp|\"cc -m32\"|-o|-c|-D|.o|%c %o %e %d %j %s |-i|\\b|-i|\\a|-op|"
@@ -35,9 +36,9 @@ private slots:
             [](Answers &answers) {
                 answers.productCode = "kovpp";
                 answers.crossCompiler = true;
-                answers.compile.command = "cc -m32";
-                answers.compile.spaceAfterOutputFlag = true;
-                answers.compile.spaceAfterDefineFlag = true;
+                answers.command = "cc -m32";
+                answers.spaceAfterOutputFlag = true;
+                answers.spaceAfterDefineFlag = true;
                 answers.objectExtension = ".o";
                 answers.headerDirectories = QStringList {"\\b", "\\a"};
                 answers.name = "N.p_c";
@@ -60,7 +61,11 @@ private slots:
         answers.productCode = "kov";
         answers.destination = "D";
         answers.name = "N";
-        answers.compile = {defaultOrder(), "cc", "-o", false, "-D", false, "-c"};
+        answers.order = defaultOrder();
+        answers.command = "cc";
+        answers.outputFlag = "-o";
+        answers.defineFlag = "-D";
+        answers.objectFlag = "-c";
         answers.objectExtension = "obj";
         answers.headerDirectories = QStringList {"\\inc"};
         change(answers);
@@ -81,7 +86,7 @@ private slots:
     {
         QFETCH(QString, command);
         Answers answers;
-        answers.compile.command = command;
+        answers.command = command;
         QTEST(generatorArguments(answers).at(3), "argument");
     }
 };

@@ -1,5 +1,5 @@
-#include "platform/program_run.h"
-#include "tests/support/row.h"
+#include "program_run.h"
+#include "row.h"
 
 #include <QDir>
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
-#include "platform/process_tree.h"
-#include "platform/program_run.h"
-#include "tests/support/row.h"
+#include "process_tree.h"
+#include "program_run.h"
+#include "row.h"
 
 #include <QDir>
 #include <QElapsedTimer>

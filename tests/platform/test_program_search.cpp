@@ -1,7 +1,7 @@
-#include "platform/program_search.h"
+#include "program_search.h"
 
-#include "platform/paths.h"
-#include "tests/support/row.h"
+#include "host_path.h"
+#include "row.h"
 
 #include <QDir>
 #include <QTemporaryDir>

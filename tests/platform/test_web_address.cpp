@@ -1,4 +1,4 @@
-#include "platform/web_address.h"
+#include "web_address.h"
 
 #include <QDir>
 #include <QFile>

@@ -14,7 +14,7 @@
 //     console           "visible" or "hidden": whether a window shows its console
 //     crash, hang, exit STATUS
 
-#include "tests/support/stand_in_system.h"
+#include "stand_in_system.h"
 
 #include <chrono>
 #include <cstdlib>

@@ -1,4 +1,4 @@
-#include "tests/support/stand_in_system.h"
+#include "stand_in_system.h"
 
 #include <cstdlib>
 #include <unistd.h>

@@ -1,6 +1,6 @@
-#include "tests/support/wizard_test.h"
+#include "wizard_test.h"
 
-#include "forms/form_font.h"
+#include "form_font.h"
 
 #include <QAbstractButton>
 #include <QApplication>

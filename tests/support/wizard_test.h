@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/calyx.h"
+#include "calyx.h"
 
 #include <QTemporaryDir>
 #include <QTranslator>

@@ -1,4 +1,4 @@
-#include "platform/paths.h"
+#include "host_path.h"
 
 namespace platform {
 
@@ -9,7 +9,7 @@ QString hostPath(const QString &path)
 
 QString hostPath(const QString &directory, const QString &name)
 {
-    return directory + QLatin1Char('\\') + name;
+    return directory + u'\\' + name;
 }
 
 } // namespace platform
