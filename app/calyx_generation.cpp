@@ -58,7 +58,7 @@ void Calyx::applyOrderString(const QString &order)
 
 QString Calyx::toCommaList(QString text)
 {
-    return ::toCommaList(text);
+    return ::toCommaList(std::move(text));
 }
 
 void Calyx::CmpExeFlagChkBox_clicked()
