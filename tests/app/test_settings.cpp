@@ -1,8 +1,8 @@
 #include "row.h"
 #include "wizard_test.h"
 
-#include <QAbstractButton>
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -18,48 +18,27 @@ private slots:
     void comeBackAtTheNextStart()
     {
         const ProgramFolder folder;
-        {
-            const WizardUser user;
-            user.click(user->KOVPPRadioButton);
-            user.answerFirstPages();
-            user->PersonNameEdit->setText("Compiler:");
-            user->CmpExeEdit->setText("cc -a -b");
-            user.click(user->CmpDefFlagChkBox);
-            user->CmpObjExtFlagEdit->setText("o");
-            user->CmpHdrDirListBox->addItems({"\\inc", "\\größe"});
-            user->CmpDefEdit->setPlainText("A\nB=1");
-            user->CmpOrderListBox->setCurrentRow(0);
-            user.click(user->CmdOrderDwnBtn);
-            user->CrossCmpCheckBox->setChecked(true);
+        const auto run = [&folder](const WizardUser &user) {
             user->showPage(user->Page3);
             user.press(QWizard::NextButton);
-            user.press(QWizard::FinishButton);
-            QTRY_VERIFY(user->SaveLogBtn->isEnabled());
+            user.finish();
+            return folder.read("bin/settings.txt");
+        };
+        QString written;
+        {
+            const WizardUser user;
+            user.answerFirstPages();
+            user->CmpExeEdit->setText("cc  -a");
+            user->CmpHdrDirListBox->addItems({"\\inc", QString::fromUtf8("\\größe")});
+            user->CrossCmpCheckBox->setChecked(true);
+            written = run(user);
         }
-        const QString written = folder.read("bin/settings.txt");
-        QVERIFY(
-            written.startsWith("Product:\nkovpp\n\nPersonality Destination Directory:\n..\\out"));
-        QVERIFY(written.endsWith(
-            "Compiler Command Order:\nOutput Flag\nExe Command\n<exe file>\nDefine Flag\n"
-            "Object Flag\n<src file>\n\nExe Trailing Space:\nno\n\nDef Trailing Space:\nyes\n\n"
-            "Selected Compiler Family:\n\n\nSelected Compiler Name:\n\n\n"
-            "Template Personality File:\n\n\nForce Include File:\n\n\nSubstitute Headers:\n\n"));
-
+        QVERIFY(written.startsWith("Product:\nkov\n\nPersonality Destination Directory:\n..\\out"));
+        QVERIFY(written.contains("Compiler:\ncc -a\n\n"));
+        QVERIFY(written.endsWith("Force Include File:\n\n\nSubstitute Headers:\n\n"));
         const WizardUser user;
-        QVERIFY(user->KOVPPRadioButton->isChecked() && user.nextIsEnabled());
-        QCOMPARE(user->PersonNameEdit->text(), "Compiler:");
-        QCOMPARE(user->CmpExeEdit->text(), "cc -a -b");
-        QVERIFY(user->CmpDefFlagChkBox->isChecked() && !user->CmpExeFlagChkBox->isChecked());
-        QVERIFY(user->CrossCmpCheckBox->isChecked() && user->CmpExeFlagEdit->isEnabled());
-        QCOMPARE(rows(user->CmpHdrDirListBox), QStringList({"\\inc", "\\größe"}));
-        QCOMPARE(user->CmpDefEdit->toPlainText(), "A\nB=1\n");
-        QCOMPARE(rows(user->CmpOrderListBox).mid(0, 2),
-                 QStringList({"Output Flag", "Exe Command"}));
-        user->showPage(user->Page3);
-        user.press(QWizard::NextButton);
-        user.press(QWizard::FinishButton);
-        QTRY_COMPARE(folder.read("bin/settings.txt").remove("A\nB=1\n\n"),
-                     QString(written).remove("A\nB=1\n\n"));
+        QVERIFY(user.nextIsEnabled() && user->CmpExeFlagEdit->isEnabled());
+        QCOMPARE(run(user), written);
     }
 
     void areWrittenAfterEveryRun_data()
@@ -77,8 +56,8 @@ private slots:
         const WizardUser user;
         user.walkToReview();
         QVERIFY(folder.read("bin/settings.txt").startsWith("Compiler Family Set:*"));
-        user.press(QWizard::FinishButton);
-        QTRY_VERIFY(folder.read("bin/settings.txt").startsWith("Product:\nkov\n"));
+        user.finish();
+        QVERIFY(folder.read("bin/settings.txt").startsWith("Product:\nkov\n"));
         QVERIFY(!folder.read("bin/settings.txt").contains('*'));
     }
 
@@ -86,33 +65,36 @@ private slots:
     {
         QTest::addColumn<QByteArray>("lineEnd");
         QTest::addColumn<QByteArray>("destination");
+        QTest::addColumn<QByteArray>("lockedName");
         QTest::addColumn<bool>("opensOnPage1");
-        row("line feeds", QByteArray("\n"), QByteArray("..\\out"), true);
-        row("both", QByteArray("\r\n"), QByteArray("..\\out"), true);
-        row("carriage returns", QByteArray("\r"), QByteArray("..\\out"), true);
-        row("missing folder", QByteArray("\n"), QByteArray("..\\oat"), false);
+        const QByteArray name = "Personality Name:*";
+        row("line feeds", QByteArray("\n"), QByteArray("..\\out"), name, true);
+        row("both", QByteArray("\r\n"), QByteArray("..\\out"), name, true);
+        row("carriage returns", QByteArray("\r"), QByteArray("..\\out"), name, true);
+        row("missing folder", QByteArray("\n"), QByteArray("..\\oat"), name, false);
+        row("a key in lower case", QByteArray("\n"), QByteArray("..\\out"), name.toLower(), false);
     }
     void lockTheFirstPage()
     {
         QFETCH(QByteArray, lineEnd);
         QFETCH(QByteArray, destination);
+        QFETCH(QByteArray, lockedName);
         QFETCH(bool, opensOnPage1);
         const ProgramFolder folder;
         folder.write("bin/settings.txt",
                      QByteArray("Product:*\nkovpp\n\nPersonality Destination Directory:*\n"
-                                + destination + "\n\nPersonality Name:*\nmine\n")
+                                + destination + "\n\n" + lockedName
+                                + "\nmine\n\nCompiler:\nmissing\n")
                          .replace("\n", lineEnd));
         const WizardUser user;
         QCOMPARE(user->currentPage(), opensOnPage1 ? user->Page1 : user->Page0);
         QVERIFY(user->KOVPPRadioButton->isChecked());
-        for (const QWidget *widget : std::initializer_list<const QWidget *> {
-                 user->KOVRadioButton, user->KOVPPRadioButton, user->PersonDestEdit,
-                 user->PersonDestBrowseBtn, user->PersonNameEdit})
-            QVERIFY(!widget->isEnabled());
-        if (opensOnPage1) {
-            user.press(QWizard::BackButton);
-            QCOMPARE(user->currentPage(), user->Page0);
-        }
+        QVERIFY(!user->KOVRadioButton->isEnabled() && !user->KOVPPRadioButton->isEnabled());
+        QVERIFY(!user->PersonDestEdit->isEnabled() && !user->PersonDestBrowseBtn->isEnabled());
+        QCOMPARE(user->PersonNameEdit->isEnabled(), user->PersonNameEdit->text().isEmpty());
+        // What is wrong with them shows once somebody types.
+        QCOMPARE(user->DestErrorLabel->text() + user->CmpPathErrorLabel->text(), "");
+        QCOMPARE(user->CmpExeEdit->palette().color(QPalette::Text), QColor(Qt::red));
     }
 
     void areReadLineByLine()

@@ -1,6 +1,5 @@
 #include "compiler_catalogue.h"
 #include "download.h"
-#include "product_language.h"
 #include "row.h"
 
 #include <QTest>
@@ -86,31 +85,6 @@ private slots:
             "  <SubHeaders>s & <b></SubHeaders>\n </Compiler>\n\n <Compiler>\n"));
         QCOMPARE(parseCatalogue(text), catalogue);
         QCOMPARE(catalogueText(parseCatalogue(text)), text);
-    }
-
-    void tellsLanguages_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("product");
-        QTest::addColumn<bool>("offered");
-        QTest::addColumn<bool>("conflicts");
-        row("C++ under KOV", "C++", "kov", false, true);
-        row("x - C++ under KOV", "x - C++", "kov", false, true);
-        row("x C++ under KOV", "x C++", "kov", true, true);
-        row("x - C under KOV", "x - C", "kov", true, false);
-        row("C under KOV++", "C", "kovpp", false, true);
-        row("x - C under KOV++", "x - C", "kovpp", false, true);
-        row("XC under KOV++", "XC", "kovpp", true, true);
-        row("xc under KOV++", "xc", "kovpp", true, false);
-        row("C++ under KOV++", "C++", "kovpp", true, false);
-        row("none", "", "kovpp", true, false);
-    }
-    void tellsLanguages()
-    {
-        QFETCH(QString, name);
-        QFETCH(QString, product);
-        QTEST(isOffered(name, product), "offered");
-        QTEST(!conflictWith(name, product).isEmpty(), "conflicts");
     }
 
     void keepsCommandsOutOfAddresses()

@@ -1,10 +1,9 @@
+#include "row.h"
 #include "save_compiler_details.h"
-#include "wizard_test.h"
 
-#include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
@@ -191,50 +190,6 @@ private slots:
         QCOMPARE(dialog.NewCmpNameEdit->text(), "");
         dialog.ExstSaveRadioButton->click();
         QVERIFY(!dialog.NewSaveRadioButton->isChecked() && !dialog.CRadioButton->isEnabled());
-    }
-
-    void savesIntoTheCatalogue()
-    {
-        const ProgramFolder folder;
-        folder.write("bin/compilers.txt",
-                     "<CompilerFamily>Alpha</CompilerFamily>\n<Compiler>\n<Name>a - C</Name>\n"
-                     "<Family>Alpha</Family>\n<Template>kept</Template>\n</Compiler>\n");
-        const WizardUser user;
-        user.walkToReview();
-        user.press(QWizard::FinishButton);
-        QTRY_VERIFY(user->AddCompilerBtn->isEnabled());
-        user->applyCatalogueCompiler("Alpha", "a - C");
-        user->CmpExeEdit->setText("cc -x");
-        const auto save = [&user](const Use &use) {
-            withDialog([&user] { user.click(user->AddCompilerBtn); },
-                       [&use](QWidget *widget) {
-                           auto *dialog = qobject_cast<SaveCompilerDetails *>(widget);
-                           use(*dialog);
-                           dialog->buttonOk->click();
-                       });
-        };
-        save([](SaveCompilerDetails &) {});
-        save(newEntry("Fam & Co", "dd", &SaveCompilerDetails::CPPRadioButton));
-        const QString before = folder.read("bin/compilers.txt");
-        CompilerCatalogue saved = parseCatalogue(before);
-        QCOMPARE(saved.families, QStringList({"Alpha", "Fam & Co"}));
-        QCOMPARE(saved.compilers.size(), 2);
-        for (const CompilerRecord &record : saved.compilers) {
-            QCOMPARE(record.ExeCommand, "cc -x");
-            QCOMPARE(record.Template, "kept");
-            QCOMPARE(record.CrossCompiler, "no");
-        }
-        const QMenu *menu = user->ExeCommandBtn->menu();
-        QCOMPARE(menu->actions().size(), 2);
-        const QAction *item = menu->actions().at(1)->menu()->actions().at(0);
-        QCOMPARE(item->text(), "dd - C++");
-        QVERIFY(!item->isEnabled());
-
-        save([](SaveCompilerDetails &dialog) {
-            QCOMPARE(dialog.ExstCmpNameComboBox->currentText(), "dd - C++");
-            dialog.buttonCancel->click();
-        });
-        QCOMPARE(folder.read("bin/compilers.txt"), before);
     }
 };
 

@@ -8,7 +8,6 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QRandomGenerator>
 #include <QStyleOptionButton>
 #include <QTest>
 
@@ -121,24 +120,6 @@ private slots:
         QVERIFY2(texts >= 44, qPrintable(QString::number(texts)));
     }
 
-    void leadsBackThroughTheFixedOrder()
-    {
-        const WizardUser user;
-        const QList<WizardPage *> pages {user->Page0, user->Page1, user->Page2, user->Page3,
-                                         user->Page4};
-        QRandomGenerator random(1);
-        for (int jump = 0; jump < 50; ++jump) {
-            const int target = random.bounded(5);
-            user->showPage(pages[target]);
-            QCOMPARE(user->currentPage(), pages[target]);
-            QCOMPARE(user->button(QWizard::BackButton)->isEnabled(), target > 0);
-            if (target > 0) {
-                user.press(QWizard::BackButton);
-                QCOMPARE(user->currentPage(), pages[target - 1]);
-            }
-        }
-    }
-
     void setsItsTextsAgain()
     {
         Form form;
@@ -149,44 +130,6 @@ private slots:
         QCOMPARE(rows(form.CmpOrderListBox), defaultOrder());
         QCOMPARE(form.DestErrorLabel->text(), QString());
         QCOMPARE(form.CmpCmdOrder->text(), "          <exe> <src>");
-    }
-
-    void namesItsImageButtons()
-    {
-        const Form form;
-        for (const QPushButton *button :
-             form.findChildren<QPushButton *>(QRegularExpression("^(P\\d_.*|CmdOrder.*)Btn$")))
-            QVERIFY2(!button->accessibleName().isEmpty() && !button->icon().isNull(),
-                     qPrintable(button->objectName()));
-        QCOMPARE(form.P3_DefBtn->accessibleName(), "Defines & Switches");
-        QCOMPARE(form.CmdOrderUpBtn->accessibleName(), "Move up");
-    }
-
-    void showsTheSamePicturesAsTheBitmaps_data()
-    {
-        QTest::addColumn<QPixmap>("builtIn");
-        QTest::addColumn<QString>("bitmap");
-        const Form form;
-        row("product", form.productOffImage, "product_output");
-        row("product on", form.productOnImage, "product_output_shd");
-        row("compiler", form.compilerOffImage, "compiler_command");
-        row("compiler on", form.compilerOnImage, "compiler_command_shd");
-        row("search", form.searchOffImage, "search_directories");
-        row("search on", form.searchOnImage, "search_directories_shd");
-        row("defines", form.definesOffImage, "defines_switches");
-        row("defines on", form.definesOnImage, "defines_switches_shd");
-        row("review", form.reviewOffImage, "review");
-        row("review on", form.reviewOnImage, "review_shd");
-    }
-    void showsTheSamePicturesAsTheBitmaps()
-    {
-        const ProgramFolder folder;
-        QFETCH(QPixmap, builtIn);
-        QFETCH(QString, bitmap);
-        const QImage file(folder.path("images/" + bitmap + ".bmp"));
-        QCOMPARE(file.size(), QSize(175, 23));
-        QCOMPARE(builtIn.toImage().convertToFormat(QImage::Format_RGB32),
-                 file.convertToFormat(QImage::Format_RGB32));
     }
 };
 

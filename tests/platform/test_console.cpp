@@ -1,3 +1,4 @@
+#include "files.h"
 #include "program_run.h"
 #include "row.h"
 
@@ -26,13 +27,10 @@ private slots:
         QFETCH(QString, program);
         const QTemporaryDir folder;
         QVERIFY(QFile::copy(STAND_IN, folder.filePath("compiler.exe")));
-        QFile batch(folder.filePath("compiler.bat"));
-        QVERIFY(batch.open(QIODevice::WriteOnly));
-        batch.write("@\"%~dp0compiler.exe\"\r\n");
-        batch.close();
+        writeTestFile(folder.filePath("compiler.bat"), "@\"%~dp0compiler.exe\"\r\n");
         qputenv("STAND_IN", "console");
         const platform::ProgramRun run =
-            platform::runProgram({folder.filePath(program)}, folder.path(), 30'000);
+            platform::runProgram({folder.filePath(program)}, folder.path(), patience);
         QCOMPARE(run.output.trimmed(), QByteArray("hidden"));
     }
 };

@@ -1,5 +1,6 @@
 #include "program_search.h"
 
+#include "files.h"
 #include "host_path.h"
 #include "row.h"
 
@@ -17,13 +18,10 @@ private:
 private slots:
     void initTestCase()
     {
-        QDir(m_folder.path()).mkpath("tools/sub folder");
         QDir(m_folder.path()).mkpath("tools/folder");
         for (const char *name : {"tools/plain", "tools/dos.com", "tools/script.bat", "here.exe",
-                                 "here.bat", "tools/sub folder/cc"}) {
-            QFile file(m_folder.filePath(name));
-            QVERIFY(file.open(QIODevice::WriteOnly));
-        }
+                                 "here.bat", "tools/sub folder/cc"})
+            writeTestFile(m_folder.filePath(name));
         QDir::setCurrent(m_folder.path());
     }
     void cleanupTestCase() { QDir::setCurrent(QDir::rootPath()); }

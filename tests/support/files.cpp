@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QTest>
 
 void writeTestFile(const QString &path, const QByteArray &content)
 {
@@ -16,4 +17,11 @@ QByteArray readTestFile(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool hasStopped(const QString &path)
+{
+    const qint64 size = QFileInfo(path).size();
+    QTest::qWait(200);
+    return QFileInfo(path).size() == size;
 }

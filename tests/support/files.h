@@ -8,3 +8,6 @@ void writeTestFile(const QString &path, const QByteArray &content = {});
 
 /// The content of the file \a path; empty when there is none.
 QByteArray readTestFile(const QString &path);
+
+/// Whether whoever makes the file \a path grow, the stand-in's "beat", has come to an end.
+bool hasStopped(const QString &path);

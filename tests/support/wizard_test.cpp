@@ -1,6 +1,8 @@
 #include "wizard_test.h"
 
+#include "files.h"
 #include "form_font.h"
+#include "row.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -8,6 +10,8 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
+#include <QProcess>
 #include <QTest>
 #include <QTimer>
 
@@ -39,22 +43,22 @@ QString ProgramFolder::path(const QString &name) const
 
 QString ProgramFolder::read(const QString &name) const
 {
-    QFile file(path(name));
-    return file.open(QIODevice::ReadOnly) ? QString::fromLocal8Bit(file.readAll()) : QString();
+    return QString::fromLocal8Bit(readTestFile(path(name)));
 }
 
 QString ProgramFolder::generatorArguments() const
 {
-    QFile file(path("bin/arguments.txt"));
-    file.open(QIODevice::ReadOnly | QIODevice::Text);
-    return QString::fromUtf8(file.readAll());
+    return QString::fromUtf8(readTestFile(path("bin/arguments.txt"))).remove('\r');
 }
 
 void ProgramFolder::write(const QString &name, const QByteArray &content) const
 {
-    QFile file(path(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
+    writeTestFile(path(name), content);
+}
+
+bool ProgramFolder::hasStopped(const QString &name) const
+{
+    return ::hasStopped(path(name));
 }
 
 void ProgramFolder::instruct(const QByteArray &instructions)
@@ -116,6 +120,23 @@ void WizardUser::walkToReview() const
         press(QWizard::NextButton);
 }
 
+void WizardUser::waitForTheEnd() const
+{
+    const auto isRunning = [](const QProcess *process) {
+        return process->state() != QProcess::NotRunning;
+    };
+    const QList<QProcess *> runs = m_wizard->findChildren<QProcess *>();
+    QTRY_VERIFY_WITH_TIMEOUT(std::none_of(runs.begin(), runs.end(), isRunning), patience);
+}
+
+QString WizardUser::finish() const
+{
+    return messageOf([this] {
+        press(QWizard::FinishButton);
+        waitForTheEnd();
+    });
+}
+
 Language::Language(const QString &name)
 {
     const QString prefixes[] = {"qt_", "calyx_"};
@@ -156,6 +177,17 @@ bool withDialog(const std::function<void()> &action, const std::function<void(QW
     timer.start(10);
     action();
     return opened;
+}
+
+QString messageOf(const std::function<void()> &action)
+{
+    QString text;
+    withDialog(action, [&text](QWidget *widget) {
+        auto *box = qobject_cast<QMessageBox *>(widget);
+        text = box->text();
+        box->done(QMessageBox::Ok);
+    });
+    return text;
 }
 
 QString withFileDialog(const std::function<void()> &action, const QString &path)

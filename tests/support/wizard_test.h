@@ -22,6 +22,7 @@ public:
     QString path(const QString &name) const;
     QString read(const QString &name) const;
     void write(const QString &name, const QByteArray &content) const;
+    bool hasStopped(const QString &name) const;
     /// The arguments that the stand-in generator was started with, each followed by a line feed.
     QString generatorArguments() const;
     /// What the stand-in generator does from now on, see there.
@@ -42,7 +43,7 @@ public:
 
     Calyx *operator->() const { return m_wizard.get(); }
     Calyx *wizard() const { return m_wizard.get(); }
-    /// Destroys the wizard.
+    /// Destroys the wizard, and with it what it has started.
     void destroy() { m_wizard.reset(); }
 
     void click(QWidget *widget) const;
@@ -56,6 +57,11 @@ public:
     void answerFirstPages() const;
     /// The same, and goes on to the review.
     void walkToReview() const;
+    /// Waits until no run goes on.
+    void waitForTheEnd() const;
+    /// Presses Finish and waits until the run has ended. Returns the text of the message box that
+    /// it ended with, which is closed; empty when there was none.
+    QString finish() const;
 
 private:
     std::unique_ptr<Calyx> m_wizard;
@@ -80,6 +86,9 @@ QStringList rows(const QListWidget *list);
 /// Does \a action and gives the modal dialog that it opens to \a answer, which must close it. False
 /// when none was opened.
 bool withDialog(const std::function<void()> &action, const std::function<void(QWidget *)> &answer);
+
+/// The text of the message box that \a action opens, which is closed; empty when it opens none.
+QString messageOf(const std::function<void()> &action);
 
 /// Does \a action and chooses \a path in the file dialog that it opens; an empty path cancels the
 /// dialog. Returns the folder that the dialog opened in, empty when there was none.

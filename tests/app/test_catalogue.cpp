@@ -1,0 +1,179 @@
+#include "compiler_catalogue.h"
+#include "row.h"
+#include "save_compiler_details.h"
+#include "wizard_test.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <QTextEdit>
+#include <QTimer>
+
+namespace {
+
+CompilerRecord compiler(const QString &name, const QString &isCross, const QString &templateValue)
+{
+    CompilerRecord record;
+    record.Name = name;
+    record.Family = "Family";
+    record.ExeCommand = "cc -m32";
+    record.CrossCompiler = isCross;
+    record.OutputFlag = "-o";
+    record.Order = "%c %s %o%e ";
+    record.ReduceFileSize = "yes";
+    record.CompilerDefines = "A=1,B";
+    record.Template = templateValue;
+    return record;
+}
+
+void writeCatalogue(const ProgramFolder &folder)
+{
+    const CompilerCatalogue catalogue {{"Family"},
+                                       {compiler("a - C", "no", "t"),
+                                        compiler("b - C++", "yes", ""),
+                                        compiler("get", "no", "Integration - g&t.exe")}};
+    folder.write("bin/compilers.txt", catalogueText(catalogue).toLocal8Bit());
+}
+
+/// Opens the Exe Command menu, walks into the family's sub-menu and chooses a compiler with Enter.
+void choose(const WizardUser &user, int item)
+{
+    QTimer::singleShot(50, user.wizard(), [item, &user] {
+        QMenu *families = user->ExeCommandBtn->menu();
+        families->setActiveAction(families->actions().at(0));
+        QTest::keyClick(families, Qt::Key_Right);
+        QMenu *names = families->actions().at(0)->menu();
+        names->setActiveAction(names->actions().at(item));
+        QTest::keyClick(names, Qt::Key_Return);
+    });
+    user.click(user->ExeCommandBtn);
+}
+
+} // namespace
+
+class TestCatalogue : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void fillsThePages()
+    {
+        const ProgramFolder folder;
+        writeCatalogue(folder);
+        const WizardUser user;
+        user->showPage(user->Page1);
+        user->CmpExeFlagChkBox->setChecked(true);
+        choose(user, 0);
+        QCOMPARE(user->CmpCmdOrder->text(), "cc -m32 <src file> -o<exe file> ");
+        QVERIFY(!user->CmpExeFlagChkBox->isChecked() && user->CmpExeFlagEdit->isEnabled());
+        QCOMPARE(user->CmpDefEdit->toPlainText(), "A=1,B");
+        QVERIFY(user.nextIsEnabled());
+
+        messageOf([&] { user.click(user->KOVPPRadioButton); });
+        choose(user, 1);
+        QVERIFY(user->CrossCmpCheckBox->isChecked() && !user->CmpExeFlagEdit->isEnabled());
+        QCOMPARE(user->CmpExeFlagEdit->text(), "-o");
+    }
+
+    void resetsAConflictingCompiler()
+    {
+        const ProgramFolder folder;
+        writeCatalogue(folder);
+        const WizardUser user;
+        user->applyCatalogueCompiler("Family", "a - C");
+        user->CmpSwtchEdit->setPlainText("-x");
+        QCOMPARE(messageOf([&] { user.click(user->KOVRadioButton); }), "");
+        QCOMPARE(messageOf([&] { user.click(user->KOVPPRadioButton); }),
+                 "You have selected KOV++ for a currently selected C execution command.\nPlease "
+                 "reselect the Exe Command below.");
+        QCOMPARE(user->CmpExeEdit->text() + user->CmpExeFlagEdit->text(), "");
+        QCOMPARE(rows(user->CmpOrderListBox).size(), 6);
+        QCOMPARE(user->CmpSwtchEdit->toPlainText(), "-x");
+        const QList<QAction *> items =
+            user->ExeCommandBtn->menu()->actions().at(0)->menu()->actions();
+        QVERIFY(!items.at(0)->isEnabled() && items.at(1)->isEnabled());
+        QCOMPARE(messageOf([&] { user.click(user->KOVPPRadioButton); }), "");
+        user->applyCatalogueCompiler("Family", "b - C++");
+        QCOMPARE(messageOf([&] { user.click(user->KOVRadioButton); }),
+                 "You have selected KOV for a currently selected C++ execution command.\nPlease "
+                 "reselect the Exe Command below.");
+    }
+
+    void leavesForADownload()
+    {
+        const ProgramFolder folder;
+        writeCatalogue(folder);
+        QFile::copy(folder.path("tools/Bexlor.exe"), folder.path("tools/xdg-open"));
+        const WizardUser user;
+        user->showPage(user->Page1);
+        QCOMPARE(messageOf([&] { choose(user, 2); }),
+                 "The generator will now close and take you to the download site for the latest "
+                 "integration package to be installed.\n"
+                 "(https://www.vantor.example/downloads/Windows/g&t.exe)");
+        QVERIFY(!user->isVisible());
+        QCOMPARE(user->exitCode, 1);
+        QCOMPARE(user->CmpExeEdit->text(), "");
+        if (QDir::separator() == '/')
+            QTRY_COMPARE_WITH_TIMEOUT(folder.generatorArguments(),
+                                      "https://www.vantor.example/downloads/Windows/g%26t.exe\n",
+                                      patience);
+    }
+
+    void keepsWhatIsSaved()
+    {
+        const ProgramFolder folder;
+        writeCatalogue(folder);
+        const WizardUser user;
+        user.walkToReview();
+        user.finish();
+        user->applyCatalogueCompiler("Family", "a - C");
+        user->CmpExeEdit->setText("cc -x");
+        const auto save = [&](const std::function<void(SaveCompilerDetails &)> &use) {
+            withDialog([&user] { user.click(user->AddCompilerBtn); },
+                       [&use](QWidget *widget) {
+                           auto *dialog = qobject_cast<SaveCompilerDetails *>(widget);
+                           use(*dialog);
+                           dialog->buttonOk->click();
+                       });
+            return parseCatalogue(folder.read("bin/compilers.txt"));
+        };
+        // Over the chosen one, whose name and files stay.
+        CompilerCatalogue saved = save([](SaveCompilerDetails &) {});
+        CompilerRecord expected = compiler("a - C", "no", "t");
+        expected.ExeCommand = "cc -x";
+        QCOMPARE(saved.compilers.size(), 3);
+        QCOMPARE(saved.compilers.first(), expected);
+
+        saved = save([](SaveCompilerDetails &dialog) {
+            dialog.NewSaveRadioButton->click();
+            dialog.NewCmpFamEdit->setText("Fam & Co");
+            dialog.NewCmpNameEdit->setText("dd");
+            dialog.CPPRadioButton->click();
+        });
+        expected.Name = "dd - C++";
+        expected.Family = "Fam & Co";
+        QCOMPARE(saved.families, QStringList({"Family", "Fam & Co"}));
+        QCOMPARE(saved.compilers.size(), 4);
+        QCOMPARE(saved.compilers.last(), expected);
+        const QAction *item = user->ExeCommandBtn->menu()->actions().at(1)->menu()->actions().at(0);
+        QCOMPARE(item->text(), "dd - C++");
+        QVERIFY(!item->isEnabled());
+
+        const CompilerCatalogue before = saved;
+        saved = save([](SaveCompilerDetails &dialog) {
+            QCOMPARE(dialog.ExstCmpNameComboBox->currentText(), "dd - C++");
+            dialog.buttonCancel->click();
+        });
+        QCOMPARE(saved, before);
+    }
+};
+
+QTEST_MAIN(TestCatalogue)
+#include "test_catalogue.moc"
