@@ -509,7 +509,7 @@ void CalyxBase::createPages()
 
 void CalyxBase::languageChange()
 {
-    setWindowTitle(QCoreApplication::translate("CalyxBase", "Calyx 2.0.3"));
+    setWindowTitle(QCoreApplication::translate("CalyxBase", "Calyx " CALYX_VERSION));
     setTexts(this, "CalyxBase", texts);
     CmpOrderListBox->clear();
     for (const char *item : orderItems)

@@ -236,10 +236,6 @@
         <source>&lt;src file&gt;</source>
         <translation>&lt;src file&gt;</translation>
     </message>
-    <message>
-        <source>Calyx 2.0.3</source>
-        <translation>Calyx 2.0.3</translation>
-    </message>
 </context>
 <context>
     <name>QObject</name>
