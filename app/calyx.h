@@ -2,7 +2,7 @@
 
 #include "answers.h"
 #include "calyx_base.h"
-#include "compiler_catalogue.h"
+#include "catalogue_file.h"
 #include "compiler_menu.h"
 #include "sub_popup_menu.h"
 
@@ -143,6 +143,7 @@ private:
     QString lastDirectory; ///< where the directory dialogs start
     bool commandValid = false; ///< result of the last check of the compiler command
     CompilerCatalogue catalogue;
+    CatalogueFile catalogueFile {QStringLiteral("compilers.txt")};
     CompilerMenu exeCommandMenu {this};
     GeneratorRun *generatorProcess = nullptr; ///< the newest run; a child, like earlier ones
 

@@ -5,7 +5,6 @@
 #include "product_language.h"
 #include "record_answers.h"
 #include "save_compiler_details.h"
-#include "text_file.h"
 #include "web_address.h"
 
 #include <QCheckBox>
@@ -15,22 +14,19 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-const QString catalogueFile = u"compilers.txt"_s;
-
-} // namespace
-
 void Calyx::loadCatalogue()
 {
-    const QString text = platform::readTextFile(catalogueFile).value_or(QString());
-    catalogue.append(parseCatalogue(text));
+    catalogue.append(catalogueFile.load());
 }
 
 void Calyx::saveCatalogue()
 {
     // What cannot be written is lost without a word; the reload shows what the file holds.
-    platform::writeTextFile(catalogueFile, catalogueText(catalogue));
+    if (catalogueFile.save(catalogue) == CatalogueFile::Result::NotWhole) {
+        QMessageBox::warning(this, u"Calyx"_s,
+                             tr("The compiler has not been saved: the catalogue compilers.txt "
+                                "cannot be read whole, and saving would lose what it holds."));
+    }
 }
 
 void Calyx::buildExeCommandMenu()

@@ -175,6 +175,8 @@ void Calyx::SaveLogBtn_clicked()
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    platform::writeTextFile(dialog.selectedFiles().value(0),
-                            detailsText + u'\n' + DetailsText->toPlainText());
+    platform::FileReplacement(dialog.selectedFiles().value(0)).write([this](QIODevice &device) {
+        const QByteArray head = (detailsText + u'\n').toLocal8Bit();
+        return device.write(head) == head.size() && DetailsText->save(device);
+    });
 }

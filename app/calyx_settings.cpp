@@ -8,12 +8,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString settingsFile = u"settings.txt"_s;
+const qint64 settingsLimit = 1'000'000;
 
 } // namespace
 
 void Calyx::readSettings()
 {
-    const QString text = platform::readTextFile(settingsFile).value_or(QString());
+    const QString text = platform::readTextFile(settingsFile, settingsLimit).value_or(QString());
     for (const StoredAnswer &stored : parseSettings(text, answers)) {
         if (stored.field->show)
             stored.field->show(answers, *this);

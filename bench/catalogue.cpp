@@ -95,7 +95,7 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     const QTemporaryDir empty, large;
     const QString file = large.filePath("compilers.txt");
-    platform::writeTextFile(file, catalogueText(largeCatalogue()));
+    platform::writeFile(file, catalogueText(largeCatalogue()));
 
     const double lines = median([&file] {
         QFile device(file);

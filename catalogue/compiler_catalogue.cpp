@@ -81,28 +81,46 @@ QStringList namesOf(const QList<CompilerRecord> &compilers, const QString &famil
     return names;
 }
 
-CompilerCatalogue parseCatalogue(const QString &text)
+QList<CatalogueEntry> parseEntries(const QByteArray &file)
 {
-    CompilerCatalogue catalogue;
-    CompilerRecord record;
+    QList<CatalogueEntry> entries;
     bool insideRecord = false;
-    for (const QStringView &rawLine : QStringView(text).split(u'\n')) {
-        const QString line = rawLine.toString().simplified();
-        if (insideRecord && line == recordTag.closes) {
-            catalogue.compilers << record;
-            insideRecord = false;
-        } else if (insideRecord) {
-            readField(record, line);
+    for (qsizetype begin = 0, end; begin < file.size(); begin = end) {
+        const qsizetype lineFeed = file.indexOf('\n', begin);
+        end = lineFeed < 0 ? file.size() : lineFeed + 1;
+        const QString line =
+            QString::fromLocal8Bit(QByteArrayView(file).sliced(begin, end - begin)).simplified();
+        if (insideRecord) {
+            entries.last().end = end;
+            insideRecord = line != recordTag.closes;
+            entries.last().isCutShort = insideRecord;
+            if (insideRecord)
+                readField(entries.last().record, line);
         } else if (line.startsWith(familyTag.opens)) {
-            catalogue.families << familyTag.strip(line);
+            entries.append({CatalogueEntry::Family, familyTag.strip(line), {}, begin, end});
         } else if (line.startsWith(recordTag.opens)) {
-            record = CompilerRecord();
+            entries.append({CatalogueEntry::Record, {}, {}, begin, end, true});
             insideRecord = true;
         }
     }
-    if (insideRecord)
-        catalogue.compilers << record;
+    return entries;
+}
+
+CompilerCatalogue parseCatalogue(const QByteArray &file)
+{
+    CompilerCatalogue catalogue;
+    for (const CatalogueEntry &entry : parseEntries(file)) {
+        if (entry.kind == CatalogueEntry::Family)
+            catalogue.families << entry.family;
+        else
+            catalogue.compilers << entry.record;
+    }
     return catalogue;
+}
+
+void writeFamilyLine(QTextStream &stream, const QString &family)
+{
+    stream << familyTag.opens << family << familyTag.closes << '\n';
 }
 
 void writeCompilerBlock(QTextStream &stream, const CompilerRecord &record)
@@ -113,14 +131,14 @@ void writeCompilerBlock(QTextStream &stream, const CompilerRecord &record)
     stream << ' ' << recordTag.closes << "\n\n";
 }
 
-QString catalogueText(const CompilerCatalogue &catalogue)
+QByteArray catalogueText(const CompilerCatalogue &catalogue)
 {
     QString text;
     QTextStream stream(&text);
     for (const QString &family : catalogue.families)
-        stream << familyTag.opens << family << familyTag.closes << '\n';
+        writeFamilyLine(stream, family);
     stream << '\n';
     for (const CompilerRecord &record : catalogue.compilers)
         writeCompilerBlock(stream, record);
-    return text;
+    return text.toLocal8Bit();
 }

@@ -47,14 +47,31 @@ CompilerRecord *findRecord(QList<CompilerRecord> &compilers, const QString &fami
 /// The names of those of \a compilers that are of that family, in their order.
 QStringList namesOf(const QList<CompilerRecord> &compilers, const QString &family);
 
-/// Reads the text of a catalogue file: lines with tags, of which only the start counts, each with
-/// its white space simplified. What is not understood is passed over; a record that the end of the
-/// text cuts short is kept with what was read of it.
-CompilerCatalogue parseCatalogue(const QString &text);
+/// A family or a record of a catalogue file, and the bytes of its lines, line ends included.
+struct CatalogueEntry
+{
+    enum Kind { Family, Record };
+    Kind kind;
+    QString family;
+    CompilerRecord record;
+    qsizetype begin;
+    qsizetype end;
+    bool isCutShort = false; ///< a record that the end of the file ends
+};
+
+/// Reads a catalogue file, which is text in the local encoding: lines with tags, of which only the
+/// start counts, each with its white space simplified. What is not understood is passed over; a
+/// record that is cut short is kept with what was read of it.
+QList<CatalogueEntry> parseEntries(const QByteArray &file);
+/// The same as two lists.
+CompilerCatalogue parseCatalogue(const QByteArray &file);
+
+/// Writes the line of a family.
+void writeFamilyLine(QTextStream &stream, const QString &family);
 
 /// Writes one record as lines of a catalogue file, with the empty line that follows it.
 void writeCompilerBlock(QTextStream &stream, const CompilerRecord &record);
 
-/// The text of a catalogue file. parseCatalogue() gives the same catalogue back unless a value
-/// holds white space other than single spaces, or its own tag.
-QString catalogueText(const CompilerCatalogue &catalogue);
+/// A whole catalogue file. parseCatalogue() gives the same catalogue back unless a value holds
+/// white space other than single spaces, its own tag, or what the local encoding lacks.
+QByteArray catalogueText(const CompilerCatalogue &catalogue);

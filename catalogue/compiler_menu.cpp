@@ -2,13 +2,16 @@
 
 #include "sub_popup_menu.h"
 
+#include <QMultiHash>
+
 CompilerMenu::CompilerMenu(CompilerMenuOwner *owner) : m_owner(owner) { }
 
 CompilerMenu::~CompilerMenu() = default;
 
 void CompilerMenu::build(const CompilerCatalogue &catalogue, const QString &familySet)
 {
-    m_families.clear(); // which takes them out of this menu, too
+    m_families.clear();                          // which takes them out of this menu, too
+    QMultiHash<QString, SubPopupMenu *> menusOf; // a family that is listed twice has two
     for (const QString &family : catalogue.families) {
         if (!familySet.isEmpty() && !familySet.contains(family))
             continue;
@@ -17,10 +20,14 @@ void CompilerMenu::build(const CompilerCatalogue &catalogue, const QString &fami
         menu->setTitle(menuText(family));
         menu->family = family;
         menu->owner = m_owner;
-        for (const QString &name : namesOf(catalogue.compilers, family))
-            menu->insertItem(name);
+        menusOf.insert(family, menu.get());
         addMenu(menu.get());
         m_families.push_back(std::move(menu));
+    }
+    for (const CompilerRecord &record : catalogue.compilers) {
+        const auto [first, last] = menusOf.equal_range(record.Family);
+        for (auto menu = first; menu != last; ++menu)
+            (*menu)->insertItem(record.Name);
     }
 }
 

@@ -4,26 +4,52 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// The toolkit looks through all items of a menu for each that it adds.
+const int mostItemsAtOnce = 2000;
+
+} // namespace
+
 SubPopupMenu::SubPopupMenu()
 {
     setPalette(QPalette(Qt::white, Qt::white));
     connect(this, &QMenu::triggered, this,
             [this](QAction *action) { slot_activated(int(actions().indexOf(action))); });
+    connect(this, &QMenu::aboutToShow, this, &SubPopupMenu::addWaitingItems);
 }
 
 void SubPopupMenu::insertItem(const QString &name)
 {
-    addAction(menuText(name))->setData(name);
+    if (actions().size() < mostItemsAtOnce)
+        addItem(name);
+    else
+        m_waitingItems << name;
+}
+
+void SubPopupMenu::addItem(const QString &name)
+{
+    QAction *action = addAction(menuText(name));
+    action->setData(name);
+    action->setEnabled(m_productCode.isEmpty() || isOffered(name, m_productCode));
+}
+
+void SubPopupMenu::addWaitingItems()
+{
+    for (const QString &name : std::exchange(m_waitingItems, {}))
+        addItem(name);
 }
 
 void SubPopupMenu::enableAllItems()
 {
+    m_productCode.clear();
     for (QAction *action : actions())
         action->setEnabled(true);
 }
 
 void SubPopupMenu::disableOtherLanguage(const QString &productCode)
 {
+    m_productCode = productCode;
     for (QAction *action : actions()) {
         if (!isOffered(action->data().toString(), productCode))
             action->setEnabled(false);

@@ -25,7 +25,8 @@ public:
     CompilerMenuOwner *owner = nullptr;
     QString family;
 
-    /// Adds the compiler \a name at the end. It is shown as it is, and has no shortcut.
+    /// Adds the compiler \a name at the end. It is shown as it is, and has no shortcut. Of very
+    /// many the later ones come when the menu is about to be shown.
     void insertItem(const QString &name);
     void enableAllItems();
     /// Disables the compilers that are not for the product, see isOffered().
@@ -34,6 +35,13 @@ public:
 public slots:
     /// Applies the compiler of item \a id, which is its index.
     void slot_activated(int id);
+
+private:
+    void addItem(const QString &name);
+    void addWaitingItems();
+
+    QStringList m_waitingItems;
+    QString m_productCode; ///< that items are disabled for; empty: all are enabled
 };
 
 /// \a name as a menu shows it literally: an ampersand would mark a shortcut.

@@ -1,16 +1,135 @@
 #include "text_file.h"
 
+#include "file_system.h"
+
 #include <QFile>
-#include <QSaveFile>
+#include <QFileInfo>
+#include <QLockFile>
+
+using namespace Qt::StringLiterals;
 
 namespace platform {
 
-std::optional<QString> readTextFile(const QString &path)
+namespace {
+
+const int longestWait = 5000; // milliseconds, for another program's save, which takes a few
+
+/// What \a path leads to, whether or not that exists.
+QString withoutLinks(QString path)
 {
-    QFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
+    const int mostLinks = 40; // as many as systems follow
+    for (int i = 0; i < mostLinks && QFileInfo(path).isSymLink(); ++i)
+        path = QFileInfo(path).symLinkTarget();
+    return path;
+}
+
+/// Whether all that \a writer writes has reached the open \a file. It waits in a buffer, so that
+/// only emptying that tells.
+bool writeAll(QFile &file, const FileReplacement::Writer &writer)
+{
+    return writer(file) && file.flush();
+}
+
+FileReplacement::Writer writerOf(const QByteArray &content)
+{
+    return [&content](QIODevice &device) { return device.write(content) == content.size(); };
+}
+
+} // namespace
+
+FileContent readFile(const QString &path, qint64 sizeLimit)
+{
+    const QFileInfo info(path);
+    if (path.isEmpty() || (!info.exists() && !info.isSymLink()))
         return {};
-    return QString::fromLocal8Bit(file.readAll());
+    QFile file(path);
+    if (!info.isFile() || info.size() > sizeLimit || !file.open(QIODevice::ReadOnly))
+        return {FileContent::Unusable, {}};
+    // One byte more than allowed shows that it has grown since.
+    const QByteArray bytes = file.read(sizeLimit + 1);
+    const bool isWhole =
+        bytes.size() <= sizeLimit && file.error() == QFileDevice::NoError && file.atEnd();
+    return isWhole ? FileContent {FileContent::Whole, bytes}
+                   : FileContent {FileContent::Unusable, {}};
+}
+
+std::optional<QString> readTextFile(const QString &path, qint64 sizeLimit)
+{
+    const FileContent content = readFile(path, sizeLimit);
+    if (content.state != FileContent::Whole)
+        return {};
+    return QString::fromLocal8Bit(content.bytes);
+}
+
+FileReplacement::FileReplacement(const QString &path)
+    : m_path(withoutLinks(path)), m_lock(std::make_unique<QLockFile>(m_path + ".lock"_L1))
+{
+    m_isLocked = m_lock->tryLock(longestWait);
+}
+
+FileReplacement::~FileReplacement() = default;
+
+FileContent FileReplacement::read(qint64 sizeLimit) const
+{
+    return readFile(m_path, sizeLimit);
+}
+
+bool FileReplacement::write(const QByteArray &content)
+{
+    return write(writerOf(content));
+}
+
+bool FileReplacement::write(const Writer &writer)
+{
+    const QFileInfo info(m_path);
+    if (m_path.isEmpty() || (info.exists() && !info.isFile()))
+        return false;
+    if (m_isLocked)
+        return replace(writer);
+    // A folder in which no lock can be made takes no new file either.
+    return m_lock->error() == QLockFile::PermissionError && info.exists() && writeInPlace(writer);
+}
+
+bool FileReplacement::replace(const Writer &writer)
+{
+    // Under the lock nobody else uses this name: what is there was left by a program that was
+    // killed.
+    const QString newPath = m_path + ".calyx-new"_L1;
+    QFile::remove(newPath);
+    QFile file(newPath);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return false;
+    if (!QFileInfo::exists(m_path) || takeOverOwner(file, m_path)) {
+        const bool isWritten = writeAll(file, writer) && reachDisk(file);
+        file.close();
+        if (isWritten && replaceFile(newPath, m_path))
+            return true;
+        file.remove();
+        return false;
+    }
+    file.remove();
+    return writeInPlace(writer);
+}
+
+bool FileReplacement::writeInPlace(const Writer &writer)
+{
+    const FileContent old = read();
+    if (old.state != FileContent::Whole)
+        return false;
+    QFile file(m_path);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    if (writeAll(file, writer) && reachDisk(file))
+        return true;
+    // There was room for the old content before.
+    file.close();
+    writeScratchFile(m_path, old.bytes);
+    return false;
+}
+
+bool writeFile(const QString &path, const QByteArray &content)
+{
+    return FileReplacement(path).write(content);
 }
 
 bool writeTextFile(const QString &path, const QString &text)
@@ -18,11 +137,10 @@ bool writeTextFile(const QString &path, const QString &text)
     return writeFile(path, text.toLocal8Bit());
 }
 
-bool writeFile(const QString &path, const QByteArray &content)
+bool writeScratchFile(const QString &path, const QByteArray &content)
 {
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size()
-        && file.commit();
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && writeAll(file, writerOf(content));
 }
 
 } // namespace platform

@@ -1,4 +1,5 @@
 #include "compiler_catalogue.h"
+#include "files.h"
 #include "row.h"
 #include "save_compiler_details.h"
 #include "wizard_test.h"
@@ -39,7 +40,7 @@ void writeCatalogue(const ProgramFolder &folder)
                                        {compiler("a - C", "no", "t"),
                                         compiler("b - C++", "yes", ""),
                                         compiler("get", "no", "Integration - g&t.exe")}};
-    folder.write("bin/compilers.txt", catalogueText(catalogue).toLocal8Bit());
+    folder.write("bin/compilers.txt", catalogueText(catalogue));
 }
 
 /// Opens the Exe Command menu, walks into the family's sub-menu and chooses a compiler with Enter.
@@ -142,7 +143,7 @@ private slots:
                            use(*dialog);
                            dialog->buttonOk->click();
                        });
-            return parseCatalogue(folder.read("bin/compilers.txt"));
+            return parseCatalogue(readTestFile(folder.path("bin/compilers.txt")));
         };
         // Over the chosen one, whose name and files stay.
         CompilerCatalogue saved = save([](SaveCompilerDetails &) {});
@@ -172,6 +173,10 @@ private slots:
             dialog.buttonCancel->click();
         });
         QCOMPARE(saved, before);
+
+        folder.write("bin/compilers.txt", QByteArray("\xff\xfe<\0C\0", 6));
+        QVERIFY(messageOf([&] { user->saveCatalogue(); }).contains("cannot be read whole"));
+        QCOMPARE(readTestFile(folder.path("bin/compilers.txt")).size(), 6);
     }
 };
 

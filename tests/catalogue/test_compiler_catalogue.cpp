@@ -1,7 +1,9 @@
-#include "compiler_catalogue.h"
+#include "catalogue_file.h"
 #include "download.h"
+#include "files.h"
 #include "row.h"
 
+#include <QTemporaryDir>
 #include <QTest>
 
 class TestCompilerCatalogue : public QObject
@@ -27,7 +29,8 @@ private slots:
     void readsFields()
     {
         QFETCH(QString, line);
-        const CompilerCatalogue read = parseCatalogue("<Compiler>\n" + line + "\n</Compiler>\n");
+        const CompilerCatalogue read =
+            parseCatalogue("<Compiler>\n" + line.toUtf8() + "\n</Compiler>\n");
         QCOMPARE(read.compilers.size(), 1);
         QTEST(read.compilers[0].Name, "name");
     }
@@ -54,7 +57,7 @@ private slots:
     void keepsToItsBlocks()
     {
         QFETCH(QString, text);
-        const CompilerCatalogue read = parseCatalogue(text);
+        const CompilerCatalogue read = parseCatalogue(text.toUtf8());
         QTEST(read.families, "families");
         QStringList names;
         for (const CompilerRecord &record : read.compilers)
@@ -72,7 +75,7 @@ private slots:
         record.Order = "%c %o%e ";
         record.SubHeaders = "s & <b>";
         const CompilerCatalogue catalogue {{"F1", "F2"}, {record, CompilerRecord()}};
-        const QString text = catalogueText(catalogue);
+        const QByteArray text = catalogueText(catalogue);
         QVERIFY(text.startsWith(
             "<CompilerFamily>F1</CompilerFamily>\n<CompilerFamily>F2</CompilerFamily>\n\n"
             " <Compiler>\n  <Name>cc - C</Name>\n  <Family>F1</Family>\n"
@@ -85,6 +88,70 @@ private slots:
             "  <SubHeaders>s & <b></SubHeaders>\n </Compiler>\n\n <Compiler>\n"));
         QCOMPARE(parseCatalogue(text), catalogue);
         QCOMPARE(catalogueText(parseCatalogue(text)), text);
+    }
+
+    void savesWhatHasChanged_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QByteArray>("saved"); // "@" stands for the block of the saved record
+        const auto row = [](const char *name, const QByteArray &file, const QByteArray &saved) {
+            QTest::newRow(name) << file << saved;
+        };
+        const QByteArray old = "<Compiler>\n<Name>n</Name>\n<Family>F</Family>\n</Compiler>";
+        row("an empty file", "", "<CompilerFamily>F</CompilerFamily>\n@\n");
+        row("an empty catalogue", "\n", "<CompilerFamily>F</CompilerFamily>\n\n@\n");
+        row("behind the others", "<CompilerFamily>E\n\n<Compiler>\n</Compiler>\n\n",
+            "<CompilerFamily>E\n<CompilerFamily>F</CompilerFamily>\n\n<Compiler>\n</"
+            "Compiler>\n\n@\n");
+        row("in the place of the old one, between what is no entry and no text",
+            "# \xff\r\n<CompilerFamily>F\r\n" + old + " \r\n# after\r\n",
+            "# \xff\r\n<CompilerFamily>F\r\n@# after\r\n");
+        row("in the place of the first", "<CompilerFamily>F\n" + old + "\n\n" + old,
+            "<CompilerFamily>F\n@\n" + old);
+        row("without a line end", "<CompilerFamily>E",
+            "<CompilerFamily>E\n<CompilerFamily>F</CompilerFamily>\n@\n");
+        row("behind one that is cut short", "<CompilerFamily>F\n<Compiler>\n<Name>a",
+            "<CompilerFamily>F\n<Compiler>\n<Name>a\n </Compiler>\n\n@\n");
+    }
+    void savesWhatHasChanged()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(QByteArray, saved);
+        CompilerRecord record;
+        record.Name = "n";
+        record.Family = "F";
+        record.ExeCommand = "cc";
+        const QByteArray block = catalogueText({{}, {record}}).mid(1).chopped(1);
+        CompilerRecord known;
+        known.Name = "known";
+        // Others have taken the known ones out of the file, and they stay out.
+        const CompilerCatalogue before {{"K"}, {known}};
+        QCOMPARE(withChanges(file, before, {{"K", "F"}, {known, record}}),
+                 saved.replace("@", block));
+    }
+
+    void keepsWhatItCannotRead_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<bool>("isSaved");
+        row("text", QByteArray("# text\n"), true);
+        row("UTF-16", QByteArray("\xff\xfe<\0C\0", 6), false);
+    }
+    void keepsWhatItCannotRead()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(bool, isSaved);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("compilers.txt");
+        CatalogueFile missing(path);
+        QCOMPARE(missing.save({{"F"}, {}}), CatalogueFile::Result::Saved);
+        QCOMPARE(readTestFile(path), QByteArray("<CompilerFamily>F</CompilerFamily>\n\n"));
+
+        writeTestFile(path, file);
+        CatalogueFile catalogue(path);
+        QCOMPARE(catalogue.load(), CompilerCatalogue());
+        QCOMPARE(catalogue.save({{"F"}, {}}) == CatalogueFile::Result::Saved, isSaved);
+        QCOMPARE(readTestFile(path) == file, !isSaved);
     }
 
     void keepsCommandsOutOfAddresses()

@@ -95,7 +95,7 @@ private slots:
         QFETCH(bool, isReset);
         const Answers none = unanswered();
         const auto isRecorded = [&recordLine](const CompilerRecord &record) {
-            return catalogueText({{}, {record}}).contains("  " + recordLine + "</");
+            return catalogueText({{}, {record}}).contains("  " + recordLine.toUtf8() + "</");
         };
 
         CalyxBase form;

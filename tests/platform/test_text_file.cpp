@@ -1,3 +1,4 @@
+#include "files.h"
 #include "text_file.h"
 
 #include <QDir>
@@ -14,6 +15,7 @@ private slots:
         const QTemporaryDir folder;
         const QString path = folder.filePath("größe.txt");
         QVERIFY(platform::writeTextFile(path, "old\n"));
+        writeTestFile(path + ".calyx-new", "left by a program that was killed");
         QVERIFY(platform::writeTextFile(path, "newer\n"));
 
         // A file that is open elsewhere can be replaced on some systems.
@@ -25,14 +27,21 @@ private slots:
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
 
         QVERIFY(!platform::writeTextFile(folder.filePath("missing/x"), "x"));
-        QVERIFY(!platform::readTextFile(folder.filePath("missing/x")));
+        QVERIFY(!platform::writeTextFile(folder.path(), "x"));
+        QVERIFY(!platform::writeTextFile("", "x"));
     }
 
-    void readsInvalidBytes()
+    void isReadWholeOrNotAtAll()
     {
+        using platform::FileContent;
         const QTemporaryDir folder;
         const QString path = folder.filePath("x");
-        QVERIFY(platform::writeFile(path, "a\xff\xc3(\xe2\x82z"));
+        QCOMPARE(platform::readFile(path).state, FileContent::Missing);
+        QCOMPARE(platform::readFile("").state, FileContent::Missing);
+        QCOMPARE(platform::readFile(folder.path()).state, FileContent::Unusable);
+        writeTestFile(path, "a\xff\xc3(\xe2\x82z");
+        QCOMPARE(platform::readFile(path, 7).bytes, readTestFile(path));
+        QCOMPARE(platform::readFile(path, 6).state, FileContent::Unusable);
         const QString text = platform::readTextFile(path).value();
         QVERIFY(text.startsWith('a') && text.contains('(') && text.endsWith('z'));
     }

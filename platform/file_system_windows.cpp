@@ -1,0 +1,39 @@
+#include "file_system.h"
+
+#include <QDir>
+#include <QFile>
+#include <io.h>
+#include <qt_windows.h>
+
+namespace platform {
+
+namespace {
+
+std::wstring nativePath(const QString &path)
+{
+    return QDir::toNativeSeparators(path).toStdWString();
+}
+
+} // namespace
+
+bool takeOverOwner(QFile &, const QString &)
+{
+    return true; // replaceFile() does
+}
+
+bool reachDisk(QFile &file)
+{
+    return FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(file.handle())));
+}
+
+bool replaceFile(const QString &newPath, const QString &path)
+{
+    const std::wstring from = nativePath(newPath), to = nativePath(path);
+    // Keeps the old file's owner, access rights and attributes.
+    if (ReplaceFileW(to.c_str(), from.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
+                     nullptr))
+        return true;
+    return !QFile::exists(path) && MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH);
+}
+
+} // namespace platform
