@@ -1,8 +1,10 @@
-// How well the wizard keeps up with a generator that prints 50 MB of lines: how long it takes until
-// all of them are on the page, and for how long at most the window does not answer meanwhile. The
-// peer is the toolkit's plain-text widget with the same program's output appended as it arrives.
+// How well the wizard keeps up with a generator that prints without end. For each kind of output:
+// the processor time until all of it is on the page, the longest time for which the window does not
+// answer meanwhile (in processor time, so that other programs do not count), and the peak of
+// memory. Each is compared with short lines in the same run, and those with the toolkit's
+// plain-text widget.
 //
-// Usage: bench_generator_output [MEGABYTES]
+// Usage: bench_generator_output [MEGABYTES]    50 unless said otherwise
 
 #include "calyx.h"
 #include "form_font.h"
@@ -11,9 +13,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFileInfo>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -21,59 +21,84 @@
 #include <QTimer>
 #include <cstdio>
 #include <cstring>
+#include <ctime>
 
 namespace {
 
-/// What this program does when it runs under the generator's name.
-int printLines(int megabytes)
+struct Output
 {
-    const char *line =
-        "a line of about eighty characters, as compilers and generators print them\n";
-    const long count = megabytes * 1'000'000L / long(std::strlen(line));
-    for (long i = 0; i < count; ++i)
-        std::fputs(line, stdout);
+    const char *name;
+    const char *piece; ///< what is printed again and again
+    bool isUnbuffered; ///< each by itself
+    long most;         ///< pieces; 0: as many as asked for
+};
+
+const Output outputs[] = {
+    {"short lines", "a line of about eighty characters, as compilers and generators print them\n",
+     false, 0},
+    {"plain-text widget",
+     "a line of about eighty characters, as compilers and generators print them\n", false, 0},
+    {"one line", "words without a line end ", false, 0},
+    {"Arabic", "السطر الأول من مخرجات المترجم الذي لا يتوقف عن الكتابة\n", false, 0},
+    {"emoji", "compiled 🙂 linked 🎉 warned ⚠️ and so on 👩‍💻\n", false, 0},
+    {"two bytes a write", "x\n", true, 20'000},
+    {"empty lines", "\n", false, 0},
+};
+
+/// What this program does when it runs under the generator's name.
+int print(int index, int megabytes)
+{
+    const Output &output = outputs[index];
+    const long asked = megabytes * 1'000'000L / long(std::strlen(output.piece));
+    if (output.isUnbuffered)
+        std::setvbuf(stdout, nullptr, _IONBF, 0);
+    for (long i = 0; i < (output.most ? output.most : asked); ++i)
+        std::fputs(output.piece, stdout);
     return 0;
 }
 
-struct Measurement
+double processorTime()
 {
-    qint64 total = 0;      ///< milliseconds
-    qint64 longestGap = 0; ///< milliseconds between two turns of the event loop
-    int lines = 0;
-};
+    return double(std::clock()) / CLOCKS_PER_SEC;
+}
 
-/// Runs the event loop until \a isDone, watching how often it turns.
-template <typename Predicate>
-Measurement measure(Predicate isDone)
+int peakMegabytes()
 {
-    Measurement measurement;
-    QElapsedTimer total, gap;
+    QFile status("/proc/self/status");
+    if (!status.open(QIODevice::ReadOnly))
+        return 0;
+    const QByteArray text = status.readAll();
+    return text.mid(text.indexOf("VmHWM:") + 6).simplified().split(' ').first().toInt() / 1000;
+}
+
+/// Runs the event loop until \a isDone and prints processor time, longest gap and memory.
+template <typename Predicate>
+int measure(Predicate isDone)
+{
+    const double start = processorTime();
+    double turn = start, longestGap = 0;
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, [&] {
-        measurement.longestGap = std::max(measurement.longestGap, gap.restart());
+        longestGap = std::max(longestGap, processorTime() - turn);
+        turn = processorTime();
     });
-    total.start();
-    gap.start();
     timer.start(0);
     while (!isDone())
         QApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    measurement.total = total.elapsed();
-    return measurement;
+    std::printf("%f %f %d\n", processorTime() - start, longestGap, peakMegabytes());
+    return 0;
 }
 
-Measurement measureWizard()
+int measureWizard()
 {
     Calyx wizard;
     wizard.show();
     wizard.showPage(wizard.Page4);
     wizard.accept();
-    Measurement measurement =
-        measure([&] { return wizard.buttonText(QWizard::CancelButton) == "Close"; });
-    measurement.lines = wizard.DetailsText->document()->blockCount();
-    return measurement;
+    return measure([&] { return wizard.buttonText(QWizard::CancelButton) == "Close"; });
 }
 
-Measurement measurePeer()
+int measurePlainText()
 {
     QPlainTextEdit peer;
     peer.resize(390, 310);
@@ -86,39 +111,49 @@ Measurement measurePeer()
         end.insertText(QString::fromLocal8Bit(process.readAllStandardOutput()));
     });
     process.start(QStringLiteral("Bexlor.exe"), QStringList());
-    Measurement measurement = measure(
+    return measure(
         [&] { return process.state() == QProcess::NotRunning && process.bytesAvailable() == 0; });
-    measurement.lines = peer.document()->blockCount();
-    return measurement;
-}
-
-void print(const char *name, const Measurement &measurement)
-{
-    std::printf("%-14s %8.1f s   longest gap %5lld ms   %d lines\n", name,
-                double(measurement.total) / 1000, static_cast<long long>(measurement.longestGap),
-                measurement.lines);
 }
 
 } // namespace
 
 int main(int argc, char *argv[])
 {
+    const int index = qEnvironmentVariableIntValue("OUTPUT");
     if (QFileInfo(QString::fromLocal8Bit(argv[0])).fileName() == QLatin1String("Bexlor.exe"))
-        return printLines(qEnvironmentVariableIntValue("MEGABYTES"));
+        return print(index, qEnvironmentVariableIntValue("MEGABYTES"));
 
     QApplication::setStyle(QStringLiteral("windows"));
     QApplication application(argc, argv);
     QApplication::setFont(formFont());
+    if (qEnvironmentVariableIsSet("OUTPUT"))
+        return QLatin1String(outputs[index].name) == "plain-text widget" ? measurePlainText()
+                                                                         : measureWizard();
+
     const QTemporaryDir folder;
     QFile::link(QApplication::applicationFilePath(), folder.filePath("Bexlor.exe"));
     qputenv("PATH", folder.path().toLocal8Bit());
     qputenv("MEGABYTES", argc > 1 ? argv[1] : "50");
     QDir::setCurrent(folder.path());
-
-    const Measurement wizard = measureWizard();
-    const Measurement peer = measurePeer();
-    print("wizard", wizard);
-    print("plain text", peer);
-    std::printf("ratio          %8.2f\n", double(wizard.total) / double(peer.total));
+    std::printf("%-18s %8s %7s %11s %7s %7s\n", "output", "seconds", "ratio", "longest gap",
+                "ratio", "MB");
+    double seconds = 0, gap = 0; // of the first
+    for (int i = 0; i < int(std::size(outputs)); ++i) {
+        qputenv("OUTPUT", QByteArray::number(i));
+        QProcess process;
+        process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        process.start(QApplication::applicationFilePath(), QStringList());
+        process.waitForFinished(-1);
+        const QList<QByteArray> figures = process.readAllStandardOutput().simplified().split(' ');
+        if (i == 0) {
+            seconds = figures.value(0).toDouble();
+            gap = figures.value(1).toDouble();
+        }
+        std::printf("%-18s %8.1f %7.2f %8.0f ms %7.2f %7d\n", outputs[i].name,
+                    figures.value(0).toDouble(), figures.value(0).toDouble() / seconds,
+                    1000 * figures.value(1).toDouble(), figures.value(1).toDouble() / gap,
+                    figures.value(2).toInt());
+        std::fflush(stdout);
+    }
     return 0;
 }

@@ -1,30 +1,95 @@
 #include "log_browser.h"
 
 #include <QScrollBar>
+#include <QTemporaryFile>
 #include <QTextBlock>
 #include <QTextCursor>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-// A line is laid out anew with every read that makes it longer, so that one without end would
-// freeze the window; beyond this many characters it is shown in pieces.
-const int longestLine = 8'000;
+// The toolkit lays a paragraph out anew with all that is added to it, and looks at every paragraph
+// again and again: neither may take long. A paragraph is a line of the text until there are many,
+// and then several lines together.
+const qsizetype longestParagraph = 4000;
+const qsizetype mostLinesTogether = 100;
+const int mostOfOneLine = 10'000;
+const int mostAtOnce = 1000;
+
+// What is shown: characters, and pixels. And what is left of it when it becomes more.
+const int mostCharacters = 64'000'000;
+const int greatestHeight = 18'000'000;
+const int charactersLeft = 200'000;
+
+// Of a longer text, the whole is in a file, too.
+const int longestInMemory = 1'000'000;
+
+// A page without an end is laid out as one of 2^23 pixels, behind which the toolkit does not come
+// to an end. It counts in 64ths of a pixel, which leaves less than 2^25 of them for a page with
+// one.
+const int pageHeight = 30'000'000;
+
+/// \a text with paragraphs in the place of its line ends, if the last paragraph so far is \a last.
+/// Where \a joinsLines is set, lines share a paragraph until it is long enough.
+QString inParagraphs(const QString &text, const QString &last, bool joinsLines)
+{
+    qsizetype ofParagraph = last.size();
+    qsizetype lines = last.count(QChar::LineSeparator) + 1;
+    qsizetype ofLine = last.size() - 1 - last.lastIndexOf(QChar::LineSeparator);
+    QString result;
+    result.reserve(text.size());
+    for (const QChar character : text) {
+        const bool endsLine = character == u'\n';
+        const bool breaksLine =
+            !endsLine && ofLine >= longestParagraph && !character.isLowSurrogate();
+        const bool isFull = ofParagraph >= longestParagraph || lines >= mostLinesTogether;
+        if (breaksLine || (endsLine && (!joinsLines || isFull))) {
+            result += QChar::ParagraphSeparator;
+            ofParagraph = ofLine = 0;
+            lines = 1;
+        } else if (endsLine) {
+            result += QChar::LineSeparator;
+            ofLine = 0;
+            ++lines;
+        }
+        if (!endsLine) {
+            result += character;
+            ++ofParagraph;
+            ++ofLine;
+        }
+    }
+    return result;
+}
+
+bool writeAll(QIODevice &device, const QByteArray &bytes)
+{
+    return device.write(bytes) == bytes.size();
+}
 
 } // namespace
 
 LogBrowser::LogBrowser(QWidget *parent) : QTextBrowser(parent) { }
 
+LogBrowser::~LogBrowser() = default;
+
 void LogBrowser::setText(const QString &text)
 {
     m_lineIsUnfinished = false;
-    setPlainText(text);
+    m_kept.reset();
+    m_isKept = true;
+    m_hidden = 0;
+    clear();
+    insertAtEnd(text);
+    verticalScrollBar()->setValue(0);
 }
 
 void LogBrowser::append(const QString &text)
 {
     m_lineIsUnfinished = false;
-    const bool lastParagraphIsEmpty = document()->lastBlock().length() <= 1;
-    insertAtEnd(lastParagraphIsEmpty ? text : u'\n' + text);
+    const QString last = document()->lastBlock().text();
+    const bool lastLineIsEmpty = last.isEmpty() || last.endsWith(QChar::LineSeparator);
+    insertAtEnd(lastLineIsEmpty ? text : u'\n' + text);
 }
 
 void LogBrowser::write(const QString &output)
@@ -35,17 +100,67 @@ void LogBrowser::write(const QString &output)
         insertAtEnd(output);
     else
         append(output);
-    m_lineIsUnfinished = !output.endsWith(u'\n') && document()->lastBlock().length() < longestLine;
+    m_lineIsUnfinished = !output.endsWith(u'\n');
 }
 
 void LogBrowser::insertAtEnd(const QString &text)
 {
+    keep(text);
     // A reader who has scrolled back keeps the place; at the end the text scrolls along.
     QScrollBar *scrollBar = verticalScrollBar();
     const bool atEnd = scrollBar->value() == scrollBar->maximum();
+    if (document()->characterCount() > mostCharacters || scrollBar->maximum() > greatestHeight)
+        showEndOnly();
+    // The toolkit forgets it when it lays all out anew, as it does when the scroll bar comes.
+    if (document()->pageSize().height() != pageHeight)
+        document()->setPageSize(QSizeF(document()->pageSize().width(), pageHeight));
     QTextCursor end(document());
     end.movePosition(QTextCursor::End);
-    end.insertText(text);
+    const bool joinsLines =
+        document()->blockCount() > mostOfOneLine || text.count(u'\n') > mostAtOnce;
+    end.insertText(inParagraphs(text, document()->lastBlock().text(), joinsLines));
     if (atEnd)
         scrollBar->setValue(scrollBar->maximum());
+}
+
+void LogBrowser::keep(const QString &text)
+{
+    if (m_kept) {
+        m_isKept = m_isKept && writeAll(*m_kept, text.toLocal8Bit());
+    } else if (document()->characterCount() + text.size() > longestInMemory) {
+        m_kept = std::make_unique<QTemporaryFile>();
+        m_isKept = m_kept->open() && writeAll(*m_kept, (toPlainText() + text).toLocal8Bit());
+    }
+}
+
+void LogBrowser::showEndOnly()
+{
+    QTextCursor end(document());
+    end.movePosition(QTextCursor::End);
+    const int firstShown = end.position() - charactersLeft;
+    end.setPosition(document()->findBlock(firstShown).position(), QTextCursor::KeepAnchor);
+    m_hidden += end.selectionStart();
+    const QString rest = end.selectedText();
+    clear();
+    QTextCursor(document())
+        .insertText(
+            u"[%1 million older characters are not shown; %2]\n"_s
+                .arg(double(m_hidden) / 1e6, 0, 'f', 1)
+                .arg(m_isKept ? "a saved log has them."_L1 : "there was no room to keep them."_L1)
+            + rest);
+}
+
+bool LogBrowser::save(QIODevice &device) const
+{
+    if (!m_kept || !m_isKept || !m_kept->flush())
+        return writeAll(device, toPlainText().toLocal8Bit());
+    QFile file(m_kept->fileName());
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const qint64 piece = 1'000'000;
+    while (!file.atEnd()) {
+        if (!writeAll(device, file.read(piece)))
+            return false;
+    }
+    return true;
 }
