@@ -4,7 +4,7 @@
 //
 // Usage: bench_header_pass [DIRECTORY]
 
-#include "names.h"
+#include "header_scan.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -47,15 +47,15 @@ int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
     const QString directory = argc > 1 ? QString::fromLocal8Bit(argv[1]) : "/usr/include";
-    TreeNames tree;
-    const double pass = fastest(7, [&] { tree = readTree({directory}); });
+    HeaderScan scan;
+    const double pass = fastest(7, [&] { scan = scanHeaders({directory}); });
     const double ripgrep =
         timeOf(7, "rg", {"--no-heading", "--no-ignore", "--hidden", "--text", "^\\s*#", directory});
     const double ctags =
         timeOf(2, "ctags",
                {"-f", "-", "-R", "--languages=C,C++", "--kinds-C=d", "--kinds-C++=d", directory});
     std::printf("header pass  %6.3f s   %lld files, %lld names\n", pass,
-                static_cast<long long>(tree.files), static_cast<long long>(tree.names.size()));
+                static_cast<long long>(scan.files), static_cast<long long>(scan.names.size()));
     std::printf("ripgrep      %6.3f s   ratio %.2f\n", ripgrep, pass / ripgrep);
     std::printf("ctags        %6.3f s   ratio %.2f\n", ctags, pass / ctags);
     return 0;

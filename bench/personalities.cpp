@@ -13,7 +13,8 @@
 // Of more headers than that, 400 unless said otherwise and all for 0, an evenly spread part is
 // taken.
 
-#include "facts.h"
+#include "dialects.h"
+#include "personality.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -163,38 +164,6 @@ QMap<QByteArray, Macro> byName(const QList<Macro> &macros)
     return map;
 }
 
-/// What a personality says: macros and, by name, those that are undetermined; the search path.
-struct Personality
-{
-    QMap<QByteArray, Macro> macros;
-    QSet<QByteArray> undetermined;
-    QStringList searchPath;
-};
-
-Personality readPersonality(const QString &path)
-{
-    Personality personality;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return personality;
-    QByteArray listing;
-    for (const QByteArray &line : file.readAll().split('\n')) {
-        if (line.startsWith("\"-D")) {
-            QByteArray definition = line.mid(3, line.size() - 4);
-            definition.replace("\\\"", "\"").replace("\\\\", "\\");
-            const qsizetype equals = definition.indexOf('=');
-            listing +=
-                "#define " + definition.left(equals) + ' ' + definition.mid(equals + 1) + '\n';
-        } else if (line.startsWith("#: macro ")) {
-            personality.undetermined << line.split(' ').value(2);
-        } else if (line.startsWith("#: search-path ")) {
-            personality.searchPath << QString::fromUtf8(line.mid(15));
-        }
-    }
-    personality.macros = byName(parseMacros(listing));
-    return personality;
-}
-
 /// The headers below \a directories, as they are included, at most \a limit of them (0: all).
 QStringList headersBelow(const QStringList &directories, bool isCpp, int limit)
 {
@@ -307,17 +276,20 @@ void measure(const Subject &subject, const QString &generator, int limit)
     const QString source = folder.filePath(subject.isCpp ? "empty.cpp" : "empty.c");
     QFile(source).open(QIODevice::WriteOnly);
     const QStringList command = subject.command.split(' ');
-    const Personality learned = readPersonality(folder.filePath("x.p_c"));
+    QFile personality(folder.filePath("x.p_c"));
+    personality.open(QIODevice::ReadOnly);
+    const Facts learned = parsePersonality(personality.readAll()).facts;
+    const QMap<QByteArray, Macro> macros = byName(learned.macros.known);
     QMap<QByteArray, Macro> truth =
-        byName(parseMacros(run(command + QStringList {"-dM", "-E", source}, folder.path()).output));
+        byName(macrosIn(run(command + QStringList {"-dM", "-E", source}, folder.path()).output));
     for (const QByteArray &name : subject.listedNames)
         truth[name] = {name, {}};
     const bool hasValues = subject.listedNames.isEmpty();
     int found = 0, equal = 0, wrong = 0;
     QByteArray remarks;
     for (auto macro = truth.cbegin(); macro != truth.cend(); ++macro) {
-        const bool isLearned = learned.macros.contains(macro.key());
-        if (!isLearned && !learned.undetermined.contains(macro.key())) {
+        const bool isLearned = macros.contains(macro.key());
+        if (!isLearned && !learned.macros.undetermined.contains(macro.key())) {
             remarks += "    not found: " + macro.key() + '\n';
             continue;
         }
@@ -328,7 +300,7 @@ void measure(const Subject &subject, const QString &generator, int limit)
             remarks += "    undetermined: " + macro->name + '\n';
             continue;
         }
-        const Macro &mine = learned.macros[macro.key()];
+        const Macro mine = macros[macro.key()];
         const bool isEqual = mine.name == macro->name && mine.value == macro->value;
         equal += isEqual;
         wrong += !isEqual;
@@ -336,10 +308,10 @@ void measure(const Subject &subject, const QString &generator, int limit)
             remarks += "    wrong: " + macro->name + '\n';
     }
 
-    Facts listed;
-    parseSearchPath(run(command + QStringList {"-v", "-E", source}, folder.path()).errors, listed);
-    const QStringList searchPath =
-        listed.searchPath.isEmpty() ? learned.searchPath : listed.searchPath;
+    const QStringList listed =
+        directoriesBehind("#include <...> search starts here:",
+                          run(command + QStringList {"-v", "-E", source}, folder.path()).errors);
+    const QStringList searchPath = listed.isEmpty() ? learned.searchPath.directories : listed;
     Headers headers;
     tryHeaders(subject, folder.filePath("x.p_c"), searchPath,
                headersBelow(searchPath, subject.isCpp, limit), folder.path(), headers);

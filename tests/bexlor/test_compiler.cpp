@@ -1,4 +1,5 @@
 #include "compiler.h"
+#include "files.h"
 #include "row.h"
 
 #include <QDir>
@@ -51,11 +52,21 @@ private slots:
         QFETCH(QString, absolute);
         const QTemporaryDir folder;
         QDir(folder.path()).mkdir("inc dir");
-        QVERIFY(QFile(folder.filePath("first.h")).open(QIODevice::WriteOnly));
+        writeTestFile(folder.filePath("first.h"));
         QDir::setCurrent(folder.path());
         const QString made = withAbsolutePath(word);
         QCOMPARE(made, absolute.replace("$", QDir::currentPath()));
         QDir::setCurrent(QDir::rootPath());
+    }
+
+    void keepsWhatIsIncludedFirstApart()
+    {
+        Arguments arguments;
+        arguments.command = "\"cc -include stdio.h -m32 -imacros first.h -include\"";
+        const Compiler compiler = findCompiler(arguments);
+        QCOMPARE(compiler.command.mid(1), QStringList({"-m32", "-include"}));
+        QCOMPARE(compiler.includedFirst,
+                 QStringList({"-include", "stdio.h", "-imacros", "first.h"}));
     }
 
     void leavesOutWhatMakesErrorsOfWarnings()
@@ -70,25 +81,36 @@ private slots:
     {
         QTest::addColumn<QString>("order");
         QTest::addColumn<QString>("outputFlag");
+        QTest::addColumn<QString>("objectFlag");
         QTest::addColumn<QString>("command"); // words, each followed by "|"
-        row("joined flags", "%c %o%e %d%j %s ", "-o", "cc|-m32|-oout.o|-DA|-DB=1 2|-c|in.c|");
-        row("flags apart", "%c %o %e %d %j %s ", "-o", "cc|-m32|-o|out.o|-D|A|-D|B=1 2|-c|in.c|");
-        row("source first", "%s %c ", "-o", "in.c|cc|-m32|");
-        row("no output flag", "%c %o%e %j %s ", "", "cc|-m32|-c|in.c|");
-        row("output without a flag", "%c %e %s ", "", "cc|-m32|out.o|in.c|");
+        row("joined flags", "%c %o%e %d%j %s ", "-o", "-c", "cc|-m32|-oout.o|-DA|-DB=1 2|-c|in.c|");
+        row("flags apart", "%c %o %e %d %j %s ", "-o", "-c",
+            "cc|-m32|-o|out.o|-D|A|-D|B=1 2|-c|in.c|");
+        row("source first", "%s %c ", "-o", "-c", "in.c|cc|-m32|");
+        row("no output flag", "%c %o%e %j %s ", "", "-c", "cc|-m32|-c|in.c|");
+        row("output without a flag", "%c %e %s ", "", "-c", "cc|-m32|out.o|in.c|");
+        row("joined to no object flag", "%c %o%j %e %s ", "-o", "", "cc|-m32|-o|out.o|in.c|");
+        row("joined to nothing", "%c %s %o", "-o", "", "cc|-m32|in.c|-o|");
     }
     void ordersTheCommand()
     {
         QFETCH(QString, order);
         QFETCH(QString, outputFlag);
+        QFETCH(QString, objectFlag);
         Compiler compiler;
         compiler.command = QStringList {"cc", "-m32"};
-        compiler.outputFlag = outputFlag;
-        compiler.objectFlag = "-c";
-        compiler.defineFlag = "-D";
-        compiler.order = order;
+        compiler.layout = {outputFlag, objectFlag, "-D", ".o", order};
         compiler.defines = QStringList {"A", "B=1 2"};
-        QTEST(compileCommand(compiler, "in.c", "out.o").join('|') + '|', "command");
+        QTEST(probeCommand(compiler, "in.c", "out.o").join('|') + '|', "command");
+    }
+
+    void makesAProgramWithoutTheObjectFlag()
+    {
+        Compiler compiler;
+        compiler.command = QStringList {"cc"};
+        compiler.layout = {"-o", "-c", "-D", ".o", "%c %o %e %j %s "};
+        QCOMPARE(probeCommand(compiler, "in.c", "a", CompileTo::Program),
+                 QStringList({"cc", "-o", "a", "in.c"}));
     }
 };
 

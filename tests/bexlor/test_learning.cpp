@@ -1,17 +1,18 @@
 #include "learning.h"
+
+#include "dialects.h"
+#include "files.h"
 #include "row.h"
 
 #include <QDir>
-#include <QFile>
 #include <QMap>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
-#include <algorithm>
 
-// Compilers that understand the GNU driver's options are asked for what they would answer to them
-// by probes alone, and the two answers are compared.
+// Compilers that list their macros are asked for them by probes alone, and the two answers are
+// compared.
 class TestLearning : public QObject
 {
     Q_OBJECT
@@ -19,35 +20,36 @@ class TestLearning : public QObject
 private:
     QTemporaryDir m_folder;
 
-    Compiler compiler(const QStringList &command, bool isCross = false) const
+    /// Something that must be asked, with all that it needs.
+    struct Subject
     {
-        Compiler compiler;
-        compiler.command = command;
-        compiler.command.first() = QStandardPaths::findExecutable(command.first());
-        compiler.outputFlag = "-o";
-        compiler.objectFlag = "-c";
-        compiler.defineFlag = "-D";
-        compiler.objectExtension = command.first() == "sdcc" ? ".rel" : ".o";
-        compiler.order = "%c %o %e %d%j %s ";
-        compiler.isCross = isCross;
-        return compiler;
-    }
+        QTemporaryDir folder;
+        ProbeRunner runner;
+        Questions questions;
+
+        explicit Subject(const QStringList &command, bool isSmall = false)
+            : runner(compiler(command), folder.path(), isSmall), questions(runner)
+        { }
+
+        static Compiler compiler(const QStringList &command)
+        {
+            Compiler compiler;
+            compiler.command = command;
+            compiler.command.first() = QStandardPaths::findExecutable(command.first());
+            compiler.isCross = command.first() == "sdcc";
+            compiler.layout = {"-o", "-c", "-D", compiler.isCross ? ".rel" : ".o",
+                               "%c %o %e %d%j %s "};
+            return compiler;
+        }
+    };
 
     static QByteArray output(const QStringList &command)
     {
         QProcess process;
         process.setStandardInputFile(QProcess::nullDevice());
         process.start(command.first(), command.mid(1));
-        process.waitForFinished();
+        process.waitForFinished(-1);
         return process.readAllStandardOutput();
-    }
-
-    void write(const QString &name, const QByteArray &content) const
-    {
-        QDir(m_folder.path()).mkpath(QFileInfo(name).path());
-        QFile file(m_folder.filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
     }
 
     static QMap<QByteArray, QByteArray> mapOf(const QList<Macro> &macros)
@@ -67,7 +69,6 @@ private slots:
         row("gcc", QStringList {"gcc"}, false, 3);
         row("object files without bytes", QStringList {"gcc", "-flto"}, false, 3);
         row("another character set", QStringList {"gcc", "-fexec-charset=IBM1047"}, false, 3);
-        row("cross compiler", QStringList {"arm-none-eabi-gcc"}, false, 3);
         row("stops at the first error", QStringList {"tcc"}, false, 5);
         row("objects of text, small probes", QStringList {"sdcc", "-mz80"}, true, 0);
     }
@@ -76,41 +77,37 @@ private slots:
         QFETCH(QStringList, command);
         QFETCH(bool, isSmall);
         QFETCH(int, mayMiss);
-        write("x.c", "\n");
+        writeTestFile(m_folder.filePath("x.c"), "\n");
         // Some that no list knows: nested, empty, with a comma, like functions, hidden by a paste.
         const QStringList own {
             "-DQQ_VALUE=QQ_INNER",   "-DQQ_INNER=(1 + 2)",          "-DQQ_EMPTY=",
             "-DQQ_COMMA=1,2",        "-DQQ_STRING=\"a \\\"b\\\"\"", "-DQQ_FUNCTION(x)=x ## U",
             "-DQQ_TWO(a,b)=(a) + #b"};
-        write("names.h",
-              "#if QQ_VALUE + QQ_INNER + QQ_EMPTY + QQ_COMMA + QQ_STRING + QQ_FUNCTION + "
-              "QQ_TWO + QQ_ABSENT\n#endif\n");
-        const bool takesFunctions = command.first() != "tcc" && command.first() != "sdcc";
+        const QList<ScannedName> names {{"QQ_VALUE", TestedInHeader}, {"QQ_INNER", TestedInHeader},
+                                        {"QQ_EMPTY", TestedInHeader}, {"QQ_COMMA", TestedInHeader},
+                                        {"QQ_STRING", InBinary},      {"QQ_ABSENT", InBinary}};
+        const QStringList defines {"QQ_FUNCTION(x)=x ## U", "QQ_TWO(a,b)=(a) + #b"};
+        const bool takesFunctions = command.first() == "gcc";
         QStringList withOwn = command;
         for (const QString &define : own) {
             if (takesFunctions || !(define.contains("(x)") || define.contains("(a,b)")))
                 withOwn << define;
         }
-        const QMap<QByteArray, QByteArray> truth = mapOf(
-            parseMacros(output(withOwn + QStringList {"-dM", "-E", m_folder.filePath("x.c")})));
+        const QMap<QByteArray, QByteArray> truth =
+            mapOf(macrosIn(output(withOwn + QStringList {"-dM", "-E", m_folder.filePath("x.c")})));
         QVERIFY(truth.size() > 20);
 
-        const QTemporaryDir workshop;
-        const Prober prober(compiler(withOwn), workshop.path(), isSmall);
-        const Experiment experiment(prober, true);
-        QVERIFY(experiment.readsConstants());
-        Facts facts;
-        learnMacros(experiment, readTree({m_folder.path()}).names, facts);
-        const QMap<QByteArray, QByteArray> learned = mapOf(facts.macros);
+        const Subject subject(withOwn, isSmall);
+        QVERIFY(subject.questions.readsConstants());
+        const MacroFacts macros = learnMacros(subject.questions, macroCandidates(names, defines));
+        const QMap<QByteArray, QByteArray> learned = mapOf(macros.known);
         QByteArray wrong, missing;
         for (auto macro = truth.begin(); macro != truth.end(); ++macro) {
-            const QByteArray name = macro.key().split('(').first();
-            if (!learned.contains(macro.key())) {
-                if (!facts.undeterminedMacros.contains(name))
-                    missing += macro.key() + ' ';
-            } else if (learned[macro.key()] != macro.value()) {
-                wrong +=
-                    macro.key() + " is " + macro.value() + ", not " + learned[macro.key()] + '\n';
+            if (learned.contains(macro.key())) {
+                if (learned[macro.key()] != macro.value())
+                    wrong += macro.key() + " is " + macro.value() + '\n';
+            } else if (!macros.undetermined.contains(macro.key().split('(').first())) {
+                missing += macro.key() + ' ';
             }
         }
         QCOMPARE(wrong, QByteArray());
@@ -124,51 +121,77 @@ private slots:
         QTest::addColumn<QStringList>("command");
         QTest::addColumn<QString>("types");
         row("gcc", QStringList {"gcc"},
-            "short2/2 int4/4 long8/8 long double16/16 "
-            "void *8/8 signed little unsigned long int");
-        row("32 bits, unsigned char",
-            QStringList {"gcc", "-m32", "-funsigned-char", "-fshort-wchar"},
-            "short2/2 int4/4 long4/4 long double12/4 void *4/4 unsigned little unsigned int "
-            "unsigned short");
-        row("8-bit", QStringList {"sdcc", "-mz80"},
-            "short2/1 int2/1 long4/1 void *2/1 unsigned little unsigned int "
-            "unsigned long");
+            "short2/2 int4/4 long8/8 long double16/16 void *8/8 signed enum4 order1 "
+            "unsigned long|long|int");
+        row("32 bits, other options",
+            QStringList {"gcc", "-m32", "-funsigned-char", "-fshort-wchar", "-fshort-enums",
+                         "-mlong-double-64"},
+            "short2/2 int4/4 long4/4 long double8/4 void *4/4 unsigned enum1 order1 "
+            "unsigned int|int|unsigned short");
+        row("8 bits", QStringList {"sdcc", "-mz80"},
+            "short2/1 int2/1 long4/1 void *2/1 unsigned enum1 order1 "
+            "unsigned int|int|unsigned long");
     }
     void measuresTypes()
     {
         QFETCH(QStringList, command);
-        const QTemporaryDir workshop;
-        const Prober prober(compiler(command), workshop.path(), false);
-        const Experiment experiment(prober, false);
-        Facts facts;
-        learnTypes(experiment, facts);
-        QByteArray shown;
-        for (const Type &type : facts.types) {
+        const Subject subject(command);
+        const TypeFacts types = learnTypes(subject.questions);
+        QString shown;
+        for (const Type &type : types.basic) {
             if (QList<QByteArray> {"short", "int", "long", "long double", "void *"}.contains(
                     type.name))
-                shown += type.name + QByteArray::number(type.size) + '/'
-                       + QByteArray::number(type.alignment) + ' ';
+                shown += QString("%1%2/%3 ").arg(type.name).arg(type.size).arg(type.alignment);
         }
-        shown += facts.charIsUnsigned ? "unsigned " : "signed ";
-        shown += facts.byteOrder == ByteOrder::LittleEndian ? "little " : "other ";
-        QTEST(QString(shown + facts.sizeType + ' ' + facts.wideCharacterType), "types");
+        shown += QString("%1 enum%2 order%3 ")
+                     .arg(types.charIsUnsigned ? "unsigned" : "signed")
+                     .arg(types.smallEnumSize)
+                     .arg(int(types.byteOrder));
+        shown += types.sizeType + '|' + types.pointerDifferenceType + '|' + types.wideCharacterType;
+        QTEST(shown, "types");
     }
 
     void findsKeywords()
     {
-        const QTemporaryDir workshop;
-        const Prober prober(compiler({"sdcc", "-mmcs51"}, true), workshop.path(), true);
-        const Experiment experiment(prober, false);
-        Facts facts;
-        learnTypes(experiment, facts);
-        learnKeywords(experiment, {{"__near", UsedInHeader}, {"ordinary", UsedInHeader}}, facts);
+        const Subject subject({"sdcc", "-mmcs51"}, true);
+        TypeFacts types;
+        types.basic = {{"char", 1, 1}, {"int", 2, 1}, {"float", 4, 1}};
         QMap<QByteArray, QByteArray> forms;
-        for (const Keyword &keyword : facts.keywords)
+        for (const Keyword &keyword : learnKeywords(
+                 subject.questions, {{"__near", UsedInHeader}, {"ordinary", UsedInHeader}},
+                 {{{"__xdata", ""}}, {"__idata"}}, types))
             forms[keyword.name] = QByteArray::number(keyword.form) + keyword.standIn;
-        QCOMPARE(forms.value("__xdata"), QByteArray::number(Keyword::Qualifier));
+        QCOMPARE(forms.value("__near"), QByteArray::number(Keyword::Qualifier));
         QCOMPARE(forms.value("__at"), QByteArray::number(Keyword::QualifierWithArgument));
         QCOMPARE(forms.value("__sfr"), QByteArray::number(Keyword::TypeName) + "unsigned char");
-        QVERIFY(!forms.contains("ordinary") && !forms.contains("__attribute__"));
+        for (const char *other : {"ordinary", "__attribute__", "__xdata", "__idata"})
+            QVERIFY2(!forms.contains(other), other);
+    }
+
+    void findsTheListedDirectories_data()
+    {
+        QTest::addColumn<QStringList>("command");
+        QTest::addColumn<QString>("header");
+        row("gcc", QStringList {"gcc", "-ansi"}, "stdio.h");
+        row("tcc", QStringList {"tcc", "-DA"}, "stdio.h");
+        row("sdcc", QStringList {"sdcc", "-mmcs51"}, "8051.h");
+    }
+    void findsTheListedDirectories()
+    {
+        QFETCH(QStringList, command);
+        QFETCH(QString, header);
+        writeTestFile(m_folder.filePath("x.c"), "\n");
+        command << "-I" + m_folder.path();
+        const RunCommand run = [this](const QStringList &question) {
+            return platform::runProgram(question, m_folder.path(), 60'000);
+        };
+        const DialectAnswers answers = askInDialects(run, command, "x.c");
+        const QStringList &directories = answers.searchPath.directories;
+        QCOMPARE(directories.value(0), QDir(m_folder.path()).canonicalPath());
+        QVERIFY(std::any_of(directories.begin(), directories.end(), [&header](const QString &d) {
+            return QFile::exists(d + '/' + header);
+        }));
+        QVERIFY(answers.macros.size() > 10 && !answers.versionLine.isEmpty());
     }
 
     void findsTheSearchPath_data()
@@ -180,9 +203,11 @@ private slots:
     void findsTheSearchPath()
     {
         QFETCH(QStringList, command);
-        const QTemporaryDir workshop;
         const auto at = [this](const char *path) {
             return QFileInfo(m_folder.filePath(path)).canonicalFilePath();
+        };
+        const auto write = [this](const QString &path, const QByteArray &content) {
+            writeTestFile(m_folder.filePath(path), content);
         };
         write("path/late/common.h", "#define FROM_LATE 1\n");
         write("path/late/only_late.h", "int broken(;\n");
@@ -190,17 +215,14 @@ private slots:
         write("path/late/below/not_searched.h", "\n");
         write("path/other/common.h", "#define FROM_OTHER 1\n");
         write("path/hollow/bits/deep.h", "\n");
-        const Prober prober(compiler(command
-                                     + QStringList {"-I" + at("path/early"), "-I" + at("path/late"),
-                                                    "-I" + at("path/hollow")}),
-                            workshop.path(), false);
-        const Experiment experiment(prober, true);
-        Facts facts;
-        learnSearchPath(experiment, readTree({m_folder.filePath("path")}).headers, facts);
-        QStringList found = facts.searchPath;
+        for (const char *searched : {"path/early", "path/late", "path/hollow"})
+            command << "-I" + at(searched);
+        const Subject subject(command);
+        const QStringList found =
+            learnSearchPath(subject.questions, scanHeaders({m_folder.filePath("path")}).headers);
+        QCOMPARE(found.size(), 3);
+        QVERIFY(found.contains(at("path/hollow")));
         QVERIFY(found.indexOf(at("path/early")) < found.indexOf(at("path/late")));
-        found.sort();
-        QCOMPARE(found, QStringList({at("path/early"), at("path/hollow"), at("path/late")}));
     }
 };
 

@@ -1,72 +1,196 @@
 #include "personality.h"
 
+#include "clang.h"
+#include "dialects.h"
+#include "files.h"
+#include "row.h"
+
+#include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
-#include <algorithm>
+
+namespace {
+
+struct Output
+{
+    QByteArray output;
+    QByteArray errors;
+};
+
+Output run(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.start(program, arguments);
+    process.waitForFinished(-1);
+    return {process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+/// The macros that clang has with the personality \a text, in the language of \a source.
+Output macrosOfClangWith(const QByteArray &text, const QString &source)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("odd \"name\".p_c");
+    writeTestFile(path, text);
+    return run("clang", {"--config", path, "-dM", "-E", source});
+}
+
+QList<Macro> sorted(QList<Macro> macros)
+{
+    std::sort(macros.begin(), macros.end(),
+              [](const Macro &a, const Macro &b) { return a.name < b.name; });
+    return macros;
+}
+
+/// Everything that a personality may hold, with characters that need care.
+Personality fullPersonality()
+{
+    Arguments arguments;
+    arguments.command = "\"/odd folder/cc\" -DX=\\ ";
+    arguments.switches = QStringList {"-a b", "-c"};
+    arguments.forceIncludeFile = "/first \"one\".h";
+    arguments.substituteHeaders = QString::fromUtf8("/gr\303\266\303\237e \\x");
+    arguments.headerDirectories = QStringList {"/usr/include"};
+    Facts facts;
+    facts.versionLine = "cc \377 1.2, size 3";
+    facts.macros.known = {{"A", "\"a \\\"b\\\" \\\\\" = 1"}, {"F(a,b)", "a##b #a"}, {"EMPTY", ""}};
+    facts.macros.undetermined = {"B", "C"};
+    facts.types.basic = {{"int", 2, 1}, {"void (*)(void)", 4, 2}};
+    facts.types.sizeType = "unsigned int";
+    facts.types.pointerDifferenceType = "long long";
+    facts.types.wideCharacterType = "signed char";
+    facts.types.charIsUnsigned = true;
+    facts.types.smallEnumSize = 1;
+    facts.types.byteOrder = ByteOrder::BigEndian;
+    facts.keywords = {{"__a", Keyword::Qualifier, {}},
+                      {"__b", Keyword::QualifierWithArgument, {}},
+                      {"__c", Keyword::TypeName, "unsigned long int"},
+                      {"__d", Keyword::TypeName, {}},
+                      {"__e", Keyword::Undetermined, {}}};
+    facts.searchPath = {{"/a b", "/c"}, {"/q"}};
+    return composePersonality(arguments, facts, {"-include", "x.h", "-imacros", "y z.h"},
+                              "-DFROM_TEMPLATE=1\n# Language\n#: keyword __f qualifier");
+}
+
+} // namespace
 
 class TestPersonality : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void readsMacroListings()
+    void isReadAsItWasWritten()
     {
-        const QList<Macro> macros = parseMacros("#define A 1\n#define EMPTY\n#define E2 \r\n"
-                                                "#define F(a, b) (a) b\n#define G (x)\n"
-                                                "#define H() \nnoise\n#define V(...) \"#define\"");
-        QStringList read;
-        for (const Macro &macro : macros)
-            read << macro.name + "|" + macro.value;
-        QCOMPARE(read, QStringList({"A|1", "EMPTY|", "E2|", "F(a, b)|(a) b", "G|(x)", "H()|",
-                                    "V(...)|\"#define\""}));
+        const Personality full = fullPersonality();
+        QVERIFY(full.keywordDefinitions.size() == 3 && full.includedFirst.size() == 3);
+        QCOMPARE(full.searchPath.size(), 6);
+        Personality bare;
+        Personality little = full;
+        little.facts.types.byteOrder = ByteOrder::LittleEndian;
+        little.facts.types.charIsUnsigned = false;
+        little.templateText.clear();
+        Personality nested = full; // one whose template has been a personality
+        nested.templateText = personalityText(full);
+        for (const Personality &personality : {full, bare, little, nested}) {
+            const QByteArray text = personalityText(personality);
+            const Personality read = parsePersonality(text);
+            QCOMPARE(personalityText(read), text);
+            QVERIFY(read == personality);
+        }
     }
 
-    void readsSearchPaths()
+    void saysWhatClangCannotBeTold()
     {
         Facts facts;
-        parseSearchPath("noise\n#include \"...\" search starts here:\n /quoted\n"
-                        "#include <...> search starts here:\n /a b/../c\n /d\n /d\n"
-                        "End of search list.\n /not",
-                        facts);
-        parseSearchPath("no listing", facts);
-        QCOMPARE(facts.quotedSearchPath, QStringList {"/quoted"});
-        QCOMPARE(facts.searchPath, QStringList({"/a b/../c", "/d"}));
+        facts.macros.known = {{"A", "1"}, {"B", "<CFGDIR>"}};
+        const Personality personality = composePersonality({}, facts, {}, {});
+        QCOMPARE(personality.facts.macros.known, QList<Macro>({{"A", "1"}}));
+        QCOMPARE(personality.facts.macros.undetermined, QList<QByteArray> {"B"});
     }
 
     void survivesClangsReader()
     {
+        Arguments arguments;
+        arguments.command = "cc\\";
         Facts facts;
         const QList<QByteArray> values {"a \"b\\\" c\"",     "'x' \\",  "# no comment",
                                         "$HOME `id` %PATH%", "a  b\tc", "@file",
-                                        "((char)-1)",        ""};
-        for (const QByteArray &value : values) {
-            const QByteArray name = "M" + QByteArray::number(facts.macros.size());
-            facts.macros << Macro {name, value};
-        }
-        facts.macros << Macro {"F(a,b)", "a##b #a"};
+                                        "((char)-1)",        "",        "-include x"};
+        for (const QByteArray &value : values)
+            facts.macros.known.append({"M" + QByteArray::number(facts.macros.known.size()), value});
+        facts.macros.known << Macro {"F(a,b)", "a##b #a"};
         const QTemporaryDir folder;
-        const QString path = folder.filePath("odd name.p_c");
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        Arguments arguments;
-        arguments.command = "cc\\";
-        file.write(personalityText(arguments, facts, "-DFROM_TEMPLATE=1"));
-        file.close();
-
-        QProcess clang;
-        clang.setStandardInputFile(QProcess::nullDevice());
-        clang.start("clang", {"--config", path, "-x", "c", "-dM", "-E", "-"});
-        QVERIFY(clang.waitForFinished());
-        QCOMPARE(clang.readAllStandardError(), QByteArray());
-        facts.macros << Macro {"FROM_TEMPLATE", "1"};
-        const QList<Macro> read = parseMacros(clang.readAllStandardOutput());
-        for (const Macro &macro : facts.macros) {
+        writeTestFile(folder.filePath("x.c"));
+        const Output seen = macrosOfClangWith(
+            personalityText(composePersonality(arguments, facts, {}, "-DTEMPLATE=1")),
+            folder.filePath("x.c"));
+        QCOMPARE(seen.errors, QByteArray());
+        facts.macros.known << Macro {"TEMPLATE", "1"};
+        const QList<Macro> read = macrosIn(seen.output);
+        for (const Macro &macro : facts.macros.known) {
             const auto found = std::find_if(read.begin(), read.end(),
                                             [&](const Macro &m) { return m.name == macro.name; });
             QVERIFY2(found != read.end(), macro.name);
             QCOMPARE(found->value.simplified(), macro.value.simplified());
         }
+    }
+
+    void makesClangSeeTheListedMacros_data()
+    {
+        QTest::addColumn<QString>("command");
+        row("gcc for 32 bits", "gcc -m32 -std=c99 -x c");
+        row("cross compiler", "arm-none-eabi-gcc -x c");
+        row("clang", "clang -x c");
+        row("clang++", "clang++ -x c++");
+        row("Microsoft's", "clang --target=x86_64-pc-windows-msvc -x c");
+    }
+    void makesClangSeeTheListedMacros()
+    {
+        QFETCH(QString, command);
+        const QTemporaryDir folder;
+        Arguments arguments;
+        arguments.isCpp = command.endsWith('+');
+        const QString source = folder.filePath(arguments.isCpp ? "x.cpp" : "x.c");
+        writeTestFile(source);
+        const QStringList words = command.split(' ');
+        const QStringList options {"-DA=1", "-DF(a,b)=a \"q\" b", "-dM", "-E", source};
+        Facts facts;
+        facts.macros.known = macrosIn(run(words.first(), words.mid(1) + options).output);
+        QVERIFY(facts.macros.known.size() > 200);
+        // Without -undef taking the target's own away, clang would add some.
+        const Output seen = macrosOfClangWith(
+            personalityText(composePersonality(arguments, facts, {}, {})), source);
+        QList<Macro> macros = macrosIn(seen.output);
+        macros.removeIf([](const Macro &macro) { return macro.name == "__malloc__(...)"; });
+        QCOMPARE(sorted(macros), sorted(facts.macros.known));
+    }
+
+    void searchesInOrder()
+    {
+        const QTemporaryDir folder;
+        const auto at = [&folder](const char *name) {
+            return QDir(folder.path()).canonicalPath() + '/' + name;
+        };
+        for (const char *file :
+             {"intrinsics/immintrin.h", "user/a.h", "searched/a.h", "stand-in/a.h"})
+            writeTestFile(at(file));
+        QDir(folder.path()).mkdir("empty");
+        Arguments arguments;
+        arguments.substituteHeaders = at("stand-in");
+        arguments.headerDirectories = QStringList {at("searched"), at("user"), at("empty")};
+        Facts facts;
+        facts.searchPath = {{at("intrinsics"), at("searched")}, {at("quoted")}};
+        const auto shown = [&] {
+            QStringList lines;
+            for (const Option &option : composePersonality(arguments, facts, {}, {}).searchPath)
+                lines << option.join(' ');
+            return lines.join('\n').replace(at(""), "");
+        };
+        QCOMPARE(shown(), "-nostdlibinc\n-isystem stand-in\n-iquote quoted\n-idirafter intrinsics\n"
+                          "-isystem searched\n-idirafter user");
+        facts.macros.known = {{"__clang__", "1"}};
+        QVERIFY(shown().startsWith("-nostdinc\n") && shown().contains("-isystem intrinsics"));
     }
 };
 

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+/// How a compile command is put together.
+struct CommandLayout
+{
+    QString outputFlag; ///< empty if the compiler needs none, like the next two
+    QString objectFlag;
+    QString defineFlag;
+    QString objectExtension; ///< with its dot, or empty
+    QString order;           ///< order token string
+};
+
+/// What the generator has been asked for: its command line, taken apart. Paths are the host's.
+struct Arguments
+{
+    bool isCpp = false; ///< the personality is for the C++ product
+    bool crossCompiler = false;
+    QString command; ///< the compiler command as it was passed, quotes included
+    CommandLayout layout;
+    QStringList headerDirectories;
+    QString personality; ///< path of the file to write
+    QStringList defines; ///< NAME or NAME=VALUE
+    QStringList switches;
+    QString templateFile; ///< empty if there is none, like the next two
+    QString forceIncludeFile;
+    QString substituteHeaders;
+    bool reduceFileSize = false;
+};
+
+/// One line that says how the generator is called.
+QString usage();
+
+/// Takes \a list, the command line without the program's name, apart. Nothing when it is not made
+/// as usage() says.
+std::optional<Arguments> parseArguments(const QStringList &list);

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "arguments.h"
+
+/// The user's compiler, ready to be started: from the same command line everything about it is
+/// asked.
+struct Compiler
+{
+    /// The program's path, its options, and the switches, without what makes errors of warnings.
+    QStringList command;
+    /// The GNU driver's options -include and -imacros, each followed by its file, which are kept
+    /// out of the command: the macros of those files are not predefined.
+    QStringList includedFirst;
+    CommandLayout layout;
+    QStringList defines; ///< NAME or NAME=VALUE, passed with every probe
+    bool isCpp = false;
+    bool isCross = false;
+};
+
+/// The words of a command as it was typed into one field. The wizard puts quotes around a command
+/// with spaces, be it a path that holds them or a program with its options; \a isProgram tells
+/// which of the two it is.
+QStringList commandWords(const QString &command, bool (*isProgram)(const QString &word));
+
+/// \a word with the relative path in it made absolute, if it is the name of a file or directory
+/// here, alone or behind an option, since probes are compiled elsewhere.
+QString withAbsolutePath(const QString &word);
+
+/// The compiler of \a arguments, its program found where the wizard finds it too. When there is no
+/// such program the first word stays as it was typed.
+Compiler findCompiler(const Arguments &arguments);
+
+/// What a compile command makes of a source file.
+enum class CompileTo { Object, Program };
+
+/// The command that compiles \a source, in the compiler's order. Where it names an output, that is
+/// \a output. A token without a trailing space is joined to the next one: "-o" and "probe.o" become
+/// "-oprobe.o". An output flag that is empty leaves out the output's name too; for a program the
+/// object flag is left out.
+QStringList probeCommand(const Compiler &compiler, const QString &source, const QString &output,
+                         CompileTo goal = CompileTo::Object);
+
+/// \a command as one line that a command interpreter takes, words with spaces or with characters
+/// that it would find something in, in double quotes, and quotes and the backslashes before them
+/// behind backslashes.
+QString commandLine(const QStringList &command);

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "program_run.h"
+
+#include <QList>
+#include <QSet>
+
+/// What the compiler has said to one probe.
+struct ProbeAnswer
+{
+    platform::ProgramRun run;
+    QSet<int> lines;    ///< of the probe that its errors name, or else its other messages
+    QSet<int> allLines; ///< that any message names; the first line is 1
+    QByteArray bytes;   ///< of the object file, read from hexadecimal text where it is that
+
+    bool compiled() const { return run.succeeded(); }
+};
+
+/// How many declarations and bytes a probe may have.
+struct ProbeLimits
+{
+    int declarations;
+    int bytes;
+};

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "bisection.h"
+#include "probe_runner.h"
+
+/// Larger questions to a compiler, each answered by as few probes as possible.
+class Questions
+{
+public:
+    /// Finds out how constants can be read back: from the object file or, from a native compiler,
+    /// by running a program; and which character set their texts are in.
+    explicit Questions(const ProbeRunner &runner);
+
+    /// Whether constants can be read back at all.
+    bool readsConstants() const { return m_source != ConstantSource::None; }
+    bool isCpp() const { return m_runner.compiler().isCpp; }
+    ProbeLimits limits() const { return m_runner.limits(); }
+
+    /// Which of \a items, one or more whole lines each, are accepted behind \a prelude; see
+    /// acceptedItems().
+    QList<bool> accepted(const QByteArray &prelude, const QList<QByteArray> &items,
+                         bool confirmsAlone = false) const;
+
+    /// Which of \a items draw no message behind \a prelude, though \a control does; see
+    /// itemsWithoutMessage().
+    std::optional<QList<bool>> withoutMessage(const QByteArray &prelude,
+                                              const QList<QByteArray> &items,
+                                              const QByteArray &control) const;
+
+    /// What the compiler says to each of \a sources, in a probe of its own.
+    QList<ProbeAnswer> eachAlone(const QList<QByteArray> &sources) const;
+
+    /// The texts of string literals, each given as an expression that may only be one behind
+    /// \a prelude. No value for one that is not.
+    QList<std::optional<QByteArray>> texts(const QByteArray &prelude,
+                                           const QList<QByteArray> &literals) const;
+
+    /// The values, from 0 to 65535, of constant integer expressions behind \a prelude.
+    QList<std::optional<int>> numbers(const QByteArray &prelude,
+                                      const QList<QByteArray> &expressions) const;
+
+    /// Which of \a conditions, each what stands behind "#if", are true behind \a prelude. One that
+    /// the compiler does not understand is not.
+    QList<bool> conditions(const QList<QByteArray> &conditions,
+                           const QByteArray &prelude = {}) const;
+
+private:
+    enum class ConstantSource { None, ObjectFile, RunningProgram };
+
+    /// The whole probe for some items, and the arrays whose bytes are to be read back.
+    struct ReadingProbe
+    {
+        QByteArray source;
+        QList<QByteArray> arrays;
+    };
+    using MakeProbe = std::function<ReadingProbe(const Batch &)>;
+
+    /// The bytes that have come back from the probe for a batch.
+    struct Reading
+    {
+        Batch batch;
+        QByteArray bytes;
+    };
+
+    bool readsTexts();
+    bool learnCharacterSet();
+    QList<std::optional<QByteArray>> arrays(const QByteArray &prelude,
+                                            const QList<QByteArray> &contents, bool areTexts) const;
+    QList<Reading> read(const QByteArray &prelude, const QList<QByteArray> &items,
+                        const MakeProbe &makeProbe) const;
+    QList<Batch> readTogether(const QList<Batch> &batches, const MakeProbe &makeProbe,
+                              QList<Reading> &readings) const;
+    QByteArray bytesOf(const ReadingProbe &probe, const ProbeAnswer &answer) const;
+    AskProbes askProbes() const;
+
+    const ProbeRunner &m_runner;
+    ConstantSource m_source = ConstantSource::None;
+    QByteArray m_characters; ///< that the compiler's 256 codes stand for; empty if for themselves
+};

@@ -1,0 +1,39 @@
+#include "clang.h"
+
+namespace {
+
+// Keywords that clang has itself, from its manual ("Language Extensions") and the GCC manual's
+// alternate keywords, all of which it accepts. Those that it knows and cannot use stay out.
+const char *const clangKeywords =
+    "asm typeof __asm __asm__ __inline __inline__ __signed __signed__ __const __const__ __volatile "
+    "__volatile__ __restrict __restrict__ __extension__ __attribute __attribute__ __alignof "
+    "__alignof__ __typeof __typeof__ __auto_type __label__ __thread __real __real__ __imag "
+    "__imag__ __complex __complex__ __builtin_va_list __int128 __int128_t __uint128_t __float128 "
+    "_Accum _Fract _Sat __cdecl __stdcall __fastcall __thiscall __vectorcall __null __nullptr "
+    "__decltype "
+    "_Complex _Imaginary _Atomic _Bool _Noreturn _Static_assert _Generic _Thread_local _Alignas "
+    "_Alignof";
+
+} // namespace
+
+QList<Macro> keywordDefinitions(const Facts &facts)
+{
+    const QList<QByteArray> known = QByteArray(clangKeywords).split(' ');
+    QList<Macro> definitions;
+    // From GCC 11 on this attribute takes arguments ("Common Function Attributes"), for clang it
+    // has none.
+    const Macro *gnuVersion = findMacro(facts.macros, "__GNUC__");
+    if (gnuVersion && gnuVersion->value.toInt() >= 11)
+        definitions << Macro {"__malloc__(...)", "__malloc__"};
+    for (const Keyword &keyword : facts.keywords) {
+        if (known.contains(keyword.name))
+            continue;
+        if (keyword.form == Keyword::Qualifier)
+            definitions << Macro {keyword.name, {}};
+        else if (keyword.form == Keyword::QualifierWithArgument)
+            definitions << Macro {keyword.name + "(...)", {}};
+        else if (!keyword.standIn.isEmpty())
+            definitions << Macro {keyword.name, keyword.standIn};
+    }
+    return definitions;
+}

@@ -1,0 +1,141 @@
+#include "clang.h"
+
+#include <QFileInfo>
+#include <algorithm>
+#include <cctype>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Standard
+{
+    long value; ///< of __STDC_VERSION__ or __cplusplus
+    const char *name;
+};
+
+// Values: ISO C and C++ standards, clause "Predefined macro names".
+const Standard cStandards[] = {{0, "89"}, // which has no such macro
+                               {199409, "iso9899:199409"},
+                               {199901, "99"},
+                               {201112, "11"},
+                               {201710, "17"},
+                               {202000, "2x"}};
+const Standard cppStandards[] = {{199711, "98"}, {201103, "11"}, {201402, "14"},
+                                 {201703, "17"}, {202002, "20"}, {202100, "2b"}};
+
+/// The language version that \a macro tells, the newest one of \a table that is not newer than its
+/// value; none when nothing is known of the macro. \a isoPrefix and \a gnuPrefix stand before it.
+template <std::size_t Size>
+QList<QByteArray> standardOption(const MacroFacts &macros, const char *macro,
+                                 const Standard (&table)[Size], const char *isoPrefix,
+                                 const char *gnuPrefix)
+{
+    const Macro *version = findMacro(macros, macro);
+    if (!version && (macros.known.isEmpty() || macros.undetermined.contains(macro)))
+        return {};
+    QByteArray digits = version ? version->value : QByteArray("0");
+    while (!digits.isEmpty() && !std::isdigit(static_cast<unsigned char>(digits.back())))
+        digits.chop(1);
+    const long value = digits.toLong();
+    QByteArray name = table[0].name;
+    for (const Standard &row : table) {
+        if (row.value <= value)
+            name = row.name;
+    }
+    if (!name.contains(':'))
+        name.prepend(findMacro(macros, "__STRICT_ANSI__") ? isoPrefix : gnuPrefix);
+    return {"-std=" + name};
+}
+
+/// Language features that a compiler announces by a macro and clang takes by an option: the options
+/// where there is the macro, and where there is none.
+struct Feature
+{
+    const char *macro;
+    QList<QByteArray> options;
+    QList<QByteArray> opposite;
+};
+
+const Feature cppFeatures[] = {
+    {"__EXCEPTIONS", {"-fexceptions", "-fcxx-exceptions"}, {"-fno-exceptions"}},
+    {"__GXX_RTTI", {"-frtti"}, {"-fno-rtti"}},
+    {"__cpp_sized_deallocation", {"-fsized-deallocation"}, {"-fno-sized-deallocation"}},
+    {"__cpp_aligned_new", {"-faligned-allocation"}, {"-fno-aligned-allocation"}},
+    {"__cpp_char8_t", {"-fchar8_t"}, {"-fno-char8_t"}},
+};
+
+/// Options for the types, where a target's may differ from the compiler's.
+QList<QByteArray> typeOptions(const Facts &facts, const QByteArray &target)
+{
+    const TypeFacts &types = facts.types;
+    QList<QByteArray> options;
+    const bool isUnsigned = types.basic.isEmpty()
+                              ? findMacro(facts.macros, "__CHAR_UNSIGNED__") != nullptr
+                              : types.charIsUnsigned;
+    if (isUnsigned)
+        options << "-funsigned-char";
+    else if (!types.basic.isEmpty())
+        options << "-fsigned-char";
+    if (types.smallEnumSize != 0 && types.smallEnumSize < sizeOf(types, "int"))
+        options << "-fshort-enums";
+    if (types.wideCharacterType == "unsigned short")
+        options << "-fshort-wchar";
+    const bool isX86 = target.startsWith("x86_64-") || target.startsWith("i386-");
+    if (isX86 && sizeOf(types, "long double") == 8)
+        options << "-mlong-double-64";
+    const auto isFixedPoint = [](const Keyword &keyword) { return keyword.name == "_Accum"; };
+    if (std::any_of(facts.keywords.begin(), facts.keywords.end(), isFixedPoint))
+        options << "-ffixed-point";
+    return options;
+}
+
+// Clang defines these by itself even under -undef, so they are taken back before the compiler's
+// own definitions follow.
+const QList<QByteArray> alwaysDefined {
+    "__GCC_HAVE_DWARF2_CFI_ASM",
+    "__STDCPP_DEFAULT_NEW_ALIGNMENT__",
+    "__STDCPP_THREADS__",
+    "__STDC_HOSTED__",
+    "__STDC_UTF_16__",
+    "__STDC_UTF_32__",
+    "__STDC_VERSION__",
+    "__STDC__",
+    "__cplusplus",
+};
+
+} // namespace
+
+QList<QByteArray> languageOptions(const Facts &facts, bool isCpp)
+{
+    QList<QByteArray> options;
+    const QByteArray target = clangTarget(facts);
+    if (!target.isEmpty())
+        options << "--target=" + target;
+    if (target.startsWith("avr-"))
+        options << "-nostdlib"; // or clang warns, without linking, that it cannot link
+    options << (isCpp ? standardOption(facts.macros, "__cplusplus", cppStandards, "c++", "gnu++")
+                      : standardOption(facts.macros, "__STDC_VERSION__", cStandards, "c", "gnu"));
+    if (isCpp) {
+        for (const Feature &feature : cppFeatures)
+            options << (findMacro(facts.macros, feature.macro) ? feature.options
+                                                               : feature.opposite);
+    }
+    return options + typeOptions(facts, target);
+}
+
+QList<QByteArray> macrosOfClang()
+{
+    return alwaysDefined;
+}
+
+bool canBeDefined(const Macro &macro)
+{
+    // Clang puts the file's own folder in the place of this, and has no way to write it.
+    return !macro.value.contains("<CFGDIR>");
+}
+
+bool holdsIntrinsics(const QString &directory)
+{
+    return QFileInfo::exists(directory + "/immintrin.h"_L1);
+}

@@ -1,0 +1,182 @@
+#include "dialects.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using platform::ProgramRun;
+
+enum class Topic { Macros, SearchPath, Version };
+
+/// A question that compilers of some family understand, and how they answer it.
+struct DialectQuestion
+{
+    Topic topic;
+    QStringList options;
+    bool takesSource;
+    bool isAskedAlone;     ///< without the other options of the command
+    bool leavesOutOptions; ///< the directories that -I options of the command name
+    void (*read)(const ProgramRun &run, DialectAnswers &answers);
+};
+
+void readMacros(const ProgramRun &run, DialectAnswers &answers)
+{
+    answers.macros = macrosIn(run.output);
+    answers.macros.removeIf(
+        [](const Macro &macro) { return isBuiltIntoThePreprocessor(macro.name); });
+}
+
+void readGnuSearchPath(const ProgramRun &run, DialectAnswers &answers)
+{
+    answers.searchPath.forQuotedNames =
+        directoriesBehind("#include \"...\" search starts here:", run.errors);
+    answers.searchPath.directories =
+        directoriesBehind("#include <...> search starts here:", run.errors);
+}
+
+void readTccSearchPath(const ProgramRun &run, DialectAnswers &answers)
+{
+    answers.searchPath.directories = directoriesBehind("include:", run.output);
+}
+
+void readSdccSearchPath(const ProgramRun &run, DialectAnswers &answers)
+{
+    answers.searchPath.directories = directoriesBehind("includedir:", run.output);
+}
+
+/// The folder of cc65's target systems has that of its headers beside it.
+void readCc65TargetPath(const ProgramRun &run, DialectAnswers &answers)
+{
+    const QDir targets(QString::fromLocal8Bit(run.output.trimmed()));
+    const QDir headers(targets.absoluteFilePath(u"../include"_s));
+    if (targets.isAbsolute() && headers.exists())
+        answers.searchPath.directories << headers.canonicalPath();
+}
+
+void readVersion(const ProgramRun &run, DialectAnswers &answers)
+{
+    answers.versionLine = versionLineIn(run.output + '\n' + run.errors);
+}
+
+const DialectQuestion questions[] = {
+    {Topic::Macros, {u"-dM"_s, u"-E"_s}, true, false, false, &readMacros},
+    // The GNU compilers and clang; sdcc, whose preprocessor is a GNU one; tcc; sdcc again; cc65.
+    {Topic::SearchPath, {u"-v"_s, u"-E"_s}, true, false, false, &readGnuSearchPath},
+    {Topic::SearchPath, {u"-Wp-v"_s, u"-E"_s}, true, false, false, &readGnuSearchPath},
+    {Topic::SearchPath, {u"-print-search-dirs"_s}, false, true, true, &readTccSearchPath},
+    {Topic::SearchPath, {u"--print-search-dirs"_s}, false, false, true, &readSdccSearchPath},
+    {Topic::SearchPath, {u"--print-target-path"_s}, false, false, true, &readCc65TargetPath},
+    {Topic::Version, {u"--version"_s}, false, false, false, &readVersion},
+};
+
+bool isAnswered(Topic topic, const DialectAnswers &answers)
+{
+    switch (topic) {
+    case Topic::Macros:
+        return !answers.macros.isEmpty();
+    case Topic::SearchPath:
+        return !answers.searchPath.directories.isEmpty();
+    case Topic::Version:
+        break;
+    }
+    return !answers.versionLine.isEmpty();
+}
+
+/// The directories that \a command names behind -I, in one word with it or in the next.
+QStringList optionDirectories(const QStringList &command)
+{
+    const QLatin1StringView option("-I");
+    QStringList directories;
+    for (qsizetype i = 0; i < command.size(); ++i) {
+        if (!command[i].startsWith(option))
+            continue;
+        const QString joined = command[i].mid(option.size());
+        const QString named = joined.isEmpty() ? command.value(i + 1) : joined;
+        if (QFileInfo(named).isDir())
+            directories << QDir(named).canonicalPath();
+    }
+    return directories;
+}
+
+} // namespace
+
+DialectAnswers askInDialects(const RunCommand &run, const QStringList &command,
+                             const QString &source, const DialectAnswers &known)
+{
+    DialectAnswers answers = known;
+    for (const DialectQuestion &question : questions) {
+        if (isAnswered(question.topic, answers))
+            continue;
+        QStringList words = question.isAskedAlone ? command.first(1) : command;
+        words << question.options;
+        if (question.takesSource)
+            words << source;
+        const ProgramRun answer = run(words);
+        if (answer.succeeded() || question.topic == Topic::Version)
+            question.read(answer, answers);
+        QStringList &directories = answers.searchPath.directories;
+        if (question.leavesOutOptions && !directories.isEmpty()) {
+            directories = optionDirectories(command) + directories;
+            directories.removeDuplicates();
+        }
+    }
+    return answers;
+}
+
+QList<Macro> macrosIn(const QByteArray &listing)
+{
+    const QByteArray directive = "#define ";
+    QList<Macro> macros;
+    for (const QByteArray &text : listing.split('\n')) {
+        const QByteArray line = text.trimmed();
+        if (!line.startsWith(directive))
+            continue;
+        const QByteArray definition = line.mid(directive.size());
+        const qsizetype firstSpace = definition.indexOf(' ');
+        const qsizetype parenthesis = definition.indexOf('(');
+        const bool hasParameters = parenthesis >= 0 && (firstSpace < 0 || parenthesis < firstSpace);
+        qsizetype end = firstSpace;
+        if (hasParameters)
+            end = definition.indexOf(')', parenthesis) + 1;
+        if (end < 0)
+            end = definition.size();
+        macros.append({definition.left(end), definition.mid(end).trimmed()});
+    }
+    return macros;
+}
+
+QStringList directoriesBehind(const QByteArray &heading, const QByteArray &listing)
+{
+    QStringList directories;
+    bool isBehind = false;
+    for (const QByteArray &rawLine : listing.split('\n')) {
+        const QByteArray line = rawLine.trimmed();
+        if (line.endsWith(':') || line.startsWith("End of"))
+            isBehind = line == heading;
+        else if (isBehind && !line.isEmpty())
+            directories << QString::fromLocal8Bit(line);
+    }
+    const auto exists = [](const QString &directory) { return QDir(directory).exists(); };
+    if (std::any_of(directories.begin(), directories.end(), exists)) {
+        directories.removeIf([](const QString &directory) { return !QDir(directory).exists(); });
+        for (QString &directory : directories)
+            directory = QDir(directory).canonicalPath();
+    }
+    directories.removeDuplicates();
+    return directories;
+}
+
+QByteArray versionLineIn(const QByteArray &banner)
+{
+    static const QRegularExpression version(u"[A-Za-z].*[0-9]\\.[0-9]"_s);
+    for (const QByteArray &line : banner.split('\n')) {
+        if (version.match(QString::fromLocal8Bit(line)).hasMatch())
+            return line.simplified();
+    }
+    return {};
+}

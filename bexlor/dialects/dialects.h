@@ -1,0 +1,34 @@
+#pragma once
+
+#include "facts.h"
+#include "program_run.h"
+
+#include <functional>
+
+/// Runs \a command, a program and its arguments.
+using RunCommand = std::function<platform::ProgramRun(const QStringList &command)>;
+
+/// What a compiler lists of itself; empty where it lists nothing.
+struct DialectAnswers
+{
+    QList<Macro> macros;
+    SearchPath searchPath;
+    QByteArray versionLine;
+};
+
+/// Asks the compiler that \a command starts in the ways of several families, until it has answered
+/// or none is left. \a known is not asked for again. \a source is an empty source file.
+DialectAnswers askInDialects(const RunCommand &run, const QStringList &command,
+                             const QString &source, const DialectAnswers &known = {});
+
+/// The macros of a listing as preprocessors print it under -dM: lines "#define NAME VALUE".
+QList<Macro> macrosIn(const QByteArray &listing);
+
+/// The directories in the lines behind \a heading, which is a whole line of \a listing, up to the
+/// next heading: a line that ends with a colon, or that begins with "End of". Links in them are
+/// followed. Those that do not exist are left out, unless none does: then the compiler runs where
+/// other files are.
+QStringList directoriesBehind(const QByteArray &heading, const QByteArray &listing);
+
+/// The line of \a banner that looks like a name with a version, or an empty text.
+QByteArray versionLineIn(const QByteArray &banner);

@@ -1,0 +1,95 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QStringList>
+
+/// A predefined macro. The name of a function-like one includes its parameter list.
+struct Macro
+{
+    QByteArray name;
+    QByteArray value;
+
+    bool operator==(const Macro &) const = default;
+};
+
+struct MacroFacts
+{
+    QList<Macro> known;
+    QList<QByteArray> undetermined; ///< predefined, but with what value is not known
+
+    bool operator==(const MacroFacts &) const = default;
+};
+
+/// A type by its name, with its size and alignment in bytes.
+struct Type
+{
+    QByteArray name;
+    int size = 0;
+    int alignment = 0;
+
+    bool operator==(const Type &) const = default;
+};
+
+enum class ByteOrder { Unknown, LittleEndian, BigEndian };
+
+struct TypeFacts
+{
+    QList<Type> basic; ///< empty when nothing is known of the types
+    QByteArray sizeType, pointerDifferenceType, wideCharacterType; ///< names of basic types
+    bool charIsUnsigned = false;
+    int smallEnumSize = 0; ///< of an enumeration with small values, in bytes; 0 if not known
+    ByteOrder byteOrder = ByteOrder::Unknown;
+
+    bool operator==(const TypeFacts &) const = default;
+};
+
+/// A name that cannot be declared: an extension keyword or a type that the compiler brings along.
+struct Keyword
+{
+    enum Form {
+        Undetermined,
+        Qualifier,             ///< stands where a qualifier may stand, alone
+        QualifierWithArgument, ///< the same with one argument in parentheses
+        TypeName,              ///< stands for a type
+    };
+    QByteArray name;
+    Form form = Undetermined;
+    QByteArray standIn; ///< of a type: a standard type of the same kind and size
+
+    bool operator==(const Keyword &) const = default;
+};
+
+/// The header directories that a compiler searches by itself, in its order.
+struct SearchPath
+{
+    QStringList directories;
+    QStringList forQuotedNames; ///< searched before those, for names in quotation marks only
+
+    bool operator==(const SearchPath &) const = default;
+};
+
+/// What a compiler has told about itself.
+struct Facts
+{
+    QByteArray versionLine; ///< in which it names its version
+    MacroFacts macros;
+    TypeFacts types;
+    QList<Keyword> keywords;
+    SearchPath searchPath;
+
+    bool operator==(const Facts &) const = default;
+};
+
+/// The macro called \a name, or null.
+const Macro *findMacro(const MacroFacts &macros, const QByteArray &name);
+
+/// The bytes of the basic type \a name; 0 if not known.
+int sizeOf(const TypeFacts &types, const QByteArray &name);
+
+/// The first of the basic types with that size and kind; empty when there is none.
+QByteArray typeLike(const TypeFacts &types, int size, bool isFloating, bool isUnsigned);
+
+/// Whether \a name has no definition that could be passed on, though a compiler may list it as a
+/// macro: its value is another each time, or it is an operator such as "__has_include".
+bool isBuiltIntoThePreprocessor(const QByteArray &name);

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+/// How a name occurs below the compiler's directories.
+enum NameUse : unsigned char {
+    TestedInHeader = 1, ///< by a preprocessor conditional
+    UsedInHeader = 2,   ///< outside comments and literals
+    CalledInHeader = 4, ///< used with a parenthesis behind it
+    InBinary = 8,       ///< stands in a compiler's binary file
+};
+
+struct ScannedName
+{
+    QByteArray text;
+    unsigned uses = 0; ///< NameUse values
+};
+
+/// A regular text file; in a directory with headers it may be one of them.
+struct HeaderFile
+{
+    QString directory; ///< absolute, with slashes
+    QString name;
+};
+
+/// What has been found below the directories, in an order that depends on nothing but the files.
+struct HeaderScan
+{
+    QList<ScannedName> names;
+    QList<HeaderFile> headers;
+    QStringList remarks; ///< sentences on what has been passed over
+    qint64 files = 0;
+};
+
+/// Reads every regular file below \a directories once. Of the names used in headers only those are
+/// kept that may be keywords: with a leading underscore, or of lower-case letters and not long.
+HeaderScan scanHeaders(const QStringList &directories);

@@ -1,0 +1,217 @@
+#include "learning.h"
+
+#include "well_known_names.h"
+
+#include <QSet>
+#include <algorithm>
+
+namespace {
+
+/// The forms in which a keyword may be used, "@" standing for it and "%" for a name that nothing
+/// else has. Most are declarations within a function, at whose end a compiler that has lost its way
+/// finds it again. What qualifies a char is no type of its own, whereas "__int64 int" may be one.
+struct Use
+{
+    const char *line;
+    Keyword::Form form;
+};
+
+const Use uses[] = {
+    {"void %f(void) { extern char @ %; }", Keyword::Qualifier},
+    {"void %f(void) { extern @ char %; }", Keyword::Qualifier},
+    {"void %f(void) { extern char * @ %; }", Keyword::Qualifier},
+    {"void %f(void) { extern @ void %(void); }", Keyword::Qualifier},
+    {"static @ char %(void) { return 0; }", Keyword::Qualifier},
+    {"extern void @ %(int);", Keyword::Qualifier},
+    {"void %f(void) { extern @(1) int %; }", Keyword::QualifierWithArgument},
+    {"void %f(void) { extern int @(1) %; }", Keyword::QualifierWithArgument},
+    {"void %f(void) { extern @((unused)) int %; }", Keyword::QualifierWithArgument},
+    {"void %f(void) { extern @(dllimport) int %; }", Keyword::QualifierWithArgument},
+    {"void %f(void) { extern @(a, b) int %; }", Keyword::QualifierWithArgument},
+    {"void %f(void) { extern @ %; }", Keyword::TypeName},
+    {"void %f(void) { extern @ *%; }", Keyword::TypeName},
+};
+
+/// Forms of what may stand behind a function. A compiler takes what is wrong there for the start of
+/// a definition in the old style and goes astray, so these are tried one in a probe, and only for
+/// keywords that have no other form.
+const Use usesBehindFunctions[] = {
+    {"extern void %(void) @;", Keyword::Qualifier},
+    {"extern void %(void) @(1);", Keyword::QualifierWithArgument},
+    {"extern void %(void) @(a, b);", Keyword::QualifierWithArgument},
+    {"extern void %(void) @((noreturn));", Keyword::QualifierWithArgument},
+};
+
+QSet<QByteArray> macroNames(const MacroFacts &macros)
+{
+    QSet<QByteArray> names(macros.undetermined.begin(), macros.undetermined.end());
+    for (const Macro &macro : macros.known)
+        names << macro.name.split('(').first();
+    return names;
+}
+
+bool isReservedFunction(const QByteArray &name)
+{
+    // Functions that the compiler brings along are no keywords, and there are thousands of them.
+    return name.startsWith("__builtin_") || name.startsWith("__sync_")
+        || name.startsWith("__atomic_");
+}
+
+/// The names that may be keywords: those used in headers and the well-known ones.
+QList<QByteArray> candidates(const QList<ScannedName> &names, bool isCpp, const MacroFacts &macros)
+{
+    const QSet<QByteArray> isMacro = macroNames(macros);
+    const QList<QByteArray> known = wellKnownKeywords(isCpp);
+    QSet<QByteArray> chosen(known.begin(), known.end());
+    for (const ScannedName &name : names) {
+        if ((name.uses & UsedInHeader) && !isReservedFunction(name.text))
+            chosen << name.text;
+    }
+    QList<QByteArray> sorted;
+    for (const QByteArray &name : chosen) {
+        if (!isMacro.contains(name) && !isStandardKeyword(name, isCpp) && !isSpecialName(name))
+            sorted << name;
+    }
+    std::sort(sorted.begin(), sorted.end());
+    return sorted;
+}
+
+/// Those of \a names that cannot be declared, each in an item that "@" in \a declaration makes with
+/// its name and "%" with a number.
+QList<QByteArray> undeclarable(const Questions &questions, const QByteArray &declaration,
+                               const QList<QByteArray> &names)
+{
+    QList<QByteArray> items;
+    for (const QByteArray &name : names) {
+        QByteArray item = declaration;
+        items << item.replace('@', name).replace('%', QByteArray::number(items.size()));
+    }
+    const QList<bool> isDeclared = questions.accepted({}, items, true);
+    QList<QByteArray> rejected;
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        if (!isDeclared[i])
+            rejected << names[i];
+    }
+    return rejected;
+}
+
+/// Those of \a names that cannot be declared: as a member, which collides with nothing that the
+/// compiler knows, or for the well-known ones, among them types that a compiler brings along and
+/// that may be members' names, as an object.
+QList<QByteArray> undeclarableNames(const Questions &questions, const QList<QByteArray> &names)
+{
+    QList<QByteArray> rejected = undeclarable(questions, "struct calyx_% { char @[1]; };\n", names);
+    QList<QByteArray> types;
+    for (const QByteArray &name : wellKnownKeywords(questions.isCpp())) {
+        if (names.contains(name) && !rejected.contains(name))
+            types << name;
+    }
+    rejected << undeclarable(questions, "static int @ = 0;\n", types);
+    std::sort(rejected.begin(), rejected.end());
+    return rejected;
+}
+
+QByteArray lineOf(const Use &use, const QByteArray &keyword, qsizetype number)
+{
+    const QByteArray name = "calyx_" + QByteArray::number(number);
+    return QByteArray(use.line).replace('@', keyword).replace('%', name) + '\n';
+}
+
+/// Adds the forms of use behind functions that the compiler accepts to \a forms where there is
+/// none.
+void addFormsBehindFunctions(const Questions &questions, const QList<QByteArray> &keywords,
+                             QList<QSet<int>> &forms)
+{
+    QList<QByteArray> probes;
+    QList<std::pair<qsizetype, int>> asked; // keyword and form
+    for (qsizetype i = 0; i < keywords.size(); ++i) {
+        if (!forms[i].isEmpty())
+            continue;
+        for (const Use &use : usesBehindFunctions) {
+            probes << lineOf(use, keywords[i], probes.size());
+            asked << std::pair(i, int(use.form));
+        }
+    }
+    const QList<ProbeAnswer> answers = questions.eachAlone(probes);
+    for (qsizetype i = 0; i < answers.size(); ++i) {
+        if (answers[i].compiled())
+            forms[asked[i].first] << asked[i].second;
+    }
+}
+
+/// For each of \a keywords the forms of use that the compiler accepts.
+QList<QSet<int>> acceptedForms(const Questions &questions, const QList<QByteArray> &keywords)
+{
+    QList<QSet<int>> forms(keywords.size());
+    QList<QByteArray> lines;
+    for (const QByteArray &keyword : keywords) {
+        for (const Use &use : uses)
+            lines << lineOf(use, keyword, lines.size());
+    }
+    const QList<bool> isAccepted = questions.accepted({}, lines);
+    const qsizetype count = std::size(uses);
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        if (isAccepted[i])
+            forms[i / count] << uses[i % count].form;
+    }
+    addFormsBehindFunctions(questions, keywords, forms);
+    return forms;
+}
+
+/// The form in which a keyword is used that may be used in \a forms; \a isCalled if headers use it
+/// with a parenthesis behind it.
+Keyword::Form formOf(const QSet<int> &forms, bool isCalled)
+{
+    const bool standsAlone = forms.contains(Keyword::Qualifier);
+    if (forms.contains(Keyword::QualifierWithArgument) && (!standsAlone || isCalled))
+        return Keyword::QualifierWithArgument;
+    if (standsAlone)
+        return Keyword::Qualifier;
+    return forms.contains(Keyword::TypeName) ? Keyword::TypeName : Keyword::Undetermined;
+}
+
+/// Gives each of \a keywords that stands for a type the standard type of the same kind and size for
+/// a stand-in. What has no size only qualifies the int that is left out.
+void measureTypes(const Questions &questions, QList<Keyword> &keywords, const TypeFacts &types)
+{
+    const auto isType = [](const Keyword &keyword) { return keyword.form == Keyword::TypeName; };
+    QList<QByteArray> expressions;
+    for (const Keyword &keyword : keywords) {
+        if (isType(keyword)) {
+            const QByteArray cast = '(' + keyword.name + ')';
+            expressions << "sizeof" + cast << cast + "2.5==2.5?1:2" << cast + "-1<0?1:2";
+        }
+    }
+    const QList<std::optional<int>> values = questions.numbers({}, expressions);
+    auto value = values.begin();
+    for (Keyword &keyword : keywords) {
+        if (!isType(keyword))
+            continue;
+        const std::optional<int> size = value[0], isFloating = value[1], isUnsigned = value[2];
+        value += 3;
+        if (size)
+            keyword.standIn = typeLike(types, *size, isFloating == 1, isUnsigned == 2);
+        else // C++ never has an int that is left out
+            keyword.form = questions.isCpp() ? Keyword::Undetermined : Keyword::Qualifier;
+    }
+}
+
+} // namespace
+
+QList<Keyword> learnKeywords(const Questions &questions, const QList<ScannedName> &names,
+                             const MacroFacts &macros, const TypeFacts &types)
+{
+    const QList<QByteArray> found =
+        undeclarableNames(questions, candidates(names, questions.isCpp(), macros));
+    const QList<QSet<int>> forms = acceptedForms(questions, found);
+    QSet<QByteArray> called;
+    for (const ScannedName &name : names) {
+        if (name.uses & CalledInHeader)
+            called << name.text;
+    }
+    QList<Keyword> keywords;
+    for (qsizetype i = 0; i < found.size(); ++i)
+        keywords.append({found[i], formOf(forms[i], called.contains(found[i])), {}});
+    measureTypes(questions, keywords, types);
+    return keywords;
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "facts.h"
+#include "header_scan.h"
+#include "questions.h"
+
+/// What can be learned of a compiler by compiling probes alone. Each function returns what it has
+/// found, and is given what it needs of what was found before.
+
+/// The names that may be predefined macros: those of \a names, those that the user's own \a defines
+/// ("NAME", "NAME=VALUE" or "NAME(X)=VALUE") give, and the well-known ones.
+QList<QByteArray> macroCandidates(const QList<ScannedName> &names, const QStringList &defines);
+
+/// The predefined macros among \a candidates with their values. Those whose definition cannot be
+/// found out with certainty are listed as undetermined.
+MacroFacts learnMacros(const Questions &questions, const QList<QByteArray> &candidates);
+
+/// The basic types, the signedness of char, the byte order and the types behind the standard
+/// headers' type names.
+TypeFacts learnTypes(const Questions &questions);
+
+/// The keywords among \a names and the well-known ones that are no standard keywords and no
+/// \a macros, with stand-ins from \a types, in alphabetical order.
+QList<Keyword> learnKeywords(const Questions &questions, const QList<ScannedName> &names,
+                             const MacroFacts &macros, const TypeFacts &types);
+
+/// Which directories with \a headers the compiler searches by itself, in its order.
+QStringList learnSearchPath(const Questions &questions, const QList<HeaderFile> &headers);

@@ -1,0 +1,265 @@
+#include "learning.h"
+
+#include "macro_definitions.h"
+#include "well_known_names.h"
+
+#include <QRegularExpression>
+#include <QSet>
+#include <algorithm>
+#include <cstring>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const qsizetype longestLine = 500; // ISO C90 promises 509 characters of a source line
+const int namesInGroup = 16;
+
+// The value stands between two characters that no macro swallows, so that an empty one is no empty
+// argument. Arguments are taken as they come where the compiler has variadic macros.
+const QByteArray variadicQuote = "#define CALYX_Q(...) #__VA_ARGS__\n"
+                                 "#define CALYX_T(...) CALYX_Q(__VA_ARGS__)\n";
+const QByteArray plainQuote = "#define CALYX_Q(x) #x\n#define CALYX_T(x) CALYX_Q(x)\n";
+
+QByteArray quoted(const QByteArray &expression)
+{
+    return "CALYX_T(~ " + expression + " ~)";
+}
+
+/// What has been quoted, from the text "~ 1 ~".
+QByteArray unquoted(const QByteArray &text)
+{
+    return text.mid(1, text.size() - 2).trimmed();
+}
+
+/// The definitions by which quoted() works with this compiler.
+QByteArray quoteDefinitions(const Questions &questions)
+{
+    const bool hasVariadic =
+        questions.texts(variadicQuote, {quoted("x, y")}).first() == QByteArray("~ x, y ~");
+    return hasVariadic ? variadicQuote : plainQuote;
+}
+
+/// What each of \a expressions becomes behind \a prelude, which begins with the quote's
+/// definitions.
+QList<std::optional<QByteArray>> expanded(const Questions &questions, const QByteArray &prelude,
+                                          const QList<QByteArray> &expressions)
+{
+    QList<QByteArray> literals;
+    for (const QByteArray &expression : expressions)
+        literals << quoted(expression);
+    QList<std::optional<QByteArray>> texts = questions.texts(prelude, literals);
+    for (std::optional<QByteArray> &text : texts) {
+        if (text)
+            text = unquoted(*text);
+    }
+    return texts;
+}
+
+/// Tests of \a names in groups, each as long as a line may be: "defined A || defined B".
+QList<QList<QByteArray>> groupsOf(const QList<QByteArray> &names)
+{
+    QList<QList<QByteArray>> groups;
+    qsizetype length = 0;
+    for (const QByteArray &name : names) {
+        const qsizetype more = name.size() + qsizetype(std::strlen(" || defined "));
+        const bool isFull =
+            groups.isEmpty() || groups.last().size() == namesInGroup || length + more > longestLine;
+        if (isFull) {
+            groups << QList<QByteArray>();
+            length = 0;
+        }
+        groups.last() << name;
+        length += more;
+    }
+    return groups;
+}
+
+/// Which of \a names are defined: first asked in groups, then one by one in those groups where one
+/// is.
+QList<QByteArray> definedNames(const Questions &questions, const QList<QByteArray> &names)
+{
+    const QList<QList<QByteArray>> groups = groupsOf(names);
+    QList<QByteArray> conditions;
+    for (const QList<QByteArray> &group : groups)
+        conditions << "defined " + group.join(" || defined ");
+    const QList<bool> groupHolds = questions.conditions(conditions);
+    QList<QByteArray> suspects, tests, defined;
+    for (qsizetype i = 0; i < groups.size(); ++i) {
+        if (groupHolds[i])
+            suspects << groups[i];
+    }
+    for (const QByteArray &name : suspects)
+        tests << "defined " + name;
+    const QList<bool> holds = questions.conditions(tests);
+    for (qsizetype i = 0; i < suspects.size(); ++i) {
+        if (holds[i])
+            defined << suspects[i];
+    }
+    return defined;
+}
+
+/// Which of \a macros the compiler has with exactly that definition: it accepts the same one again
+/// without a word. Nothing when it would accept another one as well.
+std::optional<QList<bool>> confirmed(const Questions &questions, const QList<Macro> &macros)
+{
+    QList<QByteArray> definitions;
+    for (const Macro &macro : macros)
+        definitions << "#define " + macro.name + ' ' + macro.value + '\n';
+    return questions.withoutMessage("#define CALYX_CONTROL 1\n", definitions,
+                                    "#define CALYX_CONTROL 2\nextern int calyx_end;\n");
+}
+
+/// Whether a compiler may refuse to have the macro defined again or taken back, whatever its value
+/// (ISO C 6.10.8, ISO C++ [cpp.predefined]).
+bool isProtected(const QByteArray &name)
+{
+    return name.startsWith("__STDC") || name == "__cplusplus";
+}
+
+/// The value of \a macro with every other one of \a defined taken back, so that nothing in it is
+/// replaced; as it was where that cannot be asked.
+QByteArray bareValue(const Questions &questions, const QByteArray &quote, const Macro &macro,
+                     const QList<QByteArray> &defined)
+{
+    QByteArray undefined;
+    for (const QByteArray &other : defined) {
+        if (other != macro.name && !isProtected(other))
+            undefined += "#undef " + other + '\n';
+    }
+    if (undefined.size() > questions.limits().bytes)
+        return macro.value;
+    return expanded(questions, quote + undefined, {macro.name}).first().value_or(macro.value);
+}
+
+/// Adds those of \a macros that the compiler confirms to \a facts. Returns the others.
+QList<Macro> keepConfirmed(const Questions &questions, const QList<Macro> &macros,
+                           MacroFacts &facts)
+{
+    const std::optional<QList<bool>> isExact = confirmed(questions, macros);
+    QList<Macro> others;
+    for (qsizetype i = 0; i < macros.size(); ++i)
+        (isExact && (*isExact)[i] ? facts.known : others) << macros[i];
+    return others;
+}
+
+/// The object-like macros \a macros as they are: read back, their values are what becomes of their
+/// definitions. \a defined are the names of all macros.
+MacroFacts withBareValues(const Questions &questions, const QByteArray &quote,
+                          const QList<Macro> &macros, const QList<QByteArray> &defined)
+{
+    MacroFacts facts;
+    const std::optional<QList<bool>> isExact = confirmed(questions, macros);
+    QList<Macro> doubtful;
+    for (qsizetype i = 0; i < macros.size(); ++i) {
+        const bool isKept = !isExact || (*isExact)[i] || isProtected(macros[i].name);
+        (isKept ? facts.known : doubtful) << macros[i];
+    }
+    // Something in these values has been replaced, or a string does not say what it was made of.
+    for (Macro &macro : doubtful)
+        macro.value = bareValue(questions, quote, macro, defined);
+    for (const Macro &macro : keepConfirmed(questions, doubtful, facts))
+        facts.undetermined << macro.name;
+    return facts;
+}
+
+/// A function-like macro, and the definitions that it may have, the likeliest first.
+struct OpenMacro
+{
+    QByteArray name;
+    QList<Macro> definitions;
+};
+
+/// For each of the function-like macros \a names the definitions that it may have.
+QList<OpenMacro> possibleDefinitions(const Questions &questions, const QByteArray &quote,
+                                     const QList<QByteArray> &names)
+{
+    QList<QList<std::optional<QByteArray>>> uses(names.size());
+    for (int count = 0; count <= mostParameters; ++count) {
+        QList<QByteArray> expressions;
+        for (const QByteArray &name : names)
+            expressions << name + '(' + placeholders(count) + ')';
+        const QList<std::optional<QByteArray>> texts = expanded(questions, quote, expressions);
+        for (qsizetype i = 0; i < names.size(); ++i)
+            uses[i] << texts[i];
+    }
+    QList<OpenMacro> macros;
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        const Macro ofItself {names[i], names[i]};
+        macros.append(
+            {names[i], QList<Macro> {ofItself} + functionLikeDefinitions(names[i], uses[i])});
+    }
+    return macros;
+}
+
+/// The function-like macros \a names, each with the first definition that the compiler confirms.
+MacroFacts learnFunctionLike(const Questions &questions, const QByteArray &quote,
+                             const QList<QByteArray> &names)
+{
+    MacroFacts facts;
+    QList<OpenMacro> open = possibleDefinitions(questions, quote, names);
+    while (!open.isEmpty()) {
+        QList<Macro> tried;
+        for (OpenMacro &macro : open)
+            tried << macro.definitions.takeFirst();
+        const QList<Macro> refused = keepConfirmed(questions, tried, facts);
+        QList<OpenMacro> next;
+        for (qsizetype i = 0; i < open.size(); ++i) {
+            if (!refused.contains(tried[i]))
+                continue;
+            if (open[i].definitions.isEmpty())
+                facts.undetermined << open[i].name;
+            else
+                next << open[i];
+        }
+        open = next;
+    }
+    return facts;
+}
+
+} // namespace
+
+QList<QByteArray> macroCandidates(const QList<ScannedName> &names, const QStringList &defines)
+{
+    const QList<QByteArray> known = wellKnownMacros();
+    QSet<QByteArray> chosen(known.begin(), known.end());
+    for (const ScannedName &name : names) {
+        const bool isUsedOnly = (name.uses & ~unsigned(CalledInHeader)) == UsedInHeader;
+        if (!isUsedOnly || name.text.startsWith('_'))
+            chosen << name.text;
+    }
+    static const QRegularExpression behindName(u"[=(]"_s);
+    for (const QString &define : defines)
+        chosen << define.section(behindName, 0, 0).toUtf8();
+    QList<QByteArray> sorted(chosen.begin(), chosen.end());
+    sorted.removeIf(&isSpecialName);
+    std::sort(sorted.begin(), sorted.end());
+    return sorted;
+}
+
+MacroFacts learnMacros(const Questions &questions, const QList<QByteArray> &candidates)
+{
+    const QList<QByteArray> defined = definedNames(questions, candidates);
+    const QByteArray quote = quoteDefinitions(questions);
+    const QList<std::optional<QByteArray>> texts = expanded(questions, quote, defined);
+    MacroFacts facts;
+    QList<Macro> objectLike;
+    QList<QByteArray> functionLike;
+    for (qsizetype i = 0; i < defined.size(); ++i) {
+        if (!texts[i])
+            facts.undetermined << defined[i];
+        else if (*texts[i] == defined[i]) // without arguments it is not replaced
+            functionLike << defined[i];
+        else
+            objectLike.append({defined[i], *texts[i]});
+    }
+    for (const MacroFacts &more : {withBareValues(questions, quote, objectLike, defined),
+                                   learnFunctionLike(questions, quote, functionLike)}) {
+        facts.known << more.known;
+        facts.undetermined << more.undetermined;
+    }
+    std::sort(facts.known.begin(), facts.known.end(),
+              [](const Macro &a, const Macro &b) { return a.name < b.name; });
+    std::sort(facts.undetermined.begin(), facts.undetermined.end());
+    return facts;
+}

@@ -1,0 +1,249 @@
+#include "learning.h"
+
+#include "header_directories.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <algorithm>
+#include <map>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray inBrackets(const QString &name)
+{
+    return '<' + name.toLocal8Bit() + '>';
+}
+
+/// Those of \a names whose flag is set.
+QSet<QString> chosen(const QStringList &names, const QList<bool> &flags)
+{
+    QSet<QString> set;
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        if (flags[i])
+            set << names[i];
+    }
+    return set;
+}
+
+/// Which of \a names the compiler finds when they are included.
+QSet<QString> foundHeaders(const Questions &questions, const QStringList &names)
+{
+    if (questions.conditions({"defined __has_include"}).first()) {
+        QList<QByteArray> conditions;
+        for (const QString &name : names)
+            conditions << "__has_include(" + inBrackets(name) + ')';
+        return chosen(names, questions.conditions(conditions));
+    }
+    QList<QByteArray> sources;
+    for (const QString &name : names)
+        sources << "#include " + inBrackets(name) + "\nint calyx_object;\n";
+    const QList<ProbeAnswer> answers = questions.eachAlone(sources);
+    QList<bool> isFound;
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        // A header that is found and cannot be compiled alone is named with its path.
+        const QByteArray messages = answers[i].run.output + answers[i].run.errors;
+        const QByteArray name = names[i].toLocal8Bit();
+        isFound << (answers[i].compiled() || messages.contains('/' + name)
+                    || messages.contains('\\' + name));
+    }
+    return chosen(names, isFound);
+}
+
+/// The names of the macros that the header \a path may define.
+QSet<QByteArray> macrosOf(const QString &path)
+{
+    static const QRegularExpression define(
+        u"^[ \\t]*#[ \\t]*define[ \\t]+([A-Za-z_][A-Za-z0-9_]*)"_s,
+        QRegularExpression::MultilineOption);
+    QSet<QByteArray> names;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return names;
+    QRegularExpressionMatchIterator matches =
+        define.globalMatch(QString::fromLatin1(file.readAll()));
+    while (matches.hasNext())
+        names << matches.next().captured(1).toLatin1();
+    return names;
+}
+
+/// Tells which of several files with one name the compiler takes, by the macros that each defines.
+class Comparison
+{
+public:
+    Comparison(const Questions &questions, const HeaderDirectories &directories)
+        : m_questions(questions), m_directories(directories)
+    { }
+
+    /// Whether the header \a name is taken from \a first rather than from \a second. Nothing when
+    /// the two do not differ in what shows.
+    std::optional<bool> takesFirst(const QString &name, const QString &first, const QString &second)
+    {
+        const QSet<QByteArray> &ofFirst = macrosIn(first + u'/' + name);
+        const QSet<QByteArray> &ofSecond = macrosIn(second + u'/' + name);
+        if (ofFirst == ofSecond)
+            return {};
+        const QSet<QByteArray> &defined = definedBehind(name, {first, second});
+        // Of its own macros some may have been defined elsewhere, and others are only defined
+        // under some condition.
+        const double definedOfFirst = fractionIn(defined, ofFirst - ofSecond);
+        const double definedOfSecond = fractionIn(defined, ofSecond - ofFirst);
+        if (definedOfFirst > 2 * definedOfSecond)
+            return true;
+        return definedOfSecond > 2 * definedOfFirst ? std::optional(false) : std::nullopt;
+    }
+
+    /// Whether \a directory is the one that its header \a name is taken from. Nothing when it is as
+    /// good as others.
+    std::optional<bool> isTakenFrom(const QString &name, const QString &directory)
+    {
+        bool isCertain = true;
+        for (const QString &other : m_directories.directoriesWith(name)) {
+            if (other == directory)
+                continue;
+            const std::optional<bool> answer = takesFirst(name, directory, other);
+            if (answer == false)
+                return false;
+            isCertain &= answer.has_value();
+        }
+        return isCertain ? std::optional(true) : std::nullopt;
+    }
+
+    /// Whether \a first comes before \a second for a header that tells.
+    bool precedes(const QString &first, const QString &second)
+    {
+        for (const QString &name : m_directories.commonHeaders(first, second)) {
+            if (const std::optional<bool> answer = takesFirst(name, first, second))
+                return *answer;
+        }
+        return false;
+    }
+
+private:
+    /// How many of \a names, from 0 to 1, are in \a set.
+    static double fractionIn(const QSet<QByteArray> &set, QSet<QByteArray> names)
+    {
+        const qsizetype all = names.size();
+        return all == 0 ? 0 : double(names.intersect(set).size()) / double(all);
+    }
+
+    const QSet<QByteArray> &macrosIn(const QString &path)
+    {
+        if (!m_macros.contains(path))
+            m_macros[path] = macrosOf(path);
+        return m_macros[path];
+    }
+
+    /// Of the macros in all files \a name, those of \a directories among them, the ones that are
+    /// defined once it has been included.
+    const QSet<QByteArray> &definedBehind(const QString &name, QStringList directories)
+    {
+        directories << m_directories.directoriesWith(name);
+        directories.removeDuplicates();
+        directories.sort();
+        const QString key = name + u'\n' + directories.join(u'\n');
+        if (m_defined.contains(key))
+            return m_defined[key];
+        QSet<QByteArray> all;
+        for (const QString &directory : directories)
+            all += macrosIn(directory + u'/' + name);
+        const QList<QByteArray> names(all.begin(), all.end());
+        QList<QByteArray> tests;
+        for (const QByteArray &macro : names)
+            tests << "defined " + macro;
+        const QList<bool> holds =
+            m_questions.conditions(tests, "#include " + inBrackets(name) + '\n');
+        QSet<QByteArray> &defined = m_defined[key];
+        for (qsizetype i = 0; i < names.size(); ++i) {
+            if (holds[i])
+                defined << names[i];
+        }
+        return defined;
+    }
+
+    const Questions &m_questions;
+    const HeaderDirectories &m_directories;
+    std::map<QString, QSet<QByteArray>> m_macros;  ///< of each file
+    std::map<QString, QSet<QByteArray>> m_defined; ///< behind each header
+};
+
+/// Finds out which directories are searched.
+class SearchPathFinder
+{
+public:
+    SearchPathFinder(const Questions &questions, const HeaderDirectories &directories)
+        : m_questions(questions), m_directories(directories), m_comparison(questions, directories)
+    { }
+
+    QStringList find()
+    {
+        while (addSearched()) { }
+        return inOrder();
+    }
+
+private:
+    /// Adds the directories with headers that are found and that none has of those that are known
+    /// to be searched. Returns whether there is one.
+    bool addSearched()
+    {
+        QMap<QString, QStringList> telling;
+        QStringList all;
+        for (const QString &directory : m_directories.all()) {
+            if (!m_searched.contains(directory))
+                all << (telling[directory] = m_directories.tellingHeaders(directory, m_searched));
+        }
+        all.removeDuplicates();
+        const QSet<QString> found = foundHeaders(m_questions, all);
+        const qsizetype before = m_searched.size();
+        for (auto row = telling.begin(); row != telling.end(); ++row) {
+            row->removeIf([&found](const QString &name) { return !found.contains(name); });
+            if (isSearched(*row, row.key()))
+                m_searched << row.key();
+        }
+        return m_searched.size() > before;
+    }
+
+    /// Whether the headers \a names, which are found, are those of \a directory: one of them shows
+    /// it and none the contrary. Where no file differs from the others of its name, the directory
+    /// that was given first is as good as any.
+    bool isSearched(const QStringList &names, const QString &directory)
+    {
+        bool isLikely = false;
+        for (const QString &name : names) {
+            const std::optional<bool> answer = m_comparison.isTakenFrom(name, directory);
+            if (answer)
+                return *answer;
+            isLikely |= m_directories.directoriesWith(name).first() == directory;
+        }
+        return isLikely;
+    }
+
+    /// The directories that are searched, each before the first one that it must precede.
+    QStringList inOrder()
+    {
+        QStringList path;
+        for (const QString &directory : m_directories.all()) {
+            if (!m_searched.contains(directory))
+                continue;
+            const auto place = std::find_if(path.begin(), path.end(), [&](const QString &other) {
+                return m_comparison.precedes(directory, other);
+            });
+            path.insert(place, directory);
+        }
+        return path;
+    }
+
+    const Questions &m_questions;
+    const HeaderDirectories &m_directories;
+    Comparison m_comparison;
+    QSet<QString> m_searched;
+};
+
+} // namespace
+
+QStringList learnSearchPath(const Questions &questions, const QList<HeaderFile> &headers)
+{
+    const HeaderDirectories directories(headers, questions.isCpp());
+    return SearchPathFinder(questions, directories).find();
+}

@@ -1,0 +1,72 @@
+#include "personality.h"
+
+#include "clang.h"
+
+#include <QDir>
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Option pathOption(const QByteArray &option, const QString &path)
+{
+    return {option, QDir::current().absoluteFilePath(path).toUtf8()};
+}
+
+bool hasHeaders(const QString &directory)
+{
+    return !QDir(directory).entryList({u"*.h"_s}, QDir::Files).isEmpty();
+}
+
+QList<Option> searchOptions(const Arguments &arguments, const Facts &facts)
+{
+    QList<Option> options;
+    if (!arguments.substituteHeaders.isEmpty())
+        options << pathOption("-isystem", arguments.substituteHeaders);
+    for (const QString &directory : facts.searchPath.forQuotedNames)
+        options << pathOption("-iquote", directory);
+    const QStringList &searched = facts.searchPath.directories;
+    bool usesClangsOwn = false;
+    for (const QString &directory : searched) {
+        const bool isTied = !findMacro(facts.macros, "__clang__") && holdsIntrinsics(directory);
+        usesClangsOwn |= isTied;
+        options << pathOption(isTied ? "-idirafter" : "-isystem", directory);
+    }
+    for (const QString &directory : arguments.headerDirectories) {
+        // What the user has given and the compiler does not search must not hide anything.
+        if (!searched.contains(QDir(directory).canonicalPath()) && hasHeaders(directory))
+            options << pathOption("-idirafter", directory);
+    }
+    options.prepend({usesClangsOwn ? "-nostdlibinc" : "-nostdinc"});
+    return options;
+}
+
+} // namespace
+
+Personality composePersonality(const Arguments &arguments, const Facts &facts,
+                               const QStringList &includedByCommand, const QByteArray &templateText)
+{
+    Personality personality {
+        arguments.command, arguments.switches, facts, templateText, {}, {}, {}, {}};
+    if (!templateText.isEmpty() && !templateText.endsWith('\n'))
+        personality.templateText += '\n';
+    MacroFacts &macros = personality.facts.macros;
+    for (const Macro &macro : facts.macros.known) {
+        if (!canBeDefined(macro))
+            macros.undetermined << macro.name;
+    }
+    macros.known.removeIf([](const Macro &macro) { return !canBeDefined(macro); });
+    for (const QByteArray &option : languageOptions(facts, arguments.isCpp))
+        personality.language.append({option});
+    for (const Macro &macro : keywordDefinitions(facts))
+        personality.keywordDefinitions.append({"-D" + macro.name + '=' + macro.value});
+    personality.searchPath = searchOptions(arguments, facts);
+    if (!arguments.forceIncludeFile.isEmpty())
+        personality.includedFirst << pathOption("-include", arguments.forceIncludeFile);
+    // A name that is no path is searched for, so these stay as they are.
+    for (qsizetype i = 0; i + 1 < includedByCommand.size(); i += 2)
+        personality.includedFirst.append(
+            {includedByCommand[i].toUtf8(), includedByCommand[i + 1].toUtf8()});
+    return personality;
+}

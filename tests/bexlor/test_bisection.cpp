@@ -1,0 +1,140 @@
+#include "bisection.h"
+
+#include "row.h"
+
+#include <QTest>
+
+namespace {
+
+const ProbeLimits limits {200, 1000};
+
+/// A compiler that rejects lines with "bad" in them. It names in its errors what the row says.
+struct FakeCompiler
+{
+    QString names; ///< "all", "first", "none", "wrong" (the line behind) or "everything"
+    int started = 0;
+
+    QList<ProbeAnswer> operator()(const QList<QByteArray> &sources)
+    {
+        QList<ProbeAnswer> answers;
+        for (const QByteArray &source : sources)
+            answers << answer(source);
+        return answers;
+    }
+
+    ProbeAnswer answer(const QByteArray &source)
+    {
+        ++started;
+        ProbeAnswer answer;
+        answer.run.ending = platform::ProgramRun::Exited;
+        const QList<QByteArray> lines = source.split('\n');
+        for (int i = 0; i < lines.size(); ++i) {
+            if (lines[i].contains("bad") || names == "everything")
+                answer.lines << i + (names == "wrong" ? 2 : 1);
+        }
+        answer.run.exitCode = source.contains("bad") ? 1 : 0;
+        if (names == "first" && !answer.lines.isEmpty())
+            answer.lines = {*std::min_element(answer.lines.begin(), answer.lines.end())};
+        if (names == "none")
+            answer.lines.clear();
+        answer.allLines = answer.lines;
+        return answer;
+    }
+};
+
+/// Items of one or two lines each, those with a number in \a bad rejected.
+QList<QByteArray> items(int count, const QList<int> &bad)
+{
+    QList<QByteArray> items;
+    for (int i = 0; i < count; ++i) {
+        const QByteArray line = (bad.contains(i) ? "bad " : "good ") + QByteArray::number(i);
+        items << (i % 3 == 0 ? "\n" : "") + line + '\n';
+    }
+    return items;
+}
+
+} // namespace
+
+class TestBisection : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void findsWhatIsAccepted_data()
+    {
+        QTest::addColumn<QString>("names");
+        QTest::addColumn<QList<int>>("bad");
+        QTest::addColumn<int>("starts"); // at most
+        const QList<int> few {0, 7, 8, 31, 149}, none;
+        row("no errors", "all", none, 2);
+        row("names all", "all", few, 10);
+        row("stops at its first error", "first", few, 40);
+        row("names no line", "none", few, 60);
+        row("names the line behind", "wrong", few, 110);
+        row("names everything", "everything", few, 60);
+    }
+    void findsWhatIsAccepted()
+    {
+        QFETCH(QString, names);
+        QFETCH(QList<int>, bad);
+        QFETCH(int, starts);
+        FakeCompiler compiler {names};
+        const QList<bool> accepted = acceptedItems(std::ref(compiler), "prelude\nof two lines\n",
+                                                   items(150, bad), limits, true);
+        for (int i = 0; i < accepted.size(); ++i)
+            QVERIFY2(accepted[i] == !bad.contains(i), qPrintable(QString::number(i)));
+        QVERIFY2(compiler.started <= starts, qPrintable(QString::number(compiler.started)));
+    }
+
+    void confirmsSuspectsAlone()
+    {
+        // An item that is rejected behind another one only.
+        const AskProbes ask = [](const QList<QByteArray> &sources) {
+            QList<ProbeAnswer> answers;
+            for (const QByteArray &source : sources) {
+                ProbeAnswer answer;
+                answer.run.ending = platform::ProgramRun::Exited;
+                const bool goesAstray = source.contains("bad") && source.contains("victim");
+                answer.run.exitCode = source.contains("bad") ? 1 : 0;
+                answer.lines = goesAstray ? QSet<int> {1, 2} : QSet<int> {1};
+                answers << answer;
+            }
+            return answers;
+        };
+        const QList<QByteArray> items {"bad\n", "victim\n", "good\n"};
+        QCOMPARE(acceptedItems(ask, {}, items, limits, false), QList<bool>({false, false, true}));
+        QCOMPARE(acceptedItems(ask, {}, items, limits, true), QList<bool>({false, true, true}));
+    }
+
+    void keepsToTheLimits()
+    {
+        for (const Batch &batch : batchesOf(items(500, {}), 900, limits))
+            QVERIFY(!batch.isEmpty() && batch.size() <= limits.declarations / 2);
+        QCOMPARE(batchesOf(items(150, {}), 0, limits).size(), 2);
+        QCOMPARE(batchesOf({QByteArray(5000, 'x'), "y\n"}, 0, limits).size(), 2);
+    }
+
+    void findsWhatDrawsNoMessage_data()
+    {
+        QTest::addColumn<QString>("names");
+        QTest::addColumn<bool>("isSilent"); // on everything
+        row("names all", "all", false);
+        row("stops at its first error", "first", false);
+        row("says nothing", "none", true);
+    }
+    void findsWhatDrawsNoMessage()
+    {
+        QFETCH(QString, names);
+        QFETCH(bool, isSilent);
+        FakeCompiler compiler {names};
+        const QList<int> bad {2, 3, 140};
+        const auto silent = itemsWithoutMessage(std::ref(compiler), "prelude\n", items(150, bad),
+                                                "bad control\nbehind\n", limits);
+        QCOMPARE(silent.has_value(), !isSilent);
+        for (int i = 0; silent && i < silent->size(); ++i)
+            QVERIFY2((*silent)[i] == !bad.contains(i), qPrintable(QString::number(i)));
+    }
+};
+
+QTEST_APPLESS_MAIN(TestBisection)
+#include "test_bisection.moc"

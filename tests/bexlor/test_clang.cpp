@@ -1,0 +1,151 @@
+#include "clang.h"
+
+#include "files.h"
+#include "row.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+QList<Macro> macros(const QByteArray &names)
+{
+    QList<Macro> macros;
+    for (const QByteArray &name : names.split(' '))
+        macros.append({name.split('=').first(), name.contains('=') ? name.split('=')[1] : "1"});
+    return macros;
+}
+
+/// Types with these sizes of int, long, a pointer, double and long double; 0 for one that is
+/// missing.
+TypeFacts types(const QList<int> &sizes)
+{
+    const QByteArray names[] = {"int", "long", "void *", "double", "long double"};
+    TypeFacts types;
+    for (int i = 0; i < sizes.size(); ++i) {
+        if (sizes[i] != 0)
+            types.basic.append({names[i], sizes[i], 1});
+    }
+    return types;
+}
+
+} // namespace
+
+class TestClang : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void findsTheTarget_data()
+    {
+        QTest::addColumn<QByteArray>("defined");
+        QTest::addColumn<QList<int>>("sizes");
+        QTest::addColumn<ByteOrder>("order");
+        QTest::addColumn<QByteArray>("target");
+        using Sizes = QList<int>;
+        const auto row = [](const char *name, const QByteArray &defined, const Sizes &sizes,
+                            ByteOrder order, const QByteArray &target) {
+            QTest::newRow(name) << defined << sizes << order << target;
+        };
+        const ByteOrder little = ByteOrder::LittleEndian, big = ByteOrder::BigEndian;
+        row("Linux", "__x86_64__ __linux__", {}, little, "x86_64-unknown-linux-gnu");
+        row("x32", "__x86_64__ __ILP32__ __linux__", {}, little, "x86_64-unknown-linux-gnux32");
+        row("MinGW", "__x86_64__ _WIN32", {}, little, "x86_64-w64-windows-gnu");
+        row("bare Arm", "__arm__ __ELF__", {}, little, "arm-unknown-none-eabi");
+        row("hard float", "__arm__ __linux__ __ARM_PCS_VFP", {}, little,
+            "arm-unknown-linux-gnueabihf");
+        row("big-endian Arm", "__arm__ __ELF__", {}, big, "armeb-unknown-none-eabi");
+        row("little-endian MIPS", "__mips64 __mips__ __ELF__", {}, little,
+            "mips64el-unknown-none-elf");
+        row("RISC-V", "__riscv_xlen=32 __ELF__", {}, little, "riscv32-unknown-none-elf");
+        row("8 bits", "SDCC", {2, 4, 2, 4, 0}, little, "avr-unknown-unknown");
+        row("8 bits, few types", "__CC65__", {2, 4, 2, 0, 0}, little, "avr-unknown-unknown");
+        row("16 bits", "ACC", {2, 4, 2, 8, 8}, little, "msp430-unknown-none-elf");
+        row("32 bits", "ACC", {4, 4, 4, 8, 8}, little, "arm-unknown-none-eabi");
+        row("32 bits, big-endian", "ACC", {4, 4, 4, 8, 8}, big, "armeb-unknown-none-eabi");
+        row("64 bits", "ACC", {4, 8, 8, 8, 16}, ByteOrder::Unknown, "x86_64-unknown-none-elf");
+        row("64 bits, short long", "ACC", {4, 4, 8, 8, 16}, little, "x86_64-w64-windows-gnu");
+        row("nothing known", "ACC", {}, ByteOrder::Unknown, "");
+    }
+    void findsTheTarget()
+    {
+        QFETCH(QByteArray, defined);
+        QFETCH(QList<int>, sizes);
+        QFETCH(ByteOrder, order);
+        Facts facts;
+        facts.macros.known = macros(defined);
+        facts.types = types(sizes);
+        facts.types.byteOrder = order;
+        QTEST(clangTarget(facts), "target");
+    }
+
+    void takesTheSameCode_data()
+    {
+        QTest::addColumn<Facts>("facts");
+        QTest::addColumn<bool>("isCpp");
+        QTest::addColumn<QByteArray>("code");
+        Facts facts;
+        const auto row = [&facts](const char *name, bool isCpp, const QByteArray &code) {
+            QTest::newRow(name) << facts << isCpp << code;
+        };
+        facts.macros.known = macros("__arm__ __ELF__ __STDC_VERSION__=201112L __cplusplus=201703L");
+        facts.types = types({4, 4, 4, 8, 8});
+        row("signed char, C11", false,
+            "char a[(char)-1<0?1:-1]; char b[__STDC_VERSION__==201112?1:-1];");
+        row("enumerations like int", false, "char a[sizeof(enum{A})==4?1:-1];");
+        row("neither exceptions nor types at run time", true,
+            "#if __cplusplus != 201703 || __cpp_exceptions || __cpp_rtti\n#error\n#endif\n");
+        facts.types.charIsUnsigned = true;
+        facts.types.smallEnumSize = 1;
+        row("unsigned char, short enumerations", false,
+            "char a[(char)-1>0?1:-1]; char b[sizeof(enum{A})==1?1:-1];");
+        facts.types.wideCharacterType = "unsigned short";
+        facts.macros.known << macros("__cpp_char8_t __EXCEPTIONS __GXX_RTTI");
+        row("short wchar_t, char8_t, exceptions", true,
+            "char a[sizeof(wchar_t)==2?1:-1]; char8_t b = u8'a'; void f() { throw 1; }\n"
+            "#if !__cpp_rtti\n#error\n#endif\n");
+        facts.keywords.append({"_Accum", Keyword::Undetermined, {}});
+        row("fixed point", false, "long _Accum a; unsigned _Fract b = 0.5ur;");
+        facts = Facts();
+        facts.macros.known = macros("__x86_64__ __linux__ __STRICT_ANSI__");
+        facts.types = types({4, 8, 8, 8, 8});
+        row("short long double, C90", false,
+            "char a[sizeof(long double)==8?1:-1]; int restrict; int f(int inline);");
+        facts.types = types({2, 4, 2, 4, 4});
+        facts.macros.known = macros("SDCC");
+        facts.keywords = {{"__data", Keyword::Qualifier, {}},
+                          {"__at", Keyword::QualifierWithArgument, {}},
+                          {"__sfr", Keyword::TypeName, "unsigned char"},
+                          {"__inline", Keyword::Qualifier, {}},
+                          {"__bit", Keyword::TypeName, {}}};
+        row("8 bits", false,
+            "char a[sizeof(int)==2&&sizeof(void*)==2&&sizeof(double)==4?1:-1];"
+            "__data int b; __at(0x80) __sfr c; static __inline int d(void) { return 1; }"
+            "int __bit;");
+        facts.macros.known = macros("__GNUC__=11");
+        row("an attribute with arguments", false,
+            "void f(void *); __attribute__((__malloc__(f, 1))) void *g(void);");
+    }
+    void takesTheSameCode()
+    {
+        QFETCH(Facts, facts);
+        QFETCH(bool, isCpp);
+        QFETCH(QByteArray, code);
+        const QTemporaryDir folder;
+        const QString source = folder.filePath(isCpp ? "x.cpp" : "x.c");
+        writeTestFile(source, code);
+        QStringList arguments {"-fsyntax-only", "-nostdinc", "-Werror=macro-redefined"};
+        for (const QByteArray &option : languageOptions(facts, isCpp))
+            arguments << option;
+        for (const Macro &macro : keywordDefinitions(facts))
+            arguments << "-D" + macro.name + '=' + macro.value;
+        QProcess clang;
+        clang.start("clang", arguments + QStringList {source});
+        QVERIFY(clang.waitForFinished(-1));
+        QVERIFY2(clang.exitCode() == 0, clang.readAllStandardError());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestClang)
+#include "test_clang.moc"

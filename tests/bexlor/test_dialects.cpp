@@ -1,0 +1,112 @@
+#include "dialects.h"
+
+#include "files.h"
+#include "row.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+using platform::ProgramRun;
+
+namespace {
+
+ProgramRun answer(const QByteArray &output, const QByteArray &errors = {}, int exitCode = 0)
+{
+    return {ProgramRun::Exited, exitCode, output, errors};
+}
+
+} // namespace
+
+class TestDialects : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void readsMacroListings()
+    {
+        const QList<Macro> macros = macrosIn("#define A 1\n#define EMPTY\n#define E2 \r\n"
+                                             "#define F(a, b) (a) b\n#define G (x)\n"
+                                             "#define H() \nnoise\n#define V(...) \"#define\"");
+        QStringList read;
+        for (const Macro &macro : macros)
+            read << macro.name + "|" + macro.value;
+        QCOMPARE(read, QStringList({"A|1", "EMPTY|", "E2|", "F(a, b)|(a) b", "G|(x)", "H()|",
+                                    "V(...)|\"#define\""}));
+    }
+
+    void findsTheSearchPath_data()
+    {
+        QTest::addColumn<QString>("question");   // that the compiler understands
+        QTest::addColumn<bool>("onErrors");      // whether it answers there
+        QTest::addColumn<QByteArray>("listing"); // "$" stands for a folder
+        QTest::addColumn<QString>("directories");
+        QTest::addColumn<QString>("quoted");
+        const auto row = [](const char *name, const QString &question, bool onErrors,
+                            const QByteArray &listing, const QString &directories,
+                            const QString &quoted) {
+            QTest::newRow(name) << question << onErrors << listing << directories << quoted;
+        };
+        const QByteArray gnu = "Target: none\nignoring nonexistent directory \"$/x\"\n"
+                               "#include \"...\" search starts here:\n $/own\n"
+                               "#include <...> search starts here:\n $/a/../b c\n $/a\n $/a\n"
+                               "End of search list.\nCOMPILER_PATH=$/own:$/a:\n";
+        row("GNU", "* -v -E probe.c", true, gnu, "$/b c|$/a", "$/own");
+        row("sdcc's preprocessor", "* -Wp-v -E probe.c", true, gnu, "$/b c|$/a", "$/own");
+        row("tcc", "cc -print-search-dirs", false,
+            "install: $/own\ninclude:\n  $/a\n  $/missing\n  $/b c\nlibraries:\n  $/own\n",
+            "$/inc|$/a|$/b c", "");
+        row("sdcc", "* --print-search-dirs", false,
+            "programs:\n$/own\nincludedir:\n$/own/../b c\n$/b c\n$/missing\n$/a\nlibdir:\n$/own\n",
+            "$/inc|$/b c|$/a", "");
+        row("cc65", "* --print-target-path", false, "$/target\n", "$/inc|$/include", "");
+        row("files elsewhere", "* -v -E probe.c", true,
+            "#include <...> search starts here:\n /calyx/missing/../x\nEnd of search list.\n",
+            "/calyx/missing/../x", "");
+        row("nothing of the kind", "* -v -E probe.c", false, "No input files\n", "", "");
+    }
+    void findsTheSearchPath()
+    {
+        QFETCH(QString, question);
+        QFETCH(bool, onErrors);
+        QFETCH(QByteArray, listing);
+        QFETCH(QString, directories);
+        QFETCH(QString, quoted);
+        const QTemporaryDir folder;
+        const QString top = QDir(folder.path()).canonicalPath();
+        for (const char *name : {"a", "b c", "own", "target", "include", "inc"})
+            QDir(top).mkdir(name);
+        listing.replace("$", top.toLocal8Bit());
+        QStringList asked;
+        const QStringList command {"cc", "-I", top + "/inc", "-I" + top + "/none", "-I"};
+        const RunCommand run = [&](const QStringList &words) {
+            asked << words.join(' ').replace(command.join(' '), "*");
+            if (asked.last() != question)
+                return answer({}, "include:\n/usr\n", 1);
+            return onErrors ? answer({}, listing) : answer(listing);
+        };
+        const DialectAnswers answers = askInDialects(run, command, "probe.c");
+        QCOMPARE(answers.searchPath.directories.join('|').replace(top, "$"), directories);
+        QCOMPARE(answers.searchPath.forQuotedNames.join('|').replace(top, "$"), quoted);
+        QVERIFY(asked.contains("* -dM -E probe.c") && asked.contains("* --version"));
+        QCOMPARE(asked.removeDuplicates(), 0);
+    }
+
+    void asksForNothingTwice()
+    {
+        QStringList asked;
+        const RunCommand run = [&asked](const QStringList &words) {
+            asked << words.join(' ');
+            return answer("#define A 1\n#define __FILE__ x\n#define __has_include 1\n"
+                          "made by hand, cc 1.2\n");
+        };
+        const DialectAnswers known {{}, {{"/a"}, {}}, {}};
+        const DialectAnswers answers = askInDialects(run, {"cc"}, "probe.c", known);
+        QCOMPARE(asked, QStringList({"cc -dM -E probe.c", "cc --version"}));
+        QCOMPARE(answers.macros, QList<Macro>({{"A", "1"}}));
+        QCOMPARE(answers.versionLine, "made by hand, cc 1.2");
+    }
+};
+
+QTEST_APPLESS_MAIN(TestDialects)
+#include "test_dialects.moc"

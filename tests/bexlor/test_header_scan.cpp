@@ -1,0 +1,123 @@
+#include "header_scan.h"
+
+#include "files.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QTest>
+#include <filesystem>
+#include <fstream>
+
+class TestHeaderScan : public QObject
+{
+    Q_OBJECT
+
+private:
+    /// The names found, each followed by the letters of its uses.
+    static QStringList shown(const HeaderScan &scan)
+    {
+        QStringList list;
+        for (const ScannedName &name : scan.names) {
+            QString text = name.text + ':';
+            const char letters[] = "TUCB"; // in the order of NameUse
+            for (int bit = 0; bit < 4; ++bit) {
+                if (name.uses & (1u << bit))
+                    text += letters[bit];
+            }
+            list << text;
+        }
+        return list;
+    }
+
+private slots:
+    void findsNames_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QStringList>("names");
+        const auto row = [](const char *name, const QByteArray &content, const QStringList &names) {
+            QTest::newRow(name) << content << names;
+        };
+        row("conditionals",
+            "#ifdef A1\n # if defined(Bb) \\\n || C\n#elif D /* E */ // F\n#endif\n",
+            {"A1:T", "Bb:T", "C:T", "D:T", "defined:T"});
+        row("uses", "__far int *x1; Upper camelCase __at(1) y;\n", {"__at:UC", "__far:U", "int:U"});
+        row("a definition's body", "#define NAME(a) __attribute__((a))\n#define __OTHER 1\n",
+            {"__attribute__:UC"});
+        row("comments and literals",
+            "/* __a * __b **/ \"__c \\\" __d\" '__e' // __f \\\n __g\n__h // __i", {"__h:U"});
+        row("a literal without an end", "#error don't __stop\n\"open __x\n__y\n", {"__y:U"});
+        row("a continued line of a comment", "// __a \\\r\n __b\n__c", {"__c:U"});
+        row("a mark within a definition", "#define A \\\n#if __b\n__c\n",
+            {"__b:U", "__c:U", "if:U"});
+        row("a tested call", "#if __has(x)\n#endif\n__has (x)\n", {"__has:TUC", "x:T"});
+        row("long names", QByteArray("__") + QByteArray(62, 'a') + " abcdefghijklm #\n",
+            QStringList());
+        row("no line feed at the end", "#if __LAST", {"__LAST:T"});
+        row("an unfinished comment", "__x /* __y", {"__x:U"});
+        row("binary", QByteArray("\0\1__unix__\0ab\0UPPER_2=lower\0Mixed__case\0% __x", 45),
+            {"UPPER_2:B", "__unix__:B", "__x:B", "lower:B"});
+    }
+    void findsNames()
+    {
+        QFETCH(QByteArray, content);
+        const QTemporaryDir folder;
+        writeTestFile(folder.filePath("file.h"), content);
+        QTEST(shown(scanHeaders({folder.path()})), "names");
+    }
+
+    void walksOverEverythingOnce()
+    {
+        const QTemporaryDir folder;
+        writeTestFile(folder.filePath("one/a.h"), "__one\n");
+        writeTestFile(folder.filePath("one/two/b.h"), "__two\n");
+        const std::filesystem::path one = folder.filePath("one").toStdWString();
+        std::error_code none; // not every system lets everyone make links
+        std::filesystem::create_directory_symlink("..", one / "two/loop", none);
+        std::filesystem::create_symlink("two/b.h", one / "link.h", none);
+        std::filesystem::create_symlink("nowhere", one / "broken.h", none);
+        QProcess::execute("mkfifo", {folder.filePath("one/pipe.h")});
+        const HeaderScan scan =
+            scanHeaders({folder.filePath("one"), folder.filePath("missing"), folder.path()});
+        QCOMPARE(shown(scan), QStringList({"__one:U", "__two:U"}));
+        QStringList headers;
+        for (const HeaderFile &header : scan.headers)
+            headers << header.directory.mid(folder.path().size()) + '/' + header.name;
+        if (none)
+            headers.insert(1, "/one/link.h");
+        QCOMPARE(headers, QStringList({"/one/a.h", "/one/link.h", "/one/two/b.h"}));
+        QCOMPARE(scan.remarks, QStringList {"Passed over, since it does not exist: "
+                                            + folder.filePath("missing")});
+    }
+
+    void readsFilesOfAnySize()
+    {
+        const QTemporaryDir folder;
+        writeTestFile(folder.filePath("empty.h"), "");
+        writeTestFile(folder.filePath("large.h"), QByteArray(3'000'000, '\n') + "__at_the_end");
+        writeTestFile(folder.filePath("large.bin"), QByteArray(3'000'000, '\0') + "__in_a_binary");
+        // A name that is no text in the usual encoding.
+        const std::string oddName = folder.path().toStdString() + "/\xff.h";
+        std::ofstream(oddName) << "__in_an_odd_file\n";
+        for (int i = 0; i < 70; ++i)
+            writeTestFile(folder.filePath(QString("many%1.h").arg(i)),
+                          "__n" + QByteArray::number(i));
+        // It has no first page to read.
+        const bool isUnreadable = QFile::link("/proc/self/mem", folder.filePath("unreadable.h"))
+                               && QDir::separator() == '/';
+        const HeaderScan scan = scanHeaders({folder.path()});
+        QCOMPARE(scan.remarks.size(), isUnreadable ? 1 : 0);
+        std::filesystem::remove(oddName);
+        QSet<QByteArray> names;
+        for (const ScannedName &name : scan.names)
+            names << name.text;
+        QVERIFY(names.contains("__n0") && names.contains("__n69"));
+        for (const char *name : {"__in_a_binary", "__at_the_end", "__in_an_odd_file"})
+            QVERIFY2(names.contains(name), name);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestHeaderScan)
+#include "test_header_scan.moc"
