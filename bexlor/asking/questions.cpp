@@ -25,11 +25,12 @@ QByteArray arrayName(int number)
 }
 
 /// An array of characters; \a elements is a string literal or a list in braces.
-QByteArray arrayOf(int number, const QByteArray &elements)
+QByteArray arrayOf(int number, const QByteArray &elements, bool isCpp)
 {
-    // Without a declaration before it a constant would be internal in C++, and left out.
     const QByteArray declarator = "const char " + arrayName(number) + "[]";
-    return "extern " + declarator + "; " + declarator + " = " + elements + ";\n";
+    // Without a declaration before it a constant would be internal in C++, and left out.
+    return (isCpp ? "extern " + declarator + "; " : QByteArray()) + declarator + " = " + elements
+         + ";\n";
 }
 
 QByteArray listStart(int number)
@@ -73,20 +74,6 @@ QByteArray decoded(QByteArray bytes, const QByteArray &characters)
             byte = characters[static_cast<unsigned char>(byte)];
     }
     return bytes;
-}
-
-/// The elements of an array in which, for each of \a conditions in \a batch that is true, its
-/// number within the batch stands as four letters.
-QByteArray numbersOfTrue(const QList<QByteArray> &conditions, const Batch &batch)
-{
-    QByteArray list = '{' + listStart(0) + '\n';
-    for (qsizetype i = 0; i < batch.size(); ++i) {
-        QByteArray code;
-        for (int shift = 0; shift < 16; shift += 4)
-            code += QByteArray::number('A' + ((i >> shift) & 15)) + ',';
-        list += "#if " + conditions[batch[i]] + '\n' + code + "\n#endif\n";
-    }
-    return list + "3}";
 }
 
 } // namespace
@@ -154,103 +141,90 @@ QList<ProbeAnswer> Questions::eachAlone(const QList<QByteArray> &sources) const
     return m_runner.askAll(sources);
 }
 
-QByteArray Questions::bytesOf(const ReadingProbe &probe, const ProbeAnswer &answer) const
+/// The bytes of the arrays in \a batch, with which \a source has been compiled.
+QByteArray Questions::bytesOf(const QByteArray &source, const Batch &batch,
+                              const ProbeAnswer &answer) const
 {
     if (m_source == ConstantSource::ObjectFile)
         return answer.bytes;
-    QByteArray program = probe.source;
+    QByteArray program = source;
     program += isCpp() ? "extern \"C\" int putchar(int);\n" : "int putchar(int);\n";
     program += "int main(void) { unsigned i;\n";
-    for (const QByteArray &array : probe.arrays)
+    for (const int index : batch) {
+        const QByteArray array = arrayName(index);
         program += "for (i = 0; i < sizeof " + array + "; ++i) putchar(" + array + "[i]);\n";
+    }
     return m_runner.askByRunning(program + "return 0; }\n").bytes;
 }
 
-/// Adds what can be read of \a batches to \a readings. Returns the batches that do not compile.
-QList<Batch> Questions::readTogether(const QList<Batch> &batches, const MakeProbe &makeProbe,
-                                     QList<Reading> &readings) const
+/// Reads the contents of the arrays \a items in \a batches into \a contents. Returns the batches
+/// that do not compile.
+QList<Batch> Questions::readBatches(const QByteArray &prelude, const QList<QByteArray> &items,
+                                    const QList<Batch> &batches, const QByteArray &characters,
+                                    QList<std::optional<QByteArray>> &contents) const
 {
-    QList<ReadingProbe> probes;
     QList<QByteArray> sources;
-    for (const Batch &batch : batches) {
-        probes << makeProbe(batch);
-        sources << probes.last().source;
-    }
+    for (const Batch &batch : batches)
+        sources << prelude + joinedItems(items, batch);
     const QList<ProbeAnswer> answers = m_runner.askAll(sources);
     QList<Batch> failed;
     for (qsizetype i = 0; i < batches.size(); ++i) {
-        if (answers[i].compiled())
-            readings.append({batches[i], bytesOf(probes[i], answers[i])});
-        else
+        if (!answers[i].compiled()) {
             failed << batches[i];
+            continue;
+        }
+        const QByteArray bytes = decoded(bytesOf(sources[i], batches[i], answers[i]), characters);
+        for (const int index : batches[i])
+            contents[index] = contentOf(bytes, index);
     }
     return failed;
 }
 
-QList<Questions::Reading> Questions::read(const QByteArray &prelude, const QList<QByteArray> &items,
-                                          const MakeProbe &makeProbe) const
+/// The contents of arrays with \a elements, in a character set whose codes stand for \a characters.
+QList<std::optional<QByteArray>> Questions::arrays(const QByteArray &prelude,
+                                                   const QList<QByteArray> &elements,
+                                                   const QByteArray &characters) const
 {
-    QList<Reading> readings;
+    QList<QByteArray> items;
+    for (const QByteArray &list : elements)
+        items << arrayOf(int(items.size()), list, isCpp());
+    QList<std::optional<QByteArray>> contents(items.size());
     // All are tried together first; what keeps a batch from compiling is left out afterwards.
     QList<Batch> rests;
-    for (const Batch &batch :
-         readTogether(batchesOf(items, prelude.size(), limits()), makeProbe, readings)) {
+    for (const Batch &batch : readBatches(
+             prelude, items, batchesOf(items, prelude.size(), limits()), characters, contents)) {
         QList<QByteArray> own;
         for (const int index : batch)
             own << items[index];
         const QList<bool> isGood = accepted(prelude, own);
-        Batch rest;
-        for (qsizetype i = 0; i < batch.size(); ++i) {
-            if (isGood[i])
-                rest << batch[i];
-        }
+        Batch rest = batch;
+        rest.removeIf([&](int index) { return !isGood[batch.indexOf(index)]; });
         if (!rest.isEmpty())
             rests << rest;
     }
-    readTogether(rests, makeProbe, readings);
-    return readings;
-}
-
-QList<std::optional<QByteArray>>
-Questions::arrays(const QByteArray &prelude, const QList<QByteArray> &contents, bool areTexts) const
-{
-    QList<QByteArray> items;
-    for (qsizetype i = 0; i < contents.size(); ++i)
-        items << arrayOf(int(i), contents[i]);
-    const MakeProbe makeProbe = [&](const Batch &batch) {
-        ReadingProbe probe {prelude + joinedItems(items, batch), {}};
-        for (const int index : batch)
-            probe.arrays << arrayName(index);
-        return probe;
-    };
-    QList<std::optional<QByteArray>> found(contents.size());
-    for (const auto &[batch, bytes] : read(prelude, items, makeProbe)) {
-        const QByteArray content = areTexts ? decoded(bytes, m_characters) : bytes;
-        for (const int index : batch)
-            found[index] = contentOf(content, index);
-    }
-    return found;
+    readBatches(prelude, items, rests, characters, contents);
+    return contents;
 }
 
 QList<std::optional<QByteArray>> Questions::texts(const QByteArray &prelude,
                                                   const QList<QByteArray> &literals) const
 {
-    QList<QByteArray> contents;
-    for (qsizetype i = 0; i < literals.size(); ++i) {
-        contents << "\"\\001\" \"" + QByteArray::number(i) + "\" \"\\002\" " + literals[i]
+    QList<QByteArray> elements;
+    for (const QByteArray &literal : literals) {
+        elements << "\"\\001\" \"" + QByteArray::number(elements.size()) + "\" \"\\002\" " + literal
                         + " \"\\003\"";
     }
-    return arrays(prelude, contents, true);
+    return arrays(prelude, elements, m_characters);
 }
 
 QList<std::optional<int>> Questions::numbers(const QByteArray &prelude,
                                              const QList<QByteArray> &expressions) const
 {
-    QList<QByteArray> contents;
-    for (qsizetype i = 0; i < expressions.size(); ++i)
-        contents << '{' + listStart(int(i)) + hexLetters(expressions[i]) + "3}";
+    QList<QByteArray> elements;
+    for (const QByteArray &expression : expressions)
+        elements << '{' + listStart(int(elements.size())) + hexLetters(expression) + "3}";
     QList<std::optional<int>> values;
-    for (const std::optional<QByteArray> &letters : arrays(prelude, contents, false))
+    for (const std::optional<QByteArray> &letters : arrays(prelude, elements, {}))
         values << (letters ? std::optional(fromHexLetters(*letters)) : std::nullopt);
     return values;
 }
@@ -258,23 +232,13 @@ QList<std::optional<int>> Questions::numbers(const QByteArray &prelude,
 QList<bool> Questions::conditions(const QList<QByteArray> &conditions,
                                   const QByteArray &prelude) const
 {
-    // The items are only compiled by themselves to find one that is not understood; they are as
-    // long as what stands for them in the array.
-    QList<QByteArray> items;
-    for (const QByteArray &condition : conditions)
-        items << "#if " + condition + "\n            \n#endif\n";
-    const MakeProbe makeProbe = [&conditions, &prelude](const Batch &batch) {
-        return ReadingProbe {prelude + arrayOf(0, numbersOfTrue(conditions, batch)),
-                             {arrayName(0)}};
-    };
-    QList<bool> holds(conditions.size(), false);
-    for (const auto &[batch, bytes] : read(prelude, items, makeProbe)) {
-        const QByteArray codes = contentOf(bytes, 0).value_or(QByteArray());
-        for (qsizetype i = 0; i + 4 <= codes.size(); i += 4) {
-            const int index = fromHexLetters(codes.mid(i, 4));
-            if (index < batch.size())
-                holds[batch[index]] = true;
-        }
+    QList<QByteArray> elements;
+    for (const QByteArray &condition : conditions) {
+        elements << '{' + listStart(int(elements.size())) + "\n#if " + condition
+                        + "\n1,\n#endif\n3}";
     }
+    QList<bool> holds;
+    for (const std::optional<QByteArray> &content : arrays(prelude, elements, {}))
+        holds << (content && !content->isEmpty());
     return holds;
 }

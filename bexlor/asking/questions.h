@@ -47,30 +47,16 @@ public:
 private:
     enum class ConstantSource { None, ObjectFile, RunningProgram };
 
-    /// The whole probe for some items, and the arrays whose bytes are to be read back.
-    struct ReadingProbe
-    {
-        QByteArray source;
-        QList<QByteArray> arrays;
-    };
-    using MakeProbe = std::function<ReadingProbe(const Batch &)>;
-
-    /// The bytes that have come back from the probe for a batch.
-    struct Reading
-    {
-        Batch batch;
-        QByteArray bytes;
-    };
-
     bool readsTexts();
     bool learnCharacterSet();
     QList<std::optional<QByteArray>> arrays(const QByteArray &prelude,
-                                            const QList<QByteArray> &contents, bool areTexts) const;
-    QList<Reading> read(const QByteArray &prelude, const QList<QByteArray> &items,
-                        const MakeProbe &makeProbe) const;
-    QList<Batch> readTogether(const QList<Batch> &batches, const MakeProbe &makeProbe,
-                              QList<Reading> &readings) const;
-    QByteArray bytesOf(const ReadingProbe &probe, const ProbeAnswer &answer) const;
+                                            const QList<QByteArray> &elements,
+                                            const QByteArray &characters) const;
+    QList<Batch> readBatches(const QByteArray &prelude, const QList<QByteArray> &items,
+                             const QList<Batch> &batches, const QByteArray &characters,
+                             QList<std::optional<QByteArray>> &contents) const;
+    QByteArray bytesOf(const QByteArray &source, const Batch &batch,
+                       const ProbeAnswer &answer) const;
     AskProbes askProbes() const;
 
     const ProbeRunner &m_runner;

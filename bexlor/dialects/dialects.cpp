@@ -13,65 +13,28 @@ using platform::ProgramRun;
 
 enum class Topic { Macros, SearchPath, Version };
 
-/// A question that compilers of some family understand, and how they answer it.
+/// A question that compilers of some family understand. How one about the search path is answered:
+/// with directories behind a heading; without one, with the folder of cc65's target systems.
 struct DialectQuestion
 {
     Topic topic;
     QStringList options;
     bool takesSource;
-    bool isAskedAlone;     ///< without the other options of the command
-    bool leavesOutOptions; ///< the directories that -I options of the command name
-    void (*read)(const ProgramRun &run, DialectAnswers &answers);
+    bool isAskedAlone; ///< without the other options of the command
+    QByteArray heading;
 };
 
-void readMacros(const ProgramRun &run, DialectAnswers &answers)
-{
-    answers.macros = macrosIn(run.output);
-    answers.macros.removeIf(
-        [](const Macro &macro) { return isBuiltIntoThePreprocessor(macro.name); });
-}
-
-void readGnuSearchPath(const ProgramRun &run, DialectAnswers &answers)
-{
-    answers.searchPath.forQuotedNames =
-        directoriesBehind("#include \"...\" search starts here:", run.errors);
-    answers.searchPath.directories =
-        directoriesBehind("#include <...> search starts here:", run.errors);
-}
-
-void readTccSearchPath(const ProgramRun &run, DialectAnswers &answers)
-{
-    answers.searchPath.directories = directoriesBehind("include:", run.output);
-}
-
-void readSdccSearchPath(const ProgramRun &run, DialectAnswers &answers)
-{
-    answers.searchPath.directories = directoriesBehind("includedir:", run.output);
-}
-
-/// The folder of cc65's target systems has that of its headers beside it.
-void readCc65TargetPath(const ProgramRun &run, DialectAnswers &answers)
-{
-    const QDir targets(QString::fromLocal8Bit(run.output.trimmed()));
-    const QDir headers(targets.absoluteFilePath(u"../include"_s));
-    if (targets.isAbsolute() && headers.exists())
-        answers.searchPath.directories << headers.canonicalPath();
-}
-
-void readVersion(const ProgramRun &run, DialectAnswers &answers)
-{
-    answers.versionLine = versionLineIn(run.output + '\n' + run.errors);
-}
+const QByteArray gnuHeading = "#include <...> search starts here:";
 
 const DialectQuestion questions[] = {
-    {Topic::Macros, {u"-dM"_s, u"-E"_s}, true, false, false, &readMacros},
+    {Topic::Macros, {u"-dM"_s, u"-E"_s}, true, false, {}},
     // The GNU compilers and clang; sdcc, whose preprocessor is a GNU one; tcc; sdcc again; cc65.
-    {Topic::SearchPath, {u"-v"_s, u"-E"_s}, true, false, false, &readGnuSearchPath},
-    {Topic::SearchPath, {u"-Wp-v"_s, u"-E"_s}, true, false, false, &readGnuSearchPath},
-    {Topic::SearchPath, {u"-print-search-dirs"_s}, false, true, true, &readTccSearchPath},
-    {Topic::SearchPath, {u"--print-search-dirs"_s}, false, false, true, &readSdccSearchPath},
-    {Topic::SearchPath, {u"--print-target-path"_s}, false, false, true, &readCc65TargetPath},
-    {Topic::Version, {u"--version"_s}, false, false, false, &readVersion},
+    {Topic::SearchPath, {u"-v"_s, u"-E"_s}, true, false, gnuHeading},
+    {Topic::SearchPath, {u"-Wp-v"_s, u"-E"_s}, true, false, gnuHeading},
+    {Topic::SearchPath, {u"-print-search-dirs"_s}, false, true, "include:"},
+    {Topic::SearchPath, {u"--print-search-dirs"_s}, false, false, "includedir:"},
+    {Topic::SearchPath, {u"--print-target-path"_s}, false, false, {}},
+    {Topic::Version, {u"--version"_s}, false, false, {}},
 };
 
 bool isAnswered(Topic topic, const DialectAnswers &answers)
@@ -103,6 +66,47 @@ QStringList optionDirectories(const QStringList &command)
     return directories;
 }
 
+/// The folder of headers beside that of cc65's target systems, \a targets.
+QStringList directoryBeside(const QByteArray &targets)
+{
+    const QString headers = QString::fromLocal8Bit(targets.trimmed()) + "/../include"_L1;
+    return QDir(headers).exists() ? QStringList {QDir(headers).canonicalPath()} : QStringList();
+}
+
+SearchPath searchPathIn(const ProgramRun &answer, const DialectQuestion &question,
+                        const QStringList &command)
+{
+    if (question.takesSource) {
+        return {directoriesBehind(question.heading, answer.errors),
+                directoriesBehind("#include \"...\" search starts here:", answer.errors)};
+    }
+    // These are the compiler's own, and do not include what options of the command add.
+    const QStringList own = question.heading.isEmpty()
+                              ? directoryBeside(answer.output)
+                              : directoriesBehind(question.heading, answer.output);
+    QStringList directories = own.isEmpty() ? own : optionDirectories(command) + own;
+    directories.removeDuplicates();
+    return {directories, {}};
+}
+
+void read(const ProgramRun &answer, const DialectQuestion &question, const QStringList &command,
+          DialectAnswers &answers)
+{
+    switch (question.topic) {
+    case Topic::Macros:
+        answers.macros = macrosIn(answer.output);
+        answers.macros.removeIf(
+            [](const Macro &macro) { return isBuiltIntoThePreprocessor(macro.name); });
+        break;
+    case Topic::SearchPath:
+        answers.searchPath = searchPathIn(answer, question, command);
+        break;
+    case Topic::Version:
+        answers.versionLine = versionLineIn(answer.output + '\n' + answer.errors);
+        break;
+    }
+}
+
 } // namespace
 
 DialectAnswers askInDialects(const RunCommand &run, const QStringList &command,
@@ -118,12 +122,7 @@ DialectAnswers askInDialects(const RunCommand &run, const QStringList &command,
             words << source;
         const ProgramRun answer = run(words);
         if (answer.succeeded() || question.topic == Topic::Version)
-            question.read(answer, answers);
-        QStringList &directories = answers.searchPath.directories;
-        if (question.leavesOutOptions && !directories.isEmpty()) {
-            directories = optionDirectories(command) + directories;
-            directories.removeDuplicates();
-        }
+            read(answer, question, command, answers);
     }
     return answers;
 }

@@ -60,20 +60,14 @@ void HeaderDirectories::add(const QString &directory, const QString &name)
     m_directories[name] << directory;
 }
 
-QStringList HeaderDirectories::tellingHeaders(const QString &directory,
-                                              const QSet<QString> &others) const
+QStringList HeaderDirectories::tellingHeaders(const QString &directory) const
 {
-    QStringList telling;
-    for (const QString &name : m_names[directory]) {
-        const QStringList having = directoriesWith(name);
-        if (!others.intersects(QSet<QString>(having.begin(), having.end())))
-            telling << name;
-    }
+    QStringList telling = m_names[directory];
     std::stable_sort(telling.begin(), telling.end(), [this](const QString &a, const QString &b) {
         return directoriesWith(a).size() < directoriesWith(b).size();
     });
     // One that no other directory has says all there is to say.
-    const bool isUnique = !telling.isEmpty() && directoriesWith(telling.first()).size() == 1;
+    const bool isUnique = directoriesWith(telling.first()).size() == 1;
     return telling.mid(0, isUnique ? 1 : headersTried);
 }
 

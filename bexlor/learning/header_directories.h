@@ -18,8 +18,8 @@ public:
     /// The directories that have a header called \a name.
     QStringList directoriesWith(const QString &name) const { return m_directories.value(name); }
 
-    /// Headers of \a directory that none of \a others has, those first that few directories have.
-    QStringList tellingHeaders(const QString &directory, const QSet<QString> &others) const;
+    /// Some headers of \a directory, those that the fewest directories have.
+    QStringList tellingHeaders(const QString &directory) const;
 
     /// Some headers that both directories have, in themselves or in subdirectories of the same
     /// name.

@@ -268,7 +268,7 @@ struct PartialScan
 };
 
 /// Reads files, the one that is \a next each time, until none is left.
-void scanFiles(const std::vector<DirectoryWalk::File> &files, std::atomic<std::size_t> &next,
+void scanFiles(const std::vector<WalkedFile> &files, std::atomic<std::size_t> &next,
                PartialScan &scan)
 {
     std::string content;
@@ -293,7 +293,7 @@ void scanFiles(const std::vector<DirectoryWalk::File> &files, std::atomic<std::s
 }
 
 /// All files, read by as many threads as there are processors.
-std::vector<PartialScan> scanInParallel(const std::vector<DirectoryWalk::File> &files)
+std::vector<PartialScan> scanInParallel(const std::vector<WalkedFile> &files)
 {
     std::vector<PartialScan> scans(std::max(1u, std::thread::hardware_concurrency()));
     std::atomic<std::size_t> next = 0;
@@ -319,26 +319,26 @@ QList<ScannedName> sortedNames(const NameTable &table)
 
 HeaderScan scanHeaders(const QStringList &directories)
 {
-    const DirectoryWalk walk(directories);
+    const DirectoryWalk walk = walkDirectories(directories);
     HeaderScan result;
-    result.files = qint64(walk.files().size());
-    result.remarks = walk.remarks();
+    result.files = qint64(walk.files.size());
+    result.remarks = walk.remarks;
 
     NameTable names;
     std::vector<std::size_t> texts;
-    for (PartialScan &scan : scanInParallel(walk.files())) {
+    for (PartialScan &scan : scanInParallel(walk.files)) {
         names.merge(scan.names);
         for (const auto &[name, uses] : scan.names) // those that had been there before
             addUses(names, name, uses);
         texts.insert(texts.end(), scan.texts.begin(), scan.texts.end());
         for (const std::size_t index : scan.unreadable)
-            result.remarks << cannotBeRead(walk.files()[index].path);
+            result.remarks << cannotBeRead(walk.files[index].path);
     }
     result.names = sortedNames(names);
     result.remarks.sort();
     std::sort(texts.begin(), texts.end());
     for (const std::size_t index : texts) {
-        const fs::path &file = walk.files()[index].path;
+        const fs::path &file = walk.files[index].path;
         result.headers.append({slashed(file.parent_path()), slashed(file.filename())});
     }
     return result;

@@ -168,82 +168,45 @@ private:
     std::map<QString, QSet<QByteArray>> m_defined; ///< behind each header
 };
 
-/// Finds out which directories are searched.
-class SearchPathFinder
+/// Whether the headers \a names, which are found, are those of \a directory: one of them shows it
+/// and none the contrary. Where no file differs from the others of its name, the directory that was
+/// given first is as good as any.
+bool isSearched(const HeaderDirectories &directories, Comparison &comparison,
+                const QStringList &names, const QString &directory)
 {
-public:
-    SearchPathFinder(const Questions &questions, const HeaderDirectories &directories)
-        : m_questions(questions), m_directories(directories), m_comparison(questions, directories)
-    { }
-
-    QStringList find()
-    {
-        while (addSearched()) { }
-        return inOrder();
+    bool isLikely = false;
+    for (const QString &name : names) {
+        const std::optional<bool> answer = comparison.isTakenFrom(name, directory);
+        if (answer)
+            return *answer;
+        isLikely |= directories.directoriesWith(name).first() == directory;
     }
-
-private:
-    /// Adds the directories with headers that are found and that none has of those that are known
-    /// to be searched. Returns whether there is one.
-    bool addSearched()
-    {
-        QMap<QString, QStringList> telling;
-        QStringList all;
-        for (const QString &directory : m_directories.all()) {
-            if (!m_searched.contains(directory))
-                all << (telling[directory] = m_directories.tellingHeaders(directory, m_searched));
-        }
-        all.removeDuplicates();
-        const QSet<QString> found = foundHeaders(m_questions, all);
-        const qsizetype before = m_searched.size();
-        for (auto row = telling.begin(); row != telling.end(); ++row) {
-            row->removeIf([&found](const QString &name) { return !found.contains(name); });
-            if (isSearched(*row, row.key()))
-                m_searched << row.key();
-        }
-        return m_searched.size() > before;
-    }
-
-    /// Whether the headers \a names, which are found, are those of \a directory: one of them shows
-    /// it and none the contrary. Where no file differs from the others of its name, the directory
-    /// that was given first is as good as any.
-    bool isSearched(const QStringList &names, const QString &directory)
-    {
-        bool isLikely = false;
-        for (const QString &name : names) {
-            const std::optional<bool> answer = m_comparison.isTakenFrom(name, directory);
-            if (answer)
-                return *answer;
-            isLikely |= m_directories.directoriesWith(name).first() == directory;
-        }
-        return isLikely;
-    }
-
-    /// The directories that are searched, each before the first one that it must precede.
-    QStringList inOrder()
-    {
-        QStringList path;
-        for (const QString &directory : m_directories.all()) {
-            if (!m_searched.contains(directory))
-                continue;
-            const auto place = std::find_if(path.begin(), path.end(), [&](const QString &other) {
-                return m_comparison.precedes(directory, other);
-            });
-            path.insert(place, directory);
-        }
-        return path;
-    }
-
-    const Questions &m_questions;
-    const HeaderDirectories &m_directories;
-    Comparison m_comparison;
-    QSet<QString> m_searched;
-};
+    return isLikely;
+}
 
 } // namespace
 
 QStringList learnSearchPath(const Questions &questions, const QList<HeaderFile> &headers)
 {
     const HeaderDirectories directories(headers, questions.isCpp());
-    return SearchPathFinder(questions, directories).find();
+    Comparison comparison(questions, directories);
+    QStringList all;
+    for (const QString &directory : directories.all())
+        all << directories.tellingHeaders(directory);
+    all.removeDuplicates();
+    const QSet<QString> found = foundHeaders(questions, all);
+    QStringList path;
+    for (const QString &directory : directories.all()) {
+        QStringList names = directories.tellingHeaders(directory);
+        names.removeIf([&found](const QString &name) { return !found.contains(name); });
+        if (!isSearched(directories, comparison, names, directory))
+            continue;
+        // Each goes before the first one that it must precede.
+        const auto place =
+            std::find_if(path.begin(), path.end(), [&comparison, &directory](const QString &other) {
+                return comparison.precedes(directory, other);
+            });
+        path.insert(place, directory);
+    }
+    return path;
 }
