@@ -141,6 +141,14 @@ QList<ProbeAnswer> Questions::eachAlone(const QList<QByteArray> &sources) const
     return m_runner.askAll(sources);
 }
 
+QList<bool> Questions::acceptedAlone(const QList<QByteArray> &sources) const
+{
+    QList<bool> isAccepted;
+    for (const ProbeAnswer &answer : eachAlone(sources))
+        isAccepted << answer.compiled();
+    return isAccepted;
+}
+
 /// The bytes of the arrays in \a batch, with which \a source has been compiled.
 QByteArray Questions::bytesOf(const QByteArray &source, const Batch &batch,
                               const ProbeAnswer &answer) const

@@ -29,6 +29,8 @@ public:
 
     /// What the compiler says to each of \a sources, in a probe of its own.
     QList<ProbeAnswer> eachAlone(const QList<QByteArray> &sources) const;
+    /// Which of \a sources compile, each in a probe of its own.
+    QList<bool> acceptedAlone(const QList<QByteArray> &sources) const;
 
     /// The texts of string literals, each given as an expression that may only be one behind
     /// \a prelude. No value for one that is not.

@@ -3,7 +3,6 @@
 #include "directory_walk.h"
 
 #include <algorithm>
-#include <array>
 #include <atomic>
 #include <cstring>
 #include <fstream>
@@ -18,9 +17,9 @@ namespace {
 
 const std::size_t longestName = 63; // significant characters of an identifier, ISO C 6.4.2.1
 const std::size_t longestPlainKeyword = 12;
-const std::uintmax_t largestFile = 256
-                                << 20; // what lies behind it, no header and no compiler needs
-const std::ptrdiff_t shortestRun = 4;  // of printable characters in a binary file
+// What lies behind that in a file, no header and no compiler needs.
+const std::uintmax_t largestFile = 256 << 20;
+const std::ptrdiff_t shortestRun = 4; // of printable characters in a binary file
 
 bool isLower(char c)
 {

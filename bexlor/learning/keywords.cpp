@@ -4,6 +4,7 @@
 
 #include <QSet>
 #include <algorithm>
+#include <span>
 
 namespace {
 
@@ -117,45 +118,27 @@ QByteArray lineOf(const Use &use, const QByteArray &keyword, qsizetype number)
     return QByteArray(use.line).replace('@', keyword).replace('%', name) + '\n';
 }
 
-/// Adds the forms of use behind functions that the compiler accepts to \a forms where there is
-/// none.
-void addFormsBehindFunctions(const Questions &questions, const QList<QByteArray> &keywords,
-                             QList<QSet<int>> &forms)
+/// Tries the forms in \a tried with those of \a keywords for which there is none in \a forms yet,
+/// and adds those that the compiler accepts; \a isAlone for one in a probe.
+void addForms(const Questions &questions, const QList<QByteArray> &keywords,
+              std::span<const Use> tried, bool isAlone, QList<QSet<int>> &forms)
 {
-    QList<QByteArray> probes;
+    QList<QByteArray> lines;
     QList<std::pair<qsizetype, int>> asked; // keyword and form
     for (qsizetype i = 0; i < keywords.size(); ++i) {
         if (!forms[i].isEmpty())
             continue;
-        for (const Use &use : usesBehindFunctions) {
-            probes << lineOf(use, keywords[i], probes.size());
+        for (const Use &use : tried) {
+            lines << lineOf(use, keywords[i], lines.size());
             asked << std::pair(i, int(use.form));
         }
     }
-    const QList<ProbeAnswer> answers = questions.eachAlone(probes);
-    for (qsizetype i = 0; i < answers.size(); ++i) {
-        if (answers[i].compiled())
-            forms[asked[i].first] << asked[i].second;
-    }
-}
-
-/// For each of \a keywords the forms of use that the compiler accepts.
-QList<QSet<int>> acceptedForms(const Questions &questions, const QList<QByteArray> &keywords)
-{
-    QList<QSet<int>> forms(keywords.size());
-    QList<QByteArray> lines;
-    for (const QByteArray &keyword : keywords) {
-        for (const Use &use : uses)
-            lines << lineOf(use, keyword, lines.size());
-    }
-    const QList<bool> isAccepted = questions.accepted({}, lines);
-    const qsizetype count = std::size(uses);
+    const QList<bool> isAccepted =
+        isAlone ? questions.acceptedAlone(lines) : questions.accepted({}, lines);
     for (qsizetype i = 0; i < lines.size(); ++i) {
         if (isAccepted[i])
-            forms[i / count] << uses[i % count].form;
+            forms[asked[i].first] << asked[i].second;
     }
-    addFormsBehindFunctions(questions, keywords, forms);
-    return forms;
 }
 
 /// The form in which a keyword is used that may be used in \a forms; \a isCalled if headers use it
@@ -203,7 +186,9 @@ QList<Keyword> learnKeywords(const Questions &questions, const QList<ScannedName
 {
     const QList<QByteArray> found =
         undeclarableNames(questions, candidates(names, questions.isCpp(), macros));
-    const QList<QSet<int>> forms = acceptedForms(questions, found);
+    QList<QSet<int>> forms(found.size());
+    addForms(questions, found, uses, false, forms);
+    addForms(questions, found, usesBehindFunctions, true, forms);
     QSet<QByteArray> called;
     for (const ScannedName &name : names) {
         if (name.uses & CalledInHeader)

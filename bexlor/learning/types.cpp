@@ -25,13 +25,8 @@ QByteArray typeBehind(const Questions &questions, const QByteArray &name)
         sources << "#include <stddef.h>\nextern " + name + " calyx_object;\nextern " + type
                        + " calyx_object;\n";
     }
-    const QList<ProbeAnswer> answers = questions.eachAlone(sources);
-    QList<QByteArray> found;
-    for (qsizetype i = 0; i < answers.size(); ++i) {
-        if (answers[i].compiled())
-            found << integerTypes[i];
-    }
-    return found.size() == 1 ? found.first() : QByteArray();
+    const QList<bool> isSame = questions.acceptedAlone(sources);
+    return isSame.count(true) == 1 ? integerTypes[isSame.indexOf(true)] : QByteArray();
 }
 
 QByteArray wideCharacterType(const Questions &questions, const TypeFacts &types)
