@@ -70,12 +70,9 @@ QList<QByteArray> typeOptions(const Facts &facts, const QByteArray &target)
 {
     const TypeFacts &types = facts.types;
     QList<QByteArray> options;
-    const bool isUnsigned = types.basic.isEmpty()
-                              ? findMacro(facts.macros, "__CHAR_UNSIGNED__") != nullptr
-                              : types.charIsUnsigned;
-    if (isUnsigned)
+    if (types.charIsUnsigned.value_or(findMacro(facts.macros, "__CHAR_UNSIGNED__")))
         options << "-funsigned-char";
-    else if (!types.basic.isEmpty())
+    else if (types.charIsUnsigned)
         options << "-fsigned-char";
     if (types.smallEnumSize != 0 && types.smallEnumSize < sizeOf(types, "int"))
         options << "-fshort-enums";

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QStringList>
+#include <optional>
 
 /// A predefined macro. The name of a function-like one includes its parameter list.
 struct Macro
@@ -33,12 +34,13 @@ struct Type
 
 enum class ByteOrder { Unknown, LittleEndian, BigEndian };
 
+/// What is known of the types; where something is not known it is empty, 0 or Unknown.
 struct TypeFacts
 {
-    QList<Type> basic; ///< empty when nothing is known of the types
+    QList<Type> basic;
     QByteArray sizeType, pointerDifferenceType, wideCharacterType; ///< names of basic types
-    bool charIsUnsigned = false;
-    int smallEnumSize = 0; ///< of an enumeration with small values, in bytes; 0 if not known
+    std::optional<bool> charIsUnsigned;
+    int smallEnumSize = 0; ///< of an enumeration with small values, in bytes
     ByteOrder byteOrder = ByteOrder::Unknown;
 
     bool operator==(const TypeFacts &) const = default;

@@ -3,11 +3,10 @@
 #include "clang.h"
 
 #include <algorithm>
+#include <cstring>
+#include <optional>
 
 namespace {
-
-using Lines = QList<QByteArray>;
-using P = Personality;
 
 /// \a text as one word of an option file: in double quotes, in which a backslash makes the
 /// character after it literal.
@@ -43,143 +42,164 @@ Option parseOption(const QByteArray &line)
     return words;
 }
 
-/// A kind of fact that no option carries: its word, what stands behind it in each of its lines, and
-/// how that is read.
-struct FactKind
-{
-    QByteArray word;
-    Lines (*write)(const P &personality);
-    void (*read)(const QByteArray &rest, P &personality);
-};
+// How a fact is written behind its word, and read from there.
 
-Lines unlessEmpty(const QByteArray &text)
+QByteArray written(const QString &text)
 {
-    return text.isEmpty() ? Lines() : Lines {text};
+    return text.toUtf8();
 }
 
-Lines utf8(const QStringList &texts)
+void read(const QByteArray &text, QString &value)
 {
-    Lines lines;
-    for (const QString &text : texts)
-        lines << text.toUtf8();
-    return lines;
+    value = QString::fromUtf8(text);
 }
 
-/// A standard name for a basic type.
-template <QByteArray TypeFacts::*Type>
-FactKind typeName(const char *word)
+QByteArray written(const QByteArray &text)
 {
-    return {word, [](const P &p) { return unlessEmpty(p.facts.types.*Type); },
-            [](const QByteArray &rest, P &p) { p.facts.types.*Type = rest; }};
+    return text;
 }
 
-template <QStringList SearchPath::*Directories>
-FactKind directories(const char *word)
+void read(const QByteArray &text, QByteArray &value)
 {
-    return {word, [](const P &p) { return utf8(p.facts.searchPath.*Directories); },
-            [](const QByteArray &rest, P &p) {
-                (p.facts.searchPath.*Directories) << QString::fromUtf8(rest);
-            }};
+    value = text;
 }
 
-Lines writeTypes(const P &personality)
+QByteArray written(int number)
 {
-    Lines lines;
-    for (const Type &type : personality.facts.types.basic) {
-        lines << type.name + ", size " + QByteArray::number(type.size) + ", alignment "
-                     + QByteArray::number(type.alignment);
-    }
-    return lines;
+    return QByteArray::number(number);
 }
 
-void readType(const QByteArray &rest, P &personality)
+void read(const QByteArray &text, int &value)
 {
-    const QList<QByteArray> parts = rest.split(',');
-    const auto number = [&parts](qsizetype part) {
-        return parts.value(part).split(' ').last().toInt();
-    };
-    personality.facts.types.basic.append({parts.first(), number(1), number(2)});
+    value = text.toInt();
+}
+
+QByteArray written(std::optional<bool> isUnsigned)
+{
+    return *isUnsigned ? "unsigned" : "signed";
+}
+
+void read(const QByteArray &text, std::optional<bool> &isUnsigned)
+{
+    isUnsigned = text == "unsigned";
+}
+
+QByteArray written(ByteOrder order)
+{
+    return order == ByteOrder::LittleEndian ? "little" : "big";
+}
+
+void read(const QByteArray &text, ByteOrder &order)
+{
+    order = text == "little" ? ByteOrder::LittleEndian : ByteOrder::BigEndian;
+}
+
+/// For example "void *, size 2, alignment 1".
+QByteArray written(const Type &type)
+{
+    return type.name + ", size " + written(type.size) + ", alignment " + written(type.alignment);
+}
+
+void read(const QByteArray &text, Type &type)
+{
+    const QList<QByteArray> parts = text.split(',');
+    type.name = parts.first();
+    read(parts.value(1).split(' ').last(), type.size);
+    read(parts.value(2).split(' ').last(), type.alignment);
 }
 
 const char *const keywordForms[] = {"undetermined", "qualifier", "qualifier-with-argument", "type"};
 const QByteArray noStandIn = "unknown";
 
-Lines writeKeywords(const P &personality)
+/// For example "__sfr type unsigned char".
+QByteArray written(const Keyword &keyword)
 {
-    Lines lines;
-    for (const Keyword &keyword : personality.facts.keywords) {
-        QByteArray line = keyword.name + ' ' + keywordForms[keyword.form];
-        if (keyword.form == Keyword::TypeName)
-            line += ' ' + (keyword.standIn.isEmpty() ? noStandIn : keyword.standIn);
-        lines << line;
-    }
-    return lines;
+    const QByteArray text = keyword.name + ' ' + keywordForms[keyword.form];
+    if (keyword.form != Keyword::TypeName)
+        return text;
+    return text + ' ' + (keyword.standIn.isEmpty() ? noStandIn : keyword.standIn);
 }
 
-/// Reads for example "__sfr type unsigned char".
-void readKeyword(const QByteArray &rest, P &personality)
+void read(const QByteArray &text, Keyword &keyword)
 {
-    const QList<QByteArray> words = rest.split(' ');
+    const QList<QByteArray> words = text.split(' ');
     const auto form = std::find(std::begin(keywordForms), std::end(keywordForms), words.value(1));
     const QByteArray standIn = words.mid(2).join(' ');
-    if (form != std::end(keywordForms)) {
-        personality.facts.keywords.append({words.first(), Keyword::Form(form - keywordForms),
-                                           standIn == noStandIn ? QByteArray() : standIn});
+    keyword.name = words.first();
+    if (form != std::end(keywordForms))
+        keyword.form = Keyword::Form(form - keywordForms);
+    if (standIn != noStandIn)
+        keyword.standIn = standIn;
+}
+
+/// Writes a line for each fact that is known.
+struct FactWriter
+{
+    QByteArray text;
+
+    template <typename Value>
+    void one(const char *word, const Value &value)
+    {
+        if (value != Value())
+            text += QByteArray("#: ") + word + ' ' + written(value) + '\n';
     }
-}
 
-Lines writeByteOrder(const P &personality)
-{
-    if (personality.facts.types.byteOrder == ByteOrder::Unknown)
-        return {};
-    const bool isLittle = personality.facts.types.byteOrder == ByteOrder::LittleEndian;
-    return {isLittle ? "little" : "big"};
-}
-
-void readByteOrder(const QByteArray &rest, P &personality)
-{
-    personality.facts.types.byteOrder =
-        rest == "little" ? ByteOrder::LittleEndian : ByteOrder::BigEndian;
-}
-
-Lines writeUndetermined(const P &personality)
-{
-    Lines lines;
-    for (const QByteArray &name : personality.facts.macros.undetermined)
-        lines << name + " undetermined";
-    return lines;
-}
-
-const FactKind factKinds[] = {
-    {"command", [](const P &p) { return Lines {p.command.toUtf8()}; },
-     [](const QByteArray &rest, P &p) { p.command = QString::fromUtf8(rest); }},
-    {"switch", [](const P &p) { return utf8(p.switches); },
-     [](const QByteArray &rest, P &p) { p.switches << QString::fromUtf8(rest); }},
-    {"version", [](const P &p) { return unlessEmpty(p.facts.versionLine); },
-     [](const QByteArray &rest, P &p) { p.facts.versionLine = rest; }},
-    {"type", &writeTypes, &readType},
-    {"char",
-     [](const P &p) {
-         const char *kind = p.facts.types.charIsUnsigned ? "unsigned" : "signed";
-         return p.facts.types.basic.isEmpty() ? Lines() : Lines {kind};
-     },
-     [](const QByteArray &rest, P &p) { p.facts.types.charIsUnsigned = rest == "unsigned"; }},
-    {"byte-order", &writeByteOrder, &readByteOrder},
-    {"small-enum",
-     [](const P &p) {
-         const int size = p.facts.types.smallEnumSize;
-         return size == 0 ? Lines() : Lines {QByteArray::number(size)};
-     },
-     [](const QByteArray &rest, P &p) { p.facts.types.smallEnumSize = rest.toInt(); }},
-    typeName<&TypeFacts::sizeType>("size_t"),
-    typeName<&TypeFacts::pointerDifferenceType>("ptrdiff_t"),
-    typeName<&TypeFacts::wideCharacterType>("wchar_t"),
-    directories<&SearchPath::forQuotedNames>("quoted-search-path"),
-    directories<&SearchPath::directories>("search-path"),
-    {"keyword", &writeKeywords, &readKeyword},
-    {"macro", &writeUndetermined,
-     [](const QByteArray &rest, P &p) { p.facts.macros.undetermined << rest.split(' ').first(); }},
+    template <typename Value>
+    void each(const char *word, const QList<Value> &values, const char *end = "")
+    {
+        for (const Value &value : values)
+            text += QByteArray("#: ") + word + ' ' + written(value) + end + '\n';
+    }
 };
+
+/// Reads the fact that a line tells.
+struct FactReader
+{
+    QByteArray line;
+
+    std::optional<QByteArray> behind(const char *word, const char *end = "") const
+    {
+        const QByteArray start = QByteArray("#: ") + word + ' ';
+        if (!line.startsWith(start) || !line.endsWith(end))
+            return {};
+        return line.sliced(start.size()).chopped(qsizetype(std::strlen(end)));
+    }
+
+    template <typename Value>
+    void one(const char *word, Value &value) const
+    {
+        if (const std::optional<QByteArray> text = behind(word))
+            read(*text, value);
+    }
+
+    template <typename Value>
+    void each(const char *word, QList<Value> &values, const char *end = "") const
+    {
+        if (const std::optional<QByteArray> text = behind(word, end))
+            read(*text, values.emplaceBack());
+    }
+};
+
+/// Takes \a visitor, which writes or reads, through the facts that no option carries.
+template <typename Visitor, typename Visited>
+void visitFacts(Visitor &visitor, Visited &personality)
+{
+    auto &facts = personality.facts;
+    visitor.one("command", personality.command);
+    visitor.each("switch", personality.switches);
+    visitor.one("version", facts.versionLine);
+    visitor.each("type", facts.types.basic);
+    visitor.one("char", facts.types.charIsUnsigned);
+    visitor.one("byte-order", facts.types.byteOrder);
+    visitor.one("small-enum", facts.types.smallEnumSize);
+    visitor.one("size_t", facts.types.sizeType);
+    visitor.one("ptrdiff_t", facts.types.pointerDifferenceType);
+    visitor.one("wchar_t", facts.types.wideCharacterType);
+    visitor.each("quoted-search-path", facts.searchPath.forQuotedNames);
+    visitor.each("search-path", facts.searchPath.directories);
+    visitor.each("keyword", facts.keywords);
+    visitor.each("macro", facts.macros.undetermined, " undetermined");
+}
 
 const char *const firstLine = "# Compiler personality generated by Bexlor\n";
 const QByteArray templateHeading = "\n# Template\n";
@@ -198,7 +218,7 @@ const struct Section
     {"# Included first", &Personality::includedFirst},
 };
 
-QList<Option> optionsOf(const Section &section, const P &personality)
+QList<Option> optionsOf(const Section &section, const Personality &personality)
 {
     if (section.options)
         return personality.*section.options;
@@ -210,7 +230,7 @@ QList<Option> optionsOf(const Section &section, const P &personality)
     return options;
 }
 
-void readOption(const QByteArray &line, const Section &section, P &personality)
+void readOption(const QByteArray &line, const Section &section, Personality &personality)
 {
     const Option option = parseOption(line);
     const qsizetype equals = option.first().indexOf('=');
@@ -221,18 +241,7 @@ void readOption(const QByteArray &line, const Section &section, P &personality)
             {option.first().sliced(2, equals - 2), option.first().sliced(equals + 1)});
 }
 
-void readFacts(const QByteArray &text, P &personality)
-{
-    for (const QByteArray &line : text.split('\n')) {
-        for (const FactKind &kind : factKinds) {
-            const QByteArray start = "#: " + kind.word + ' ';
-            if (line.startsWith(start))
-                kind.read(line.sliced(start.size()), personality);
-        }
-    }
-}
-
-void readSections(const QByteArray &text, P &personality)
+void readSections(const QByteArray &text, Personality &personality)
 {
     const Section *current = nullptr;
     for (const QByteArray &line : text.split('\n')) {
@@ -250,11 +259,9 @@ void readSections(const QByteArray &text, P &personality)
 
 QByteArray personalityText(const Personality &personality)
 {
-    QByteArray text = firstLine;
-    for (const FactKind &kind : factKinds) {
-        for (const QByteArray &rest : kind.write(personality))
-            text += "#: " + kind.word + ' ' + rest + '\n';
-    }
+    FactWriter writer {firstLine};
+    visitFacts(writer, personality);
+    QByteArray text = writer.text;
     if (!personality.templateText.isEmpty())
         text += templateHeading + personality.templateText;
     for (const Section &section : sections) {
@@ -280,7 +287,10 @@ Personality parsePersonality(const QByteArray &text)
         personality.templateText = facts.sliced(ofTemplate + templateHeading.size());
         facts.truncate(ofTemplate);
     }
-    readFacts(facts, personality);
+    for (const QByteArray &line : facts.split('\n')) {
+        FactReader reader {line};
+        visitFacts(reader, personality);
+    }
     readSections(text.sliced(options), personality);
     return personality;
 }

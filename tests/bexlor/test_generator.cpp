@@ -1,10 +1,13 @@
+#include "program_run.h"
+
 #include "files.h"
 #include "row.h"
 
 #include <QDir>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
+
+using platform::ProgramRun;
 
 // Whole runs of the generator.
 class TestGenerator : public QObject
@@ -12,14 +15,6 @@ class TestGenerator : public QObject
     Q_OBJECT
 
 private:
-    struct Output
-    {
-        int exitCode;
-        QString output;
-        QByteArray errors;
-    };
-    using Variables = QMap<QString, QString>;
-
     /// A working directory of its own.
     struct Workshop
     {
@@ -28,32 +23,17 @@ private:
 
         Workshop() { QDir(folder.path()).mkdir("sub folder"); }
 
-        Output run(const QString &program, const QStringList &arguments,
-                   const Variables &variables = {}) const
+        ProgramRun run(const QStringList &command) const
         {
-            QProcess process;
-            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-            for (auto variable = variables.begin(); variable != variables.end(); ++variable)
-                environment.insert(variable.key(), variable.value());
-            process.setProcessEnvironment(environment);
-            process.setWorkingDirectory(folder.path());
-            process.setStandardInputFile(QProcess::nullDevice());
-            process.start(program, arguments);
-            process.waitForFinished(-1);
-            return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-                    QString::fromLocal8Bit(process.readAllStandardOutput()),
-                    process.readAllStandardError()};
+            return platform::runProgram(command, folder.path(), 600'000);
         }
 
-        Output generate(const QString &product, const QString &command,
-                        const QStringList &more = {}, const QStringList &directories = {},
-                        const Variables &variables = {}) const
+        ProgramRun generate(const QString &product, const QString &command,
+                            const QStringList &more = {}, const QStringList &directories = {}) const
         {
-            const QStringList order {"-o", "-c", "-D", ".o", "%c %o%e %d%j %s "};
-            return run(GENERATOR,
-                       QStringList {product, "cmp", '"' + command + '"'} + order + directories
-                           + QStringList {"-op", "sub folder\\mine.p_c"} + more,
-                       variables);
+            return run(QStringList {GENERATOR, product, "cmp", '"' + command + '"', "-o", "-c",
+                                    "-D", ".o", "%c %o%e %d%j %s "}
+                       + directories + QStringList {"-op", "sub folder\\mine.p_c"} + more);
         }
 
         QString read(const QString &name) const
@@ -70,16 +50,26 @@ private:
         void checkBothTake(const QString &source, const QString &command,
                            const QStringList &options) const
         {
-            const QStringList words = command.split(' ');
-            const Output own =
-                run(words.first(), words.mid(1) + options + QStringList {"-c", source});
-            QVERIFY2(own.exitCode == 0, own.errors);
-            const Output seen = run("clang", {"--config", personality, "-fsyntax-only", source});
-            QVERIFY2(seen.exitCode == 0, seen.errors);
+            const ProgramRun own = run(command.split(' ') + options + QStringList {"-c", source});
+            QVERIFY2(own.succeeded(), own.errors);
+            checkClangTakes(source);
+        }
+
+        void checkClangTakes(const QString &source) const
+        {
+            const ProgramRun seen =
+                run({"clang", "--config", personality, "-fsyntax-only", source});
+            QVERIFY2(seen.succeeded(), seen.errors);
         }
     };
 
 private slots:
+    void cleanup()
+    {
+        for (const char *variable : {"TMPDIR", "BEXLOR_LEARN_ONLY", "BEXLOR_TIME_LIMIT"})
+            qunsetenv(variable);
+    }
+
     void makesClangTakeTheSameC()
     {
         // Folders named like options, a header that only quoted names are looked for in, warnings
@@ -98,20 +88,18 @@ private slots:
         const QString command =
             "gcc -include stdint.h -include wchar.h -iquote quoted -x c -DMODE=c "
             "-Wall -Werror -pedantic-errors";
-        const Output generated =
+        const ProgramRun generated =
             workshop.generate("kov", command,
                               {"-xd", "FOO=1", "-xs", "-std=c99,-include first.h", "-tpl",
                                "template.p_c", "-fi", "first.h", "-sub", "stand-ins"},
                               {"-i", "headers"});
-        QVERIFY2(generated.exitCode == 0, qPrintable(generated.output));
+        QVERIFY2(generated.succeeded(), generated.output);
         workshop.checkBothTake("x.c", "gcc -include stdint.h -iquote quoted -x c -DMODE=c -std=c99",
                                {"-DFOO=1"});
         workshop.write("y.c", "#include <time.h>\n#include <mine.h>\n"
                               "int f(void) { return from_mine + from_first + not_the_real_one; }\n"
                               "int FROM_TEMPLATE;\n");
-        const Output added =
-            workshop.run("clang", {"--config", workshop.personality, "-fsyntax-only", "y.c"});
-        QVERIFY2(added.exitCode == 0, added.errors);
+        workshop.checkClangTakes("y.c");
         const QString text = workshop.read("sub folder/mine.p_c");
         for (const char *line : {"\n-std=c99\n", "\n#: switch -std=c99\n", "\n#: version gcc",
                                  "\n#: size_t unsigned long\n", "\n#: keyword __int128 type ",
@@ -125,8 +113,8 @@ private slots:
         workshop.write("x.cpp", "#include <vector>\nchar8_t a = u8'a'; std::vector<int> b {1};\n"
                                 "char c[sizeof(wchar_t)==2?1:-1]; __int128 d;\n");
         const QString command = "g++ -std=c++17 -fchar8_t -fshort-wchar";
-        const Output generated = workshop.generate("kovpp", command);
-        QVERIFY2(generated.exitCode == 0, qPrintable(generated.output));
+        const ProgramRun generated = workshop.generate("kovpp", command);
+        QVERIFY2(generated.succeeded(), generated.output);
         workshop.checkBothTake("x.cpp", command, {});
     }
 
@@ -134,12 +122,12 @@ private slots:
     {
         const Workshop workshop;
         workshop.write("headers/a.h", "#if AA + BB\n#endif\nextern __cc dd; int ee;\n");
+        qputenv("BEXLOR_LEARN_ONLY", "1");
         QString texts[2];
         for (QString &text : texts) {
-            const Output generated =
-                workshop.generate("kov", "tcc", {"-xd", "AA=1,CC=2"}, {"-i", "headers"},
-                                  {{"BEXLOR_LEARN_ONLY", "1"}});
-            QVERIFY2(generated.exitCode == 0, qPrintable(generated.output));
+            const ProgramRun generated =
+                workshop.generate("kov", "tcc", {"-xd", "AA=1,CC=2"}, {"-i", "headers"});
+            QVERIFY2(generated.succeeded(), generated.output);
             text = workshop.read("sub folder/mine.p_c");
         }
         QVERIFY(texts[0].contains("\n\"-DAA=1\"\n\"-DCC=2\"\n"));
@@ -157,7 +145,7 @@ private slots:
         QFETCH(QString, option);
         const Workshop workshop;
         workshop.write("stdout.log", "");
-        const Output refused = workshop.generate("kov", "gcc", {option, "nowhere"});
+        const ProgramRun refused = workshop.generate("kov", "gcc", {option, "nowhere"});
         QCOMPARE(refused.exitCode, 1);
         QVERIFY(refused.output.contains("nowhere"));
         QVERIFY(!QFile::exists(workshop.folder.filePath("stdout.log")));
@@ -166,7 +154,7 @@ private slots:
     void leavesTheFailedCommandAndItsOutput()
     {
         const Workshop workshop;
-        const Output failed =
+        const ProgramRun failed =
             workshop.generate("kov", "gcc --no-such-option", {"-xd", "A=\"x\\\""});
         QCOMPARE(failed.exitCode, 1);
         QVERIFY(
@@ -176,7 +164,7 @@ private slots:
         QVERIFY(workshop.read("stderr.log").contains("no-such-option"));
         QVERIFY(!QFile::exists(workshop.personality));
 
-        const Output missing = workshop.generate("kov", "no-such-compiler");
+        const ProgramRun missing = workshop.generate("kov", "no-such-compiler");
         QCOMPARE(missing.exitCode, 1);
         QVERIFY(missing.output.contains("could not be started"));
     }
@@ -184,10 +172,10 @@ private slots:
     void putsUpWithOddCompilers_data()
     {
         QTest::addColumn<QByteArray>("script");
-        QTest::addColumn<QString>("says"); // when it fails
-        QTest::addColumn<QString>("timeLimit");
-        const auto row = [](const char *name, const QByteArray &script, const QString &says,
-                            const QString &timeLimit = "60000") {
+        QTest::addColumn<QByteArray>("says"); // when it fails
+        QTest::addColumn<QByteArray>("timeLimit");
+        const auto row = [](const char *name, const QByteArray &script, const QByteArray &says,
+                            const QByteArray &timeLimit = "60000") {
             QTest::newRow(name) << script << says << timeLimit;
         };
         row("waits for input, leaves a program behind and its object somewhere",
@@ -208,8 +196,8 @@ private slots:
     void putsUpWithOddCompilers()
     {
         QFETCH(QByteArray, script);
-        QFETCH(QString, says);
-        QFETCH(QString, timeLimit);
+        QFETCH(QByteArray, says);
+        QFETCH(QByteArray, timeLimit);
         const Workshop workshop;
         const QString compiler = workshop.folder.filePath("odd compiler");
         workshop.write("odd compiler", "#!/bin/sh\n" + script + '\n');
@@ -217,11 +205,12 @@ private slots:
         const QString temporary =
             workshop.folder.filePath(QString::fromUtf8("tempor\303\244r ' \"x\""));
         QDir().mkdir(temporary);
-        const Output output = workshop.generate(
-            "kov", compiler, {}, {},
-            {{"TMPDIR", temporary}, {"BEXLOR_LEARN_ONLY", "1"}, {"BEXLOR_TIME_LIMIT", timeLimit}});
-        QVERIFY2(output.exitCode == (says.isEmpty() ? 0 : 1), qPrintable(output.output));
-        QVERIFY2(output.output.contains(says), qPrintable(output.output));
+        qputenv("TMPDIR", temporary.toLocal8Bit());
+        qputenv("BEXLOR_LEARN_ONLY", "1");
+        qputenv("BEXLOR_TIME_LIMIT", timeLimit);
+        const ProgramRun run = workshop.generate("kov", compiler);
+        QVERIFY2(run.exitCode == (says.isEmpty() ? 0 : 1), run.output);
+        QVERIFY2(run.output.contains(says), run.output);
         QCOMPARE(QFile::exists(workshop.personality), says.isEmpty());
         QVERIFY(workshop.read("compile.bat").contains("odd compiler"));
         QCOMPARE(QDir(temporary).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
@@ -230,7 +219,7 @@ private slots:
     void refusesAWrongList()
     {
         const Workshop workshop;
-        const Output refused = workshop.run(GENERATOR, {"kov"});
+        const ProgramRun refused = workshop.run({GENERATOR, "kov"});
         QCOMPARE(refused.exitCode, 2);
         QVERIFY(refused.errors.startsWith("usage: Bexlor.exe"));
         QVERIFY(refused.output.isEmpty());

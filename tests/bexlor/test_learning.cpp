@@ -6,10 +6,11 @@
 
 #include <QDir>
 #include <QMap>
-#include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
+
+using platform::ProgramRun;
 
 // Compilers that list their macros are asked for them by probes alone, and the two answers are
 // compared.
@@ -43,13 +44,9 @@ private:
         }
     };
 
-    static QByteArray output(const QStringList &command)
+    ProgramRun run(const QStringList &command) const
     {
-        QProcess process;
-        process.setStandardInputFile(QProcess::nullDevice());
-        process.start(command.first(), command.mid(1));
-        process.waitForFinished(-1);
-        return process.readAllStandardOutput();
+        return platform::runProgram(command, m_folder.path(), 60'000);
     }
 
     static QMap<QByteArray, QByteArray> mapOf(const QList<Macro> &macros)
@@ -94,7 +91,7 @@ private slots:
                 withOwn << define;
         }
         const QMap<QByteArray, QByteArray> truth =
-            mapOf(macrosIn(output(withOwn + QStringList {"-dM", "-E", m_folder.filePath("x.c")})));
+            mapOf(macrosIn(run(withOwn + QStringList {"-dM", "-E", "x.c"}).output));
         QVERIFY(truth.size() > 20);
 
         const Subject subject(withOwn, isSmall);
@@ -144,7 +141,7 @@ private slots:
                 shown += QString("%1%2/%3 ").arg(type.name).arg(type.size).arg(type.alignment);
         }
         shown += QString("%1 enum%2 order%3 ")
-                     .arg(types.charIsUnsigned ? "unsigned" : "signed")
+                     .arg(types.charIsUnsigned.value() ? "unsigned" : "signed")
                      .arg(types.smallEnumSize)
                      .arg(int(types.byteOrder));
         shown += types.sizeType + '|' + types.pointerDifferenceType + '|' + types.wideCharacterType;
@@ -182,10 +179,8 @@ private slots:
         QFETCH(QString, header);
         writeTestFile(m_folder.filePath("x.c"), "\n");
         command << "-I" + m_folder.path();
-        const RunCommand run = [this](const QStringList &question) {
-            return platform::runProgram(question, m_folder.path(), 60'000);
-        };
-        const DialectAnswers answers = askInDialects(run, command, "x.c");
+        const DialectAnswers answers = askInDialects(
+            [this](const QStringList &question) { return run(question); }, command, "x.c");
         const QStringList &directories = answers.searchPath.directories;
         QCOMPARE(directories.value(0), QDir(m_folder.path()).canonicalPath());
         QVERIFY(std::any_of(directories.begin(), directories.end(), [&header](const QString &d) {

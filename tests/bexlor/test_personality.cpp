@@ -6,34 +6,19 @@
 #include "row.h"
 
 #include <QDir>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
 namespace {
 
-struct Output
-{
-    QByteArray output;
-    QByteArray errors;
-};
-
-Output run(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.start(program, arguments);
-    process.waitForFinished(-1);
-    return {process.readAllStandardOutput(), process.readAllStandardError()};
-}
-
 /// The macros that clang has with the personality \a text, in the language of \a source.
-Output macrosOfClangWith(const QByteArray &text, const QString &source)
+platform::ProgramRun macrosOfClangWith(const QByteArray &text, const QString &source)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("odd \"name\".p_c");
     writeTestFile(path, text);
-    return run("clang", {"--config", path, "-dM", "-E", source});
+    return platform::runProgram({"clang", "--config", path, "-dM", "-E", source}, folder.path(),
+                                60'000);
 }
 
 QList<Macro> sorted(QList<Macro> macros)
@@ -122,7 +107,7 @@ private slots:
         facts.macros.known << Macro {"F(a,b)", "a##b #a"};
         const QTemporaryDir folder;
         writeTestFile(folder.filePath("x.c"));
-        const Output seen = macrosOfClangWith(
+        const platform::ProgramRun seen = macrosOfClangWith(
             personalityText(composePersonality(arguments, facts, {}, "-DTEMPLATE=1")),
             folder.filePath("x.c"));
         QCOMPARE(seen.errors, QByteArray());
@@ -153,13 +138,14 @@ private slots:
         arguments.isCpp = command.endsWith('+');
         const QString source = folder.filePath(arguments.isCpp ? "x.cpp" : "x.c");
         writeTestFile(source);
-        const QStringList words = command.split(' ');
         const QStringList options {"-DA=1", "-DF(a,b)=a \"q\" b", "-dM", "-E", source};
+        const platform::ProgramRun listed =
+            platform::runProgram(command.split(' ') + options, folder.path(), 60'000);
         Facts facts;
-        facts.macros.known = macrosIn(run(words.first(), words.mid(1) + options).output);
+        facts.macros.known = macrosIn(listed.output);
         QVERIFY(facts.macros.known.size() > 200);
         // Without -undef taking the target's own away, clang would add some.
-        const Output seen = macrosOfClangWith(
+        const platform::ProgramRun seen = macrosOfClangWith(
             personalityText(composePersonality(arguments, facts, {}, {})), source);
         QList<Macro> macros = macrosIn(seen.output);
         macros.removeIf([](const Macro &macro) { return macro.name == "__malloc__(...)"; });
