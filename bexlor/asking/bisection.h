@@ -19,6 +19,18 @@ using Batch = QList<int>;
 /// in one probe. An item counts as two declarations, as the largest ones are.
 QList<Batch> batchesOf(const QList<QByteArray> &items, qsizetype preludeSize, ProbeLimits limits);
 
+/// Those of \a items whose flag is set.
+template <typename Item>
+QList<Item> selected(const QList<Item> &items, const QList<bool> &flags)
+{
+    QList<Item> chosen;
+    for (qsizetype i = 0; i < items.size(); ++i) {
+        if (flags[i])
+            chosen << items[i];
+    }
+    return chosen;
+}
+
 /// Those of \a items that \a batch names, as one text.
 QByteArray joinedItems(const QList<QByteArray> &items, const Batch &batch);
 

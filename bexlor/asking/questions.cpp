@@ -204,9 +204,7 @@ QList<std::optional<QByteArray>> Questions::arrays(const QByteArray &prelude,
         QList<QByteArray> own;
         for (const int index : batch)
             own << items[index];
-        const QList<bool> isGood = accepted(prelude, own);
-        Batch rest = batch;
-        rest.removeIf([&](int index) { return !isGood[batch.indexOf(index)]; });
+        const Batch rest = selected(batch, accepted(prelude, own));
         if (!rest.isEmpty())
             rests << rest;
     }

@@ -4,6 +4,7 @@
 
 #include <QSet>
 #include <algorithm>
+#include <functional>
 #include <span>
 
 namespace {
@@ -87,13 +88,9 @@ QList<QByteArray> undeclarable(const Questions &questions, const QByteArray &dec
         QByteArray item = declaration;
         items << item.replace('@', name).replace('%', QByteArray::number(items.size()));
     }
-    const QList<bool> isDeclared = questions.accepted({}, items, true);
-    QList<QByteArray> rejected;
-    for (qsizetype i = 0; i < names.size(); ++i) {
-        if (!isDeclared[i])
-            rejected << names[i];
-    }
-    return rejected;
+    QList<bool> flags = questions.accepted({}, items, true);
+    std::transform(flags.begin(), flags.end(), flags.begin(), std::logical_not());
+    return selected(names, flags);
 }
 
 /// Those of \a names that cannot be declared: as a member, which collides with nothing that the
@@ -135,10 +132,8 @@ void addForms(const Questions &questions, const QList<QByteArray> &keywords,
     }
     const QList<bool> isAccepted =
         isAlone ? questions.acceptedAlone(lines) : questions.accepted({}, lines);
-    for (qsizetype i = 0; i < lines.size(); ++i) {
-        if (isAccepted[i])
-            forms[asked[i].first] << asked[i].second;
-    }
+    for (const auto &[keyword, form] : selected(asked, isAccepted))
+        forms[keyword] << form;
 }
 
 /// The form in which a keyword is used that may be used in \a forms; \a isCalled if headers use it

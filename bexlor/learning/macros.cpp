@@ -83,20 +83,12 @@ QList<QByteArray> definedNames(const Questions &questions, const QList<QByteArra
     QList<QByteArray> conditions;
     for (const QList<QByteArray> &group : groups)
         conditions << "defined " + group.join(" || defined ");
-    const QList<bool> groupHolds = questions.conditions(conditions);
-    QList<QByteArray> suspects, tests, defined;
-    for (qsizetype i = 0; i < groups.size(); ++i) {
-        if (groupHolds[i])
-            suspects << groups[i];
-    }
+    QList<QByteArray> suspects, tests;
+    for (const QList<QByteArray> &group : selected(groups, questions.conditions(conditions)))
+        suspects << group;
     for (const QByteArray &name : suspects)
         tests << "defined " + name;
-    const QList<bool> holds = questions.conditions(tests);
-    for (qsizetype i = 0; i < suspects.size(); ++i) {
-        if (holds[i])
-            defined << suspects[i];
-    }
-    return defined;
+    return selected(suspects, questions.conditions(tests));
 }
 
 /// Which of \a macros the compiler has with exactly that definition: it accepts the same one again

@@ -16,15 +16,9 @@ QByteArray inBrackets(const QString &name)
     return '<' + name.toLocal8Bit() + '>';
 }
 
-/// Those of \a names whose flag is set.
-QSet<QString> chosen(const QStringList &names, const QList<bool> &flags)
+QSet<QString> setOf(const QStringList &names)
 {
-    QSet<QString> set;
-    for (qsizetype i = 0; i < names.size(); ++i) {
-        if (flags[i])
-            set << names[i];
-    }
-    return set;
+    return {names.begin(), names.end()};
 }
 
 /// Which of \a names the compiler finds when they are included.
@@ -34,7 +28,7 @@ QSet<QString> foundHeaders(const Questions &questions, const QStringList &names)
         QList<QByteArray> conditions;
         for (const QString &name : names)
             conditions << "__has_include(" + inBrackets(name) + ')';
-        return chosen(names, questions.conditions(conditions));
+        return setOf(selected(names, questions.conditions(conditions)));
     }
     QList<QByteArray> sources;
     for (const QString &name : names)
@@ -48,7 +42,7 @@ QSet<QString> foundHeaders(const Questions &questions, const QStringList &names)
         isFound << (answers[i].compiled() || messages.contains('/' + name)
                     || messages.contains('\\' + name));
     }
-    return chosen(names, isFound);
+    return setOf(selected(names, isFound));
 }
 
 /// The names of the macros that the header \a path may define.
@@ -152,14 +146,9 @@ private:
         QList<QByteArray> tests;
         for (const QByteArray &macro : names)
             tests << "defined " + macro;
-        const QList<bool> holds =
-            m_questions.conditions(tests, "#include " + inBrackets(name) + '\n');
-        QSet<QByteArray> &defined = m_defined[key];
-        for (qsizetype i = 0; i < names.size(); ++i) {
-            if (holds[i])
-                defined << names[i];
-        }
-        return defined;
+        const QList<QByteArray> defined =
+            selected(names, m_questions.conditions(tests, "#include " + inBrackets(name) + '\n'));
+        return m_defined[key] = {defined.begin(), defined.end()};
     }
 
     const Questions &m_questions;
