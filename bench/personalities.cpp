@@ -316,15 +316,15 @@ void measure(const Subject &subject, const QString &generator, int limit)
     tryHeaders(subject, folder.filePath("x.p_c"), searchPath,
                headersBelow(searchPath, subject.isCpp, limit), folder.path(), headers);
 
-    const auto share = [](int part, int all) {
+    const auto outOf = [](int part, int all) {
         return QString("%1/%2").arg(part).arg(all).rightJustified(9).toLatin1();
     };
     std::printf("%-24s %s %9s %5s %s %s %8s %7.1f %6d\n", qPrintable(subject.name),
-                share(found, int(truth.size())).constData(),
-                hasValues ? share(equal, found).constData() : "-",
+                outOf(found, int(truth.size())).constData(),
+                hasValues ? outOf(equal, found).constData() : "-",
                 hasValues ? QByteArray::number(wrong).constData() : "-",
-                share(headers.byPersonality, headers.byCompiler).constData(),
-                share(headers.byPeer, headers.byCompiler).constData(), qPrintable(started), seconds,
+                outOf(headers.byPersonality, headers.byCompiler).constData(),
+                outOf(headers.byPeer, headers.byCompiler).constData(), qPrintable(started), seconds,
                 memory);
     std::printf("%s", remarks.constData());
     std::fflush(stdout);

@@ -37,20 +37,15 @@ private slots:
 
     void findsTheSearchPath_data()
     {
-        QTest::addColumn<QString>("question");   // that the compiler understands
-        QTest::addColumn<bool>("onErrors");      // whether it answers there
-        QTest::addColumn<QByteArray>("listing"); // "$" stands for a folder
+        QTest::addColumn<QString>("question"); // that the compiler understands
+        QTest::addColumn<bool>("onErrors");    // whether it answers there
+        QTest::addColumn<QString>("listing");  // "$" stands for a folder
         QTest::addColumn<QString>("directories");
         QTest::addColumn<QString>("quoted");
-        const auto row = [](const char *name, const QString &question, bool onErrors,
-                            const QByteArray &listing, const QString &directories,
-                            const QString &quoted) {
-            QTest::newRow(name) << question << onErrors << listing << directories << quoted;
-        };
-        const QByteArray gnu = "Target: none\nignoring nonexistent directory \"$/x\"\n"
-                               "#include \"...\" search starts here:\n $/own\n"
-                               "#include <...> search starts here:\n $/a/../b c\n $/a\n $/a\n"
-                               "End of search list.\nCOMPILER_PATH=$/own:$/a:\n";
+        const QString gnu = "Target: none\nignoring nonexistent directory \"$/x\"\n"
+                            "#include \"...\" search starts here:\n $/own\n"
+                            "#include <...> search starts here:\n $/a/../b c\n $/a\n $/a\n"
+                            "End of search list.\nCOMPILER_PATH=$/own:$/a:\n";
         row("GNU", "* -v -E probe.c", true, gnu, "$/b c|$/a", "$/own");
         row("sdcc's preprocessor", "* -Wp-v -E probe.c", true, gnu, "$/b c|$/a", "$/own");
         row("tcc", "cc -print-search-dirs", false,
@@ -69,21 +64,21 @@ private slots:
     {
         QFETCH(QString, question);
         QFETCH(bool, onErrors);
-        QFETCH(QByteArray, listing);
+        QFETCH(QString, listing);
         QFETCH(QString, directories);
         QFETCH(QString, quoted);
         const QTemporaryDir folder;
         const QString top = QDir(folder.path()).canonicalPath();
         for (const char *name : {"a", "b c", "own", "target", "include", "inc"})
             QDir(top).mkdir(name);
-        listing.replace("$", top.toLocal8Bit());
+        const QByteArray output = listing.replace("$", top).toLocal8Bit();
         QStringList asked;
         const QStringList command {"cc", "-I", top + "/inc", "-I" + top + "/none", "-I"};
         const RunCommand run = [&](const QStringList &words) {
             asked << words.join(' ').replace(command.join(' '), "*");
             if (asked.last() != question)
                 return answer({}, "include:\n/usr\n", 1);
-            return onErrors ? answer({}, listing) : answer(listing);
+            return onErrors ? answer({}, output) : answer(output);
         };
         const DialectAnswers answers = askInDialects(run, command, "probe.c");
         QCOMPARE(answers.searchPath.directories.join('|').replace(top, "$"), directories);
