@@ -61,7 +61,7 @@ ProbeAnswer ProbeRunner::askIn(const QString &folder, const QByteArray &source,
         goal == CompileTo::Object && layout.objectFlag.isEmpty() && !m_compiler.isCross;
     const QByteArray text = needsMain ? source + "int main(void) { return 0; }\n" : source;
     QDir().mkdir(folder);
-    if (!platform::writeFile(folder + u'/' + name, text))
+    if (!platform::writeScratchFile(folder + u'/' + name, text))
         return answer;
     ++m_started;
     answer.run = platform::runProgram(command(goal), folder, timeLimit());
