@@ -2,6 +2,7 @@
 
 #include "form_table.h"
 #include "log_browser.h"
+#include "picture.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
@@ -471,7 +472,7 @@ CalyxBase::CalyxBase(QWidget *parent, const char *name, bool modal, Qt::WindowFl
     : SteppedWizard(parent, flags)
 {
     for (const ImageFile &file : imageFiles)
-        this->*file.image = QPixmap(u":/images/"_s + QLatin1String(file.name));
+        this->*file.image = picture(u":/images/"_s + QLatin1String(file.name));
     setObjectName(QLatin1String(name ? name : "CalyxBase"));
     setModal(modal);
     setPalette(windowPalette());

@@ -43,7 +43,7 @@ void setUpLabel(QLabel *label, SetUps setUps, const QPixmap *image)
 void setUpButton(QAbstractButton *button, SetUps setUps, const QPixmap *image)
 {
     if (image) {
-        button->setIconSize(image->size());
+        button->setIconSize(image->deviceIndependentSize().toSize());
         button->setIcon(*image);
     }
     button->setChecked(setUps.testFlag(SetUp::Checked));

@@ -2,6 +2,7 @@
 
 #include "colours.h"
 #include "form_table.h"
+#include "picture.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
@@ -103,8 +104,9 @@ QString translated(const char *text)
 
 SaveCompilerDetailsBase::SaveCompilerDetailsBase(QWidget *parent, const char *name, bool,
                                                  Qt::WindowFlags flags)
-    : QDialog(parent, flags), iconImage(u":/images/icon.png"_s),
-      bannerLeftImage(u":/images/bannerLeft.xpm"_s), bandLeftImage(u":/images/bandLeft.xpm"_s)
+    : QDialog(parent, flags), iconImage(picture(u":/images/icon.png"_s)),
+      bannerLeftImage(picture(u":/images/bannerLeft.xpm"_s)),
+      bandLeftImage(picture(u":/images/bandLeft.xpm"_s))
 {
     setObjectName(QLatin1String(name ? name : "SaveCompilerDetailsBase"));
     setBackgroundColour(this, Qt::white);

@@ -8,6 +8,9 @@
 // steps, in ink and greys with a single green. A side-bar picture is drawn once and written both
 // as XPM and as bitmap, so that a button looks the same whichever of the two it shows.
 //
+// Every picture is drawn a second time, twice as large, for screens with more pixels. That one lies
+// beside the first as NAME@2x.png, in all its colours.
+//
 // The captions are set in Liberation Sans; the pictures are committed, so that a build needs
 // neither that face nor this program.
 
@@ -39,9 +42,12 @@ const QColor green(0x3f, 0x8f, 0x6b);
 
 const int steps = 5;
 
-QImage blank(int width, int height, const QColor &background = Qt::white)
+/// An empty picture, \a width and \a height in pixels of the forms, with \a scale pixels of its own
+/// for each of them in both directions. What is painted on it counts as the forms do.
+QImage blank(int scale, int width, int height, const QColor &background = Qt::white)
 {
-    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+    QImage image(width * scale, height * scale, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
     image.fill(background);
     return image;
 }
@@ -86,15 +92,23 @@ void drawSepals(QPainter &painter, const QPointF &foot, qreal length,
 /// A horizontal bar with a colour that runs from \a left to \a right.
 void drawBar(QPainter &painter, const QRectF &bar, const QColor &left, const QColor &right)
 {
-    QLinearGradient gradient(bar.topLeft(), bar.topRight());
-    gradient.setColorAt(0, left);
-    gradient.setColorAt(1, right);
-    painter.fillRect(bar, gradient);
+    // Column by column, since the toolkit's gradient goes back by a step now and then.
+    const qreal column = 1 / painter.device()->devicePixelRatioF();
+    for (qreal x = 0; x < bar.width(); x += column) {
+        const qreal share = x / (bar.width() - column);
+        const auto between = [share](int from, int to) {
+            return qRound(from + share * (to - from));
+        };
+        painter.fillRect(QRectF(bar.x() + x, bar.y(), column, bar.height()),
+                         QColor(between(left.red(), right.red()),
+                                between(left.green(), right.green()),
+                                between(left.blue(), right.blue())));
+    }
 }
 
 QImage icon(int size)
 {
-    QImage image = blank(size, size, Qt::transparent);
+    QImage image = blank(1, size, size, Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(size / 32.0, size / 32.0);
@@ -127,9 +141,9 @@ QByteArray windowsIcon()
 }
 
 /// The banner: an ink bar with a thin grey one under it. \a height is that of the whole picture.
-QImage bannerLeft(int width, int height)
+QImage bannerLeft(int scale, int width, int height)
 {
-    QImage image = blank(width, height);
+    QImage image = blank(scale, width, height);
     QPainter painter(&image);
     drawBar(painter, QRectF(0, 0, width, 25), ink, slate);
     drawBar(painter, QRectF(0, 28, width, height - 28), grey, mist);
@@ -140,9 +154,9 @@ QImage bannerLeft(int width, int height)
     return image;
 }
 
-QImage bannerRight(int width, int height)
+QImage bannerRight(int scale, int width, int height)
 {
-    QImage image = blank(width, height);
+    QImage image = blank(scale, width, height);
     QPainter painter(&image);
     drawBar(painter, QRectF(0, 0, width, 25), slate, ink);
     drawBar(painter, QRectF(0, 28, width, height - 28), mist, grey);
@@ -155,19 +169,19 @@ QImage bannerRight(int width, int height)
 }
 
 /// The band along the bottom mirrors the banner: grey above, ink below.
-QImage band(int width, int height, const QColor &left, const QColor &right, const QColor &greyLeft,
-            const QColor &greyRight)
+QImage band(int scale, int width, int height, const QColor &left, const QColor &right,
+            const QColor &greyLeft, const QColor &greyRight)
 {
-    QImage image = blank(width, height);
+    QImage image = blank(scale, width, height);
     QPainter painter(&image);
     drawBar(painter, QRectF(0, 0, width, 5), greyLeft, greyRight);
     drawBar(painter, QRectF(0, 8, width, height - 8), left, right);
     return image;
 }
 
-QImage makersLogo()
+QImage makersLogo(int scale)
 {
-    QImage image = blank(169, 54);
+    QImage image = blank(scale, 169, 54);
     QPainter painter(&image);
     drawSepals(painter, QPointF(28, 44), 33, {mist, grey, green});
     painter.setFont(capitals(19, 4));
@@ -183,9 +197,9 @@ QImage makersLogo()
     return image;
 }
 
-QImage productLogo(int width, int height, const QString &name, const QString &language)
+QImage productLogo(int scale, int width, int height, const QString &name, const QString &language)
 {
-    QImage image = blank(width, height);
+    QImage image = blank(scale, width, height);
     QPainter painter(&image);
     painter.setFont(capitals(29, 2));
     QLinearGradient text(0, 10, 0, 42);
@@ -201,9 +215,9 @@ QImage productLogo(int width, int height, const QString &name, const QString &la
     return image;
 }
 
-QImage arrow(bool up)
+QImage arrow(int scale, bool up)
 {
-    QImage image = blank(18, 18);
+    QImage image = blank(scale, 18, 18);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
@@ -212,16 +226,16 @@ QImage arrow(bool up)
     return up ? image : image.mirrored(false, true);
 }
 
-QImage sideBarButton(const QString &caption, bool highlighted)
+QImage sideBarButton(int scale, const QString &caption, bool highlighted)
 {
-    QImage image = blank(175, 23, ground);
+    QImage image = blank(scale, 175, 23, ground);
     QPainter painter(&image);
     if (highlighted) {
         drawBar(painter, QRectF(0, 0, 175, 23), ink, slate);
         painter.fillRect(0, 0, 5, 23, green);
     } else {
         painter.setPen(grey);
-        painter.drawRect(0, 0, 174, 22);
+        painter.drawRect(QRectF(0.5, 0.5, 174, 22));
         painter.fillRect(0, 0, 5, 23, grey);
     }
     painter.setPen(highlighted ? QColor(Qt::white) : ink);
@@ -244,6 +258,11 @@ Histogram histogram(const QImage &image)
 int channel(QRgb colour, int index)
 {
     return (colour >> (8 * index)) & 0xff;
+}
+
+int brightness(QRgb colour)
+{
+    return channel(colour, 0) + channel(colour, 1) + channel(colour, 2);
 }
 
 /// The colour that stands for all of \a box: the one that most of its pixels have, so that a ground
@@ -292,8 +311,11 @@ QImage withColours(QImage image, std::size_t limit)
         if (widest == 0)
             break;
         Histogram &box = boxes[chosen];
+        // Those alike in this channel are cut by their brightness, so that the steps of a gradient
+        // stay in their order.
         std::sort(box.begin(), box.end(), [axis](const auto &a, const auto &b) {
-            return channel(a.first, axis) < channel(b.first, axis);
+            const int difference = channel(a.first, axis) - channel(b.first, axis);
+            return difference ? difference < 0 : brightness(a.first) < brightness(b.first);
         });
         const auto middle = box.begin() + std::ptrdiff_t(box.size() / 2);
         Histogram upper(middle, box.end());
@@ -323,9 +345,24 @@ bool write(const QImage &image, const QString &path, const char *format)
 struct BuiltIn
 {
     const char *name;    ///< of the file, without its extension
-    std::size_t colours; ///< at most
+    std::size_t colours; ///< at most, where it is not enlarged
     QImage image;
 };
+
+std::vector<BuiltIn> builtIns(int scale)
+{
+    return {
+        {"logo", 893, makersLogo(scale)},
+        {"bannerLeft", 80, bannerLeft(scale, 532, 36)},
+        {"bannerRight", 301, bannerRight(scale, 217, 32)},
+        {"bandLeft", 77, band(scale, 532, 19, ink, slate, grey, mist)},
+        {"bandRight", 126, band(scale, 220, 19, slate, ink, mist, grey)},
+        {"kovLogo", 517, productLogo(scale, 134, 66, "KOV", "FOR C")},
+        {"kovppLogo", 511, productLogo(scale, 165, 65, "KOV++", "FOR C++")},
+        {"upArrow", 11, arrow(scale, true)},
+        {"downArrow", 11, arrow(scale, false)},
+    };
+}
 
 struct SideBarStep
 {
@@ -342,37 +379,35 @@ const SideBarStep sideBar[steps] = {
     {"review", "review", "REVIEW"},
 };
 
+/// Writes \a picture under the path \a name, to which it adds the extension of the format.
+bool write(const BuiltIn &picture, int scale, const QString &name, const char *format)
+{
+    if (scale > 1)
+        return write(picture.image, name + "@2x.png", "PNG");
+    return write(withColours(picture.image, picture.colours),
+                 name + '.' + QString(format).toLower(), format);
+}
+
 bool drawAll(const QString &root)
 {
-    const QString compiledIn = root + "/forms/images/";
+    const QString compiledIn = root + "/forms/images/", loaded = root + "/images/";
     bool written = true;
-    const BuiltIn pictures[] = {
-        {"logo", 893, makersLogo()},
-        {"bannerLeft", 80, bannerLeft(532, 36)},
-        {"bannerRight", 301, bannerRight(217, 32)},
-        {"bandLeft", 77, band(532, 19, ink, slate, grey, mist)},
-        {"bandRight", 126, band(220, 19, slate, ink, mist, grey)},
-        {"kovLogo", 517, productLogo(134, 66, "KOV", "FOR C")},
-        {"kovppLogo", 511, productLogo(165, 65, "KOV++", "FOR C++")},
-        {"upArrow", 11, arrow(true)},
-        {"downArrow", 11, arrow(false)},
-    };
-    for (const BuiltIn &picture : pictures) {
-        written &= write(withColours(picture.image, picture.colours),
-                         compiledIn + picture.name + ".xpm", "XPM");
-    }
-    for (const SideBarStep &step : sideBar) {
-        for (const bool highlighted : {false, true}) {
-            const QImage image =
-                withColours(sideBarButton(step.caption, highlighted), highlighted ? 89 : 4);
-            written &= write(
-                image, compiledIn + step.builtIn + (highlighted ? "On" : "Off") + ".xpm", "XPM");
-            written &=
-                write(image, root + "/images/" + step.bitmap + (highlighted ? "_shd" : "") + ".bmp",
-                      "BMP");
+    for (const int scale : {1, 2}) {
+        for (const BuiltIn &picture : builtIns(scale))
+            written &= write(picture, scale, compiledIn + picture.name, "XPM");
+        for (const SideBarStep &step : sideBar) {
+            for (const bool highlighted : {false, true}) {
+                const BuiltIn picture {step.builtIn, highlighted ? 89U : 4U,
+                                       sideBarButton(scale, step.caption, highlighted)};
+                written &= write(picture, scale,
+                                 compiledIn + step.builtIn + (highlighted ? "On" : "Off"), "XPM");
+                written &= write(picture, scale, loaded + step.bitmap + (highlighted ? "_shd" : ""),
+                                 "BMP");
+            }
         }
     }
     written &= write(icon(32), compiledIn + "icon.png", "PNG");
+    written &= write(icon(64), compiledIn + "icon@2x.png", "PNG");
     QFile windows(root + "/packaging/windows/calyx.ico");
     written &= windows.open(QIODevice::WriteOnly) && windows.write(windowsIcon()) > 0;
     return written;

@@ -4,6 +4,7 @@
 #include "wizard_test.h"
 
 #include <QCheckBox>
+#include <QDir>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -67,6 +68,20 @@ bool checkRoom(const QAbstractButton *button, QString &problems)
     return true;
 }
 
+/// A wizard and a save dialog.
+struct Forms
+{
+    WizardUser user;
+    SaveCompilerDetailsBase dialog;
+
+    /// Their widgets of type \a Widget.
+    template <typename Widget>
+    QList<Widget *> all() const
+    {
+        return user->findChildren<Widget *>() + dialog.findChildren<Widget *>();
+    }
+};
+
 } // namespace
 
 class TestCalyxBase : public QObject
@@ -99,25 +114,52 @@ private slots:
     {
         QFETCH(QString, language);
         const Language spoken(language);
-        const WizardUser user;
-        user->DestErrorLabel->setText(
+        Forms forms;
+        forms.user->DestErrorLabel->setText(
             QObject::tr("Destination folder does not exist please select a different folder."));
-        user->CmpPathErrorLabel->setText(
+        forms.user->CmpPathErrorLabel->setText(
             QObject::tr("Command specified is not on the path, please amend the path or fully "
                         "qualify this command."));
-        SaveCompilerDetailsBase dialog;
-        dialog.show();
+        forms.dialog.show();
         QString problems;
         int texts = 0;
-        for (const QWidget *form :
-             {static_cast<const QWidget *>(user.wizard()), static_cast<const QWidget *>(&dialog)}) {
-            for (const QLabel *label : form->findChildren<QLabel *>())
-                texts += checkRoom(label, problems);
-            for (const QAbstractButton *button : form->findChildren<QAbstractButton *>())
-                texts += checkRoom(button, problems);
-        }
+        for (const QLabel *label : forms.all<QLabel>())
+            texts += checkRoom(label, problems);
+        for (const QAbstractButton *button : forms.all<QAbstractButton>())
+            texts += checkRoom(button, problems);
         QVERIFY2(problems.isEmpty(), qPrintable(problems));
         QVERIFY2(texts >= 44, qPrintable(QString::number(texts)));
+    }
+
+    void showsSharpPictures()
+    {
+        const int scale = int(qApp->devicePixelRatio());
+        const WizardUser user;
+        const QString file = scale > 1 ? "logo@2x.png" : "logo.xpm";
+        QCOMPARE(user->pixmapLabel5->grab().toImage().convertToFormat(QImage::Format_RGB32),
+                 QImage(":/images/" + file).convertToFormat(QImage::Format_RGB32));
+        QCOMPARE(user->P0_RevBtn->iconSize(), QSize(175, 23));
+        int pictures = 0;
+        for (const QString &folder : {QString(":/images/"), QString(SOURCE_FOLDER "/images/")}) {
+            for (const QString &name : QDir(folder).entryList({"*.xpm", "icon.png", "*.bmp"})) {
+                const QImage larger(folder + QFileInfo(name).baseName() + "@2x.png");
+                QCOMPARE(larger.size(), 2 * QImage(folder + name).size());
+                ++pictures;
+            }
+        }
+        QCOMPARE(pictures, 30);
+        for (const QString name : {"bandLeft.xpm", "bandRight.xpm"}) {
+            const QImage band(":/images/" + name);
+            for (const int y : {2, 15}) {
+                int rises = 0, falls = 0;
+                for (int x = 1; x < band.width(); ++x) {
+                    const int step = qGray(band.pixel(x, y)) - qGray(band.pixel(x - 1, y));
+                    rises += step > 0;
+                    falls += step < 0;
+                }
+                QVERIFY2(rises == 0 || falls == 0, qPrintable(name));
+            }
+        }
     }
 
     void setsItsTextsAgain()
