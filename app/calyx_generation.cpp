@@ -135,6 +135,8 @@ void Calyx::processExit()
         if (generatorProcess->exitCode() == 0) {
             DetailsText->append(u"Personality Generated Successfully!"_s);
             setButtonText(QWizard::CancelButton, tr("Close"));
+            if (currentPage() == Page4)
+                makeCancelDefault();
             AddCompilerBtn->setEnabled(true);
         } else {
             QMessageBox::about(nullptr, u"Calyx"_s,

@@ -47,10 +47,8 @@ void setUpButton(QAbstractButton *button, SetUps setUps, const QPixmap *image)
         button->setIcon(*image);
     }
     button->setChecked(setUps.testFlag(SetUp::Checked));
-    if (auto *pushButton = qobject_cast<QPushButton *>(button)) {
+    if (auto *pushButton = qobject_cast<QPushButton *>(button))
         pushButton->setFlat(setUps.testFlag(SetUp::Flat));
-        pushButton->setAutoDefault(setUps.testFlag(SetUp::AutoDefault));
-    }
 }
 
 } // namespace

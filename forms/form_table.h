@@ -21,7 +21,6 @@ enum class SetUp {
     MouseTracking = 1 << 9,
     Checked = 1 << 10, ///< of a button that can be checked
     Disabled = 1 << 11,
-    AutoDefault = 1 << 12, ///< of a QPushButton in a dialog
 };
 Q_DECLARE_FLAGS(SetUps, SetUp)
 Q_DECLARE_OPERATORS_FOR_FLAGS(SetUps)

@@ -190,6 +190,9 @@ private slots:
         QCOMPARE(dialog.NewCmpNameEdit->text(), "");
         dialog.ExstSaveRadioButton->click();
         QVERIFY(!dialog.NewSaveRadioButton->isChecked() && !dialog.CRadioButton->isEnabled());
+        dialog.buttonCancel->setFocus();
+        QTest::keyClick(dialog.buttonCancel, Qt::Key_Return);
+        QVERIFY(!dialog.isVisible() && dialog.resultName.isEmpty());
     }
 };
 
