@@ -2,6 +2,9 @@
 
 #include "sub_popup_menu.h"
 
+#include <algorithm>
+#include <functional>
+
 CompilerMenu::CompilerMenu(CompilerMenuOwner *owner) : m_owner(owner) { }
 
 CompilerMenu::~CompilerMenu() = default;
@@ -29,5 +32,8 @@ void CompilerMenu::applyProduct(const QString &productCode)
     for (const auto &menu : m_families) {
         menu->enableAllItems();
         menu->disableOtherLanguage(productCode);
+        const QList<QAction *> items = menu->actions();
+        menu->menuAction()->setEnabled(
+            std::any_of(items.begin(), items.end(), std::mem_fn(&QAction::isEnabled)));
     }
 }

@@ -109,7 +109,7 @@ SaveCompilerDetailsBase::SaveCompilerDetailsBase(QWidget *parent, const char *na
       bandLeftImage(picture(u":/images/bandLeft.xpm"_s))
 {
     setObjectName(QLatin1String(name ? name : "SaveCompilerDetailsBase"));
-    setBackgroundColour(this, Qt::white);
+    setPalette(formPalette());
     setWindowIcon(iconImage);
     setSizeGripEnabled(true);
     setModal(true);

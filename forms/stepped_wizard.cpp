@@ -35,14 +35,20 @@ public:
         }
     }
 
-    // A menu that is higher than the screen scrolls, instead of spreading over it in columns that
-    // a long one does not fit either.
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *returnData) const override
     {
-        return hint == SH_Menu_Scrollable
-                 ? 1
-                 : QProxyStyle::styleHint(hint, option, widget, returnData);
+        switch (hint) {
+        case SH_Menu_Scrollable:
+            // Instead of spreading over the screen in columns that a long menu does not fit either.
+            return 1;
+        case SH_Menu_AllowActiveAndDisabled:
+            // The keys pass over an item that cannot be chosen, and it is never painted as if it
+            // could be, which nobody could read.
+            return 0;
+        default:
+            return QProxyStyle::styleHint(hint, option, widget, returnData);
+        }
     }
 };
 

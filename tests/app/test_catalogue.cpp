@@ -50,6 +50,7 @@ void choose(const WizardUser &user, int item)
         families->setActiveAction(families->actions().at(0));
         QTest::keyClick(families, Qt::Key_Right);
         QMenu *names = families->actions().at(0)->menu();
+        QVERIFY(names->activeAction()->isEnabled());
         names->setActiveAction(names->actions().at(item));
         QTest::keyClick(names, Qt::Key_Return);
     });

@@ -3,6 +3,7 @@
 #include "save_compiler_details_base.h"
 #include "wizard_test.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDir>
 #include <QLabel>
@@ -11,6 +12,7 @@
 #include <QRadioButton>
 #include <QStyleOptionButton>
 #include <QTest>
+#include <cmath>
 
 namespace {
 
@@ -66,6 +68,21 @@ bool checkRoom(const QAbstractButton *button, QString &problems)
     problems += cutOff(button, button->fontMetrics().size(Qt::TextShowMnemonic, button->text()),
                        button->style()->subElementRect(contents, &option, button).size());
     return true;
+}
+
+/// How far two colours are apart, from 1 for none to 21: the contrast ratio of the Web Content
+/// Accessibility Guidelines.
+qreal contrast(const QColor &one, const QColor &other)
+{
+    const auto luminance = [](const QColor &colour) {
+        const auto linear = [](qreal part) {
+            return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
+             + 0.0722 * linear(colour.blueF());
+    };
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
+    return (light + 0.05) / (dark + 0.05);
 }
 
 /// A wizard and a save dialog.
@@ -129,6 +146,35 @@ private slots:
             texts += checkRoom(button, problems);
         QVERIFY2(problems.isEmpty(), qPrintable(problems));
         QVERIFY2(texts >= 44, qPrintable(QString::number(texts)));
+    }
+
+    void canBeReadUnderEveryPalette_data()
+    {
+        QTest::addColumn<QPalette>("palette");
+        QPalette highContrast(Qt::black, Qt::black);
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+            highContrast.setColor(role, Qt::yellow);
+        row("dark", QPalette(QColor(40, 40, 40)));
+        row("high contrast", highContrast);
+    }
+    void canBeReadUnderEveryPalette()
+    {
+        QFETCH(QPalette, palette);
+        const QPalette previous = QApplication::palette();
+        const auto restore = qScopeGuard([&] { QApplication::setPalette(previous); });
+        QApplication::setPalette(palette);
+        const Forms forms;
+        const std::pair<QPalette::ColorRole, QPalette::ColorRole> pairs[] = {
+            {QPalette::WindowText, QPalette::Window},
+            {QPalette::Text, QPalette::Base},
+            {QPalette::ButtonText, QPalette::Button}};
+        for (const QWidget *widget : forms.all<QWidget>()) {
+            for (const auto &[text, ground] : pairs) {
+                const QPalette &shown = widget->palette();
+                QVERIFY2(contrast(shown.color(text), shown.color(ground)) > 3.5,
+                         qPrintable(widget->objectName()));
+            }
+        }
     }
 
     void showsSharpPictures()
