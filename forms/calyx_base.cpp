@@ -1,6 +1,7 @@
 #include "calyx_base.h"
 
 #include "colours.h"
+#include "elided_widgets.h"
 #include "form_table.h"
 #include "log_browser.h"
 #include "picture.h"
@@ -22,6 +23,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 #define ROW(member) FORM_WIDGET(CalyxBase, member)
+#define PREVIEW(member) FORM_WIDGET_AS(CalyxBase, member, ElidedLabel)
 
 using Place = Placement<CalyxBase>;
 
@@ -142,7 +144,7 @@ const WidgetRow<CalyxBase> page1Widgets[] = {
     {ROW(CmpOrderListBox), {{320, 170, 120, 120}}},
     {ROW(CmpDefFlagChkBox), {{214, 212, 20, 20}}},
     {ROW(ReduceFileSizeCheckBox), {{214, 295, 100, 20}}},
-    {ROW(CmpCmdOrder), {{20, 335, 330, 20}, SetUp::Italic | SetUp::LiteralText}},
+    {PREVIEW(CmpCmdOrder), {{20, 335, 330, 20}, SetUp::Italic | SetUp::LiteralText}},
     {ROW(CmpPathErrorLabel),
      {{360, 300, 160, 56}, SetUp::ErrorText | SetUp::Wrapped | SetUp::LiteralText}},
 };
@@ -166,7 +168,7 @@ const WidgetRow<CalyxBase> page2Widgets[] = {
     {ROW(CmpHdrDirEditBtn), {{365, 258, 75, 25}, SetUp::WhiteBackground}},
     {ROW(CmpHdrDirAddBtn), {{365, 228, 75, 25}, SetUp::WhiteBackground}},
     {ROW(CmpHdrDirListBox), {{20, 200, 340, 140}}},
-    {ROW(SearchCompileCmdTxt), {{20, 155, 500, 20}, SetUp::LiteralText}},
+    {PREVIEW(SearchCompileCmdTxt), {{20, 155, 500, 20}, SetUp::LiteralText}},
     {ROW(groupBox1_2_2_2), {{20, 40, 500, 90}}},
     {ROW(textLabel2_2_2_2), {{10, 5, 481, 60}, SetUp::Wrapped}, "groupBox1_2_2_2"},
     {ROW(P3_DefBtn), sideBarButton(3)},
@@ -189,7 +191,7 @@ const WidgetRow<CalyxBase> page3Widgets[] = {
     {ROW(pixmapLabel3_3_2_2_2), bandRight},
     {ROW(groupBox1_2_2), {{20, 40, 500, 55}}},
     {ROW(textLabel2_2_2), {{10, 5, 481, 45}, SetUp::Wrapped}, "groupBox1_2_2"},
-    {ROW(DefSwitchCompileCmdTxt), {{20, 100, 500, 20}, SetUp::LiteralText}},
+    {PREVIEW(DefSwitchCompileCmdTxt), {{20, 100, 500, 20}, SetUp::LiteralText}},
     {ROW(P2_DefBtn), sideBarButton(3)},
     {ROW(P2_SrchBtn), sideBarButton(2)},
     {ROW(textLabel4_3), {{20, 125, 210, 20}}},

@@ -60,16 +60,19 @@ struct TextRow
 };
 
 /// Creates the widget that the member \a Member of \a form points to.
-template <auto Member, typename Form>
+template <auto Member, typename Form,
+          typename Widget =
+              std::remove_pointer_t<std::remove_cvref_t<decltype(std::declval<Form>().*Member)>>>
 QWidget *createMember(Form *form, QWidget *parent)
 {
-    using Widget = std::remove_pointer_t<std::remove_reference_t<decltype(form->*Member)>>;
     form->*Member = new Widget(parent);
     return form->*Member;
 }
 
-/// The first two fields of a WidgetRow.
+/// The first two fields of a WidgetRow; the second macro for a widget of a class derived from the
+/// member's.
 #define FORM_WIDGET(Form, member) #member, &createMember < &Form::member, Form>
+#define FORM_WIDGET_AS(Form, member, Class) #member, &createMember < &Form::member, Form, Class>
 
 void setUpWidget(QWidget *widget, const char *name, const QRect &rectangle, SetUps setUps,
                  const QPixmap *image);

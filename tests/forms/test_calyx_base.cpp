@@ -3,15 +3,20 @@
 #include "save_compiler_details_base.h"
 #include "wizard_test.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QListWidget>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyleOptionButton>
 #include <QTest>
+#include <QToolTip>
 #include <cmath>
 
 namespace {
@@ -84,6 +89,19 @@ qreal contrast(const QColor &one, const QColor &other)
     const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
     return (light + 0.05) / (dark + 0.05);
 }
+
+/// Tells which text has been painted last.
+class TextSpy : public QProxyStyle
+{
+public:
+    mutable QString painted;
+
+    void drawItemText(QPainter *, const QRect &, int, const QPalette &, bool, const QString &text,
+                      QPalette::ColorRole) const override
+    {
+        painted = text;
+    }
+};
 
 /// A wizard and a save dialog.
 struct Forms
@@ -175,6 +193,29 @@ private slots:
                          qPrintable(widget->objectName()));
             }
         }
+    }
+
+    void cutsLongTextsAtTheirEnd()
+    {
+        TextSpy style; // outlives the widgets
+        const Forms forms;
+        forms.user->showPage(forms.user->Page1);
+        const QString text = "cc <b>" + QString("x").repeated(200) + " -c";
+        QLabel *preview = forms.user->CmpCmdOrder;
+        QComboBox *list = forms.dialog.ExstCmpNameComboBox;
+        preview->setText(text);
+        list->addItem(text);
+        for (QWidget *widget : {static_cast<QWidget *>(preview), static_cast<QWidget *>(list)}) {
+            widget->setStyle(&style);
+            widget->grab();
+            QVERIFY2(style.painted.startsWith("cc <b>x"), qPrintable(style.painted));
+            QVERIFY2(style.painted.endsWith(QChar(0x2026)), qPrintable(style.painted));
+        }
+        QHelpEvent event(QEvent::ToolTip, {}, {});
+        QApplication::sendEvent(preview, &event);
+        QVERIFY(QToolTip::text().contains(text.toHtmlEscaped().replace(' ', '\n')));
+        list->showPopup();
+        QVERIFY(list->view()->viewport()->width() >= list->view()->sizeHintForColumn(0));
     }
 
     void showsSharpPictures()
