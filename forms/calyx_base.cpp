@@ -355,8 +355,23 @@ const TextRow texts[] = {
                         "Specify all compiler defines external to the header files that could "
                         "affect/determine compilation of test files.")}},
 
+    {"DetailsText", "accessibleName", {QT_TRANSLATE_NOOP("CalyxBase", "Review")}},
     {"SaveLogBtn", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Save Log")}},
     {"AddCompilerBtn", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Save Compiler")}},
+};
+
+const NameRow names[] = {
+    {"PersonDestEdit", "textLabel1"},
+    {"PersonNameEdit", "textLabel1_2"},
+    {"CmpExeEdit", "ExeCommandBtn"},
+    {"CmpExeFlagEdit", "textLabel4_2"},
+    {"CmpDefFlagEdit", "textLabel4_2_2_2"},
+    {"CmpCmpFlagEdit", "textLabel4_2_2"},
+    {"CmpObjExtFlagEdit", "textLabel4_2_2_3"},
+    {"CmpOrderListBox", "textLabel3_2"},
+    {"CmpHdrDirListBox", "textLabel3"},
+    {"CmpSwtchEdit", "textLabel4_3"},
+    {"CmpDefEdit", "textLabel4"},
 };
 
 const char *const orderItems[] = {
@@ -479,6 +494,7 @@ void CalyxBase::languageChange()
 {
     setWindowTitle(QCoreApplication::translate("CalyxBase", "Calyx " CALYX_VERSION));
     setTexts(this, "CalyxBase", texts);
+    setNames(this, names);
     CmpOrderListBox->clear();
     for (const char *item : orderItems)
         CmpOrderListBox->addItem(QLatin1String(item));

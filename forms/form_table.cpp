@@ -84,3 +84,13 @@ void setTexts(QWidget *form, const char *context, std::span<const TextRow> rows)
         form->findChild<QWidget *>(QLatin1StringView(row.widget))->setProperty(row.property, text);
     }
 }
+
+void setNames(QWidget *form, std::span<const NameRow> rows)
+{
+    for (const NameRow &row : rows) {
+        const QVariant caption =
+            form->findChild<QWidget *>(QLatin1StringView(row.captionedBy))->property("text");
+        form->findChild<QWidget *>(QLatin1StringView(row.widget))
+            ->setAccessibleName(caption.toString().simplified());
+    }
+}

@@ -59,6 +59,13 @@ struct TextRow
     SourceText source;
 };
 
+/// Which other widget's text is the caption of a widget that has no text of its own.
+struct NameRow
+{
+    const char *widget;
+    const char *captionedBy;
+};
+
 /// Creates the widget that the member \a Member of \a form points to.
 template <auto Member, typename Form,
           typename Widget =
@@ -92,3 +99,7 @@ void createWidgets(Form *form, QWidget *page, std::span<const WidgetRow<Form>> r
 
 /// Sets every text of \a rows, translated in \a context, on the widgets below \a form.
 void setTexts(QWidget *form, const char *context, std::span<const TextRow> rows);
+
+/// Names every widget of \a rows after its caption, in one line, for those who do not see that. To
+/// be called when the texts have been set.
+void setNames(QWidget *form, std::span<const NameRow> rows);

@@ -96,6 +96,12 @@ const TextRow texts[] = {
          "compiler entry cannot be undone.")}},
 };
 
+const NameRow names[] = {
+    {"ExstCmpFamComboBox", "textLabel1"},     {"ExstCmpNameComboBox", "textLabel1_2"},
+    {"NewCmpFamComboBox", "textLabel1_3"},    {"NewCmpFamEdit", "textLabel1_3"},
+    {"NewCmpNameComboBox", "textLabel1_2_2"}, {"NewCmpNameEdit", "textLabel1_2_2"},
+};
+
 QString translated(const char *text)
 {
     return QCoreApplication::translate("SaveCompilerDetailsBase", text);
@@ -125,6 +131,7 @@ void SaveCompilerDetailsBase::languageChange()
     setWindowTitle(
         translated(QT_TRANSLATE_NOOP("SaveCompilerDetailsBase", "Save Compiler Details")));
     setTexts(this, "SaveCompilerDetailsBase", texts);
+    setNames(this, names);
     // Their texts mark a letter, which is to be no shortcut.
     for (QPushButton *button : {buttonOk, buttonCancel})
         button->setShortcut(QKeySequence());

@@ -92,10 +92,14 @@ void SideBar::setTexts()
 {
     for (int page = 0; page < steps; ++page) {
         for (int step = 0; step < steps; ++step) {
-            button(page, step)
-                ->setAccessibleName(
-                    QCoreApplication::translate("CalyxBase", table[step].accessibleName));
-            button(page, step)->setShortcut(QKeySequence());
+            QPushButton *const entry = button(page, step);
+            entry->setAccessibleName(
+                QCoreApplication::translate("CalyxBase", table[step].accessibleName));
+            if (page == step) {
+                entry->setAccessibleDescription(
+                    QCoreApplication::translate("CalyxBase", "Current step"));
+            }
+            entry->setShortcut(QKeySequence());
         }
     }
 }

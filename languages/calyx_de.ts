@@ -236,6 +236,10 @@
         <source>&lt;src file&gt;</source>
         <translation>&lt;src file&gt;</translation>
     </message>
+    <message>
+        <source>Current step</source>
+        <translation>Aktueller Schritt</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

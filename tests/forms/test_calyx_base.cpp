@@ -4,10 +4,12 @@
 #include "wizard_test.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QGroupBox>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QListWidget>
@@ -192,6 +194,30 @@ private slots:
                 QVERIFY2(contrast(shown.color(text), shown.color(ground)) > 3.5,
                          qPrintable(widget->objectName()));
             }
+        }
+    }
+
+    void namesEveryStopOfTheFocus()
+    {
+        const Forms forms;
+        QStringList titles;
+        for (const QGroupBox *box : forms.all<QGroupBox>())
+            titles << box->title();
+        int stops = 0;
+        for (QWidget *widget : forms.all<QWidget>()) {
+            // The list of a combo box is told of through the box.
+            if (widget->focusPolicy() == Qt::NoFocus || widget->window()->windowType() == Qt::Popup)
+                continue;
+            ++stops;
+            const QAccessibleInterface *told = QAccessible::queryAccessibleInterface(widget);
+            const QString name = told->text(QAccessible::Name);
+            QVERIFY2(!name.isEmpty() && !titles.contains(name), qPrintable(widget->objectName()));
+        }
+        QVERIFY2(stops >= 70, qPrintable(QString::number(stops)));
+        for (int page = 0; page < SideBar::steps; ++page) {
+            for (int step = 0; step < SideBar::steps; ++step)
+                QCOMPARE(forms.user->sideBar.button(page, step)->accessibleDescription(),
+                         page == step ? "Current step" : "");
         }
     }
 
