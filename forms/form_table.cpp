@@ -1,10 +1,12 @@
 #include "form_table.h"
 
 #include "colours.h"
+#include "one_line_validator.h"
 
 #include <QAbstractButton>
 #include <QCoreApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 
 namespace {
@@ -67,6 +69,8 @@ void setUpWidget(QWidget *widget, const char *name, const QRect &rectangle, SetU
         setUpLabel(label, setUps, image);
     } else if (auto *button = qobject_cast<QAbstractButton *>(widget)) {
         setUpButton(button, setUps, image);
+    } else if (auto *edit = qobject_cast<QLineEdit *>(widget)) {
+        edit->setValidator(new OneLineValidator(edit));
     } else if (auto *frame = qobject_cast<QFrame *>(widget); setUps & SetUp::SeparatorLine) {
         frame->setFrameShape(QFrame::VLine);
         frame->setFrameShadow(QFrame::Sunken);

@@ -7,11 +7,13 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDir>
 #include <QGroupBox>
 #include <QHelpEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QProxyStyle>
 #include <QPushButton>
@@ -219,6 +221,35 @@ private slots:
                 QCOMPARE(forms.user->sideBar.button(page, step)->accessibleDescription(),
                          page == step ? "Current step" : "");
         }
+    }
+
+    void takesOneLineOnly_data()
+    {
+        QTest::addColumn<QString>("pasted"); // between two characters
+        QTest::addColumn<QString>("held");
+        row("line feed at the end", "cc\n", "cc");
+        row("two lines", "gcc\r\n-m32\r\n", "gcc -m32");
+        row("tabs", "gcc\t\t-m32\t", "gcc -m32");
+        row("other controls", QString("gcc%1-c%2\a").arg(QChar(0x2028), QChar(0x7f)), "gcc -c");
+        row("spaces", "  gcc  ", "  gcc  ");
+    }
+    void takesOneLineOnly()
+    {
+        QFETCH(QString, pasted);
+        QFETCH(QString, held);
+        const Forms forms;
+        QGuiApplication::clipboard()->setText(pasted);
+        int fields = 0;
+        for (QLineEdit *edit : forms.all<QLineEdit>()) {
+            ++fields;
+            edit->setText("<>");
+            edit->setCursorPosition(1);
+            edit->paste();
+            QCOMPARE(edit->text(), '<' + held + '>');
+            edit->setText('\n' + pasted);
+            QCOMPARE(edit->text(), held);
+        }
+        QCOMPARE(fields, 9);
     }
 
     void cutsLongTextsAtTheirEnd()
