@@ -98,8 +98,8 @@ void Calyx::buildReview()
     tidy(answers);
     showAnswers(answers, *this, AnswerField::Tidied);
     updateCommandPreview();
-    DetailsText->setText(reviewText(answers, AnswerField::Shown));
-    DetailsText->append(shownOrder(CmpCmdOrder->text()));
+    DetailsText->setReview(reviewText(answers, AnswerField::Shown)
+                           + shownOrder(CmpCmdOrder->text()));
     detailsText = reviewText(answers, AnswerField::Kept);
     setFinishEnabled(Page4, true);
 }

@@ -1,5 +1,7 @@
 #include "log_browser.h"
 
+#include "space_layout.h"
+
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -17,6 +19,14 @@ LogBrowser::LogBrowser(QWidget *parent) : QTextBrowser(parent) { }
 void LogBrowser::setText(const QString &text)
 {
     m_lineIsUnfinished = false;
+    document()->setDocumentLayout(nullptr); // the toolkit's own, which stays quick
+    setPlainText(text);
+}
+
+void LogBrowser::setReview(const QString &text)
+{
+    setText(QString());
+    document()->setDocumentLayout(new SpaceLayout(document()));
     setPlainText(text);
 }
 
