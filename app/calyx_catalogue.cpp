@@ -70,9 +70,9 @@ void Calyx::applyCatalogueCompiler(QString family, QString name)
 void Calyx::downloadIntegration(const QString &package)
 {
     QMessageBox::about(nullptr, u"Calyx"_s,
-                       u"The generator will now close and take you to the download site for the "
-                       "latest integration package to be installed.\n("_s
-                           + downloadBaseAddress + package + u')');
+                       tr("The generator will now close and take you to the download site for the "
+                          "latest integration package to be installed.")
+                           + "\n("_L1 + downloadBaseAddress + package + u')');
     platform::openWebAddress(downloadAddress(package));
     reject();
 }

@@ -105,6 +105,9 @@ private slots:
         QCOMPARE(messageOf([&] { user.click(user->KOVRadioButton); }),
                  "You have selected KOV for a currently selected C++ execution command.\nPlease "
                  "reselect the Exe Command below.");
+        const Language german("de");
+        user->applyCatalogueCompiler("Family", "b - C++");
+        QVERIFY(messageOf([&] { user.click(user->KOVRadioButton); }).startsWith("Sie haben KOV "));
     }
 
     void leavesForADownload()

@@ -97,6 +97,17 @@ private slots:
             "another entry",
             [](SaveCompilerDetails &dialog) { choose(dialog.ExstCmpFamComboBox, "Alpha"); }, {},
             "Alpha/a - C");
+        row(
+            "the mode chosen again",
+            [](SaveCompilerDetails &dialog) { dialog.ExstSaveRadioButton->click(); }, {},
+            "Beta/C++");
+        row(
+            "new, the mode chosen again",
+            [newC = newEntry("Fam", "cc", c)](SaveCompilerDetails &dialog) {
+                newC(dialog);
+                dialog.NewSaveRadioButton->click();
+            },
+            {}, "Fam/cc - C");
         row("new C", newEntry("Fam", "cc", c), {}, "Fam/cc - C");
         row("new C++", newEntry("Beta", "cc", cpp), {}, "Beta/cc - C++");
         row("new, both languages", newEntry("Fam", "cc", both), {}, "Fam/cc");
@@ -111,6 +122,8 @@ private slots:
         row("typed, exists with its suffix", newEntry("Beta", "b", c), {"Yes" + overwrite},
             "Beta/b - C");
         row("typed, exists, declined", newEntry("Beta", "", cpp), {"No" + overwrite}, "");
+        row("typed as it exists", newEntry("Alpha", "a - C", cpp), {"Yes" + overwrite},
+            "Alpha/a - C");
         row(
             "from the list, confirmed",
             [](SaveCompilerDetails &dialog) {
@@ -153,6 +166,8 @@ private slots:
                 || message.isEmpty() || box->windowTitle() != "Save Compiler Details")
                 unexpected << box->text();
             const bool isQuestion = isYes || message.startsWith("No");
+            if (isQuestion && box->defaultButton() != box->button(QMessageBox::No))
+                unexpected << "Enter answers yes";
             box->button(isYes        ? QMessageBox::Yes
                         : isQuestion ? QMessageBox::No
                                      : QMessageBox::Ok)
