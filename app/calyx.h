@@ -137,6 +137,8 @@ private:
 
     // calyx_generation.cpp
     void moveOrderItem(int distance);
+    /// Whether the pointer over the review tells that the generator works.
+    void showBusy(bool on);
 
     Answers answers;       ///< as they were last taken from the pages; the unseen ones as they are
     QString detailsText;   ///< the review as it is kept

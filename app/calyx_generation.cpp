@@ -110,11 +110,13 @@ void Calyx::accept()
     if (generatorProcess)
         generatorProcess->end();
     generatorProcess = new GeneratorRun(this);
+    showBusy(true);
     DetailsText->setText(u"Initialising Compiler Personality Generation ...\n"_s);
     connect(generatorProcess, &QProcess::readyReadStandardOutput, this, &Calyx::readFromStdout);
     connect(generatorProcess, &QProcess::finished, this, &Calyx::processExit);
     connect(generatorProcess, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart) {
+            showBusy(false);
             DetailsText->append(u"Compiler Personality Generation could not be executed: Please "
                                 "ensure Bexlor is set on the path.\n"_s);
         }
@@ -128,8 +130,16 @@ void Calyx::readFromStdout()
     DetailsText->write(generatorProcess->readText());
 }
 
+void Calyx::showBusy(bool on)
+{
+    // The text has a pointer of its own.
+    for (QWidget *widget : {static_cast<QWidget *>(Page4), DetailsText->viewport()})
+        widget->setCursor(on ? Qt::BusyCursor : Qt::ArrowCursor);
+}
+
 void Calyx::processExit()
 {
+    showBusy(false);
     if (generatorProcess->exitStatus() == QProcess::NormalExit) {
         SaveLogBtn->setEnabled(true);
         if (generatorProcess->exitCode() == 0) {

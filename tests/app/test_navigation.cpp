@@ -199,6 +199,7 @@ private slots:
         QCOMPARE(rejected.count(), 1);
         QVERIFY(!user->isVisible());
         QCOMPARE(user->exitCode, succeeds ? 0 : 1);
+        QCOMPARE(QFile::exists("settings.txt"), succeeds);
     }
 
     void highlightsTheButtonUnderThePointer()

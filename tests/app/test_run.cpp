@@ -130,6 +130,7 @@ private slots:
         QCOMPARE(details(user), initial + shown);
         const bool isSuccess = shown.endsWith(success);
         QCOMPARE(user->SaveLogBtn->isEnabled(), canSaveLog);
+        QCOMPARE(user->DetailsText->viewport()->cursor().shape(), Qt::ArrowCursor);
         QCOMPARE(user->AddCompilerBtn->isEnabled(), isSuccess);
         QCOMPARE(user->buttonText(QWizard::CancelButton), isSuccess ? "Close" : "Cancel");
         QVERIFY(!user.finishIsEnabled());
@@ -160,6 +161,7 @@ private slots:
         user.walkToReview();
         user.press(QWizard::FinishButton);
         QTRY_VERIFY_WITH_TIMEOUT(!folder.read("bin/beat").isEmpty(), patience);
+        QCOMPARE(user->DetailsText->viewport()->cursor().shape(), Qt::BusyCursor);
         end(user);
         QTRY_VERIFY_WITH_TIMEOUT(folder.hasStopped("bin/beat"), patience);
     }
