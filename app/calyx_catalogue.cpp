@@ -2,6 +2,7 @@
 
 #include "download.h"
 #include "form_answers.h"
+#include "log_browser.h"
 #include "product_language.h"
 #include "record_answers.h"
 #include "save_compiler_details.h"
@@ -116,10 +117,14 @@ void Calyx::AddCompilerBtn_clicked()
         updateRecordFromAnswers(*record);
     else
         addRecordFromAnswers(family, name);
+    const CompilerCatalogue saved = parseCatalogue(catalogueText(catalogue));
     saveCatalogue();
 
     catalogue = CompilerCatalogue();
     loadCatalogue();
+    // What could not be written is not there.
+    if (catalogue == saved)
+        DetailsText->append("Compiler Saved: "_L1 + name);
     buildExeCommandMenu();
     applyProductToMenus(answers.productCode);
     answers.selectedCompilerName = name;

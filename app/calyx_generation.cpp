@@ -11,6 +11,7 @@
 #include "text_file.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -33,6 +34,13 @@ const LogFile logFiles[] = {
     {"\n ---- stdout details ----\n"_L1, generator::standardOutput},
     {"\n ---- stderr details ----\n"_L1, generator::standardError},
 };
+
+/// The log's name is that of the personality, with another extension.
+QString logName(const Answers &answers)
+{
+    const QString personality = personalityPath(answers.destination, answers.name);
+    return QFileInfo(platform::hostPath(personality)).completeBaseName() + ".log"_L1;
+}
 
 } // namespace
 
@@ -185,8 +193,11 @@ void Calyx::SaveLogBtn_clicked()
                        u"Log Files (*.txt *.log)"_s);
     dialog.setObjectName(u"save log dialog"_s);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(u"log"_s);
+    dialog.selectFile(logName(currentAnswers()));
     if (dialog.exec() != QDialog::Accepted)
         return;
-    platform::writeTextFile(dialog.selectedFiles().value(0),
-                            detailsText + u'\n' + DetailsText->toPlainText());
+    const QString path = platform::literalPath(dialog.selectedFiles().value(0));
+    if (platform::writeTextFile(path, detailsText + u'\n' + DetailsText->toPlainText()))
+        DetailsText->append("Log Saved: "_L1 + normalisePath(path));
 }

@@ -1,4 +1,5 @@
 #include "compiler_catalogue.h"
+#include "log_browser.h"
 #include "row.h"
 #include "save_compiler_details.h"
 #include "wizard_test.h"
@@ -144,7 +145,8 @@ private slots:
                        [&use](QWidget *widget) {
                            auto *dialog = qobject_cast<SaveCompilerDetails *>(widget);
                            use(*dialog);
-                           dialog->buttonOk->click();
+                           if (dialog->isVisible())
+                               dialog->buttonOk->click();
                        });
             return parseCatalogue(folder.read("bin/compilers.txt"));
         };
@@ -169,6 +171,8 @@ private slots:
         const QAction *item = user->ExeCommandBtn->menu()->actions().at(1)->menu()->actions().at(0);
         QCOMPARE(item->text(), "dd - C++");
         QVERIFY(!item->isEnabled());
+        QVERIFY(user->DetailsText->toPlainText().endsWith(
+            "\nCompiler Saved: a - C\nCompiler Saved: dd - C++"));
 
         const CompilerCatalogue before = saved;
         saved = save([](SaveCompilerDetails &dialog) {
@@ -176,6 +180,12 @@ private slots:
             dialog.buttonCancel->click();
         });
         QCOMPARE(saved, before);
+
+        // Where it cannot be written nothing is said to be saved.
+        QFile::remove("compilers.txt");
+        QDir().mkdir("compilers.txt");
+        save([](SaveCompilerDetails &) {});
+        QCOMPARE(user->DetailsText->toPlainText().count("Compiler Saved: "), 2);
     }
 };
 

@@ -61,18 +61,19 @@ private slots:
         const QString review = details(user);
         QVERIFY(
             review.startsWith("Product:\nkovpp\n\nPersonality Destination Directory:\n..\\out"));
-        QVERIFY(
-            review.endsWith("Compiler Header Directories:\n\\inc one\n\\inc\n\nCompiler "
-                            "Defines:\nA=\"<b>\\\"\nB\n\n"
-                            "Compiler Switches:\n\n\n"
-                            "Compiler Command Order:\ncc -m32 -o<exe file> -DXXX  <src file> \n\n"));
+        QVERIFY(review.endsWith(
+            "Compiler Header Directories:\n\\inc one\n\\inc\n\nCompiler "
+            "Defines:\nA=\"<b>\\\"\nB\n\n"
+            "Compiler Switches:\n\n\n"
+            "Compiler Command Order:\ncc -m32 -o<exe file> -DXXX  <src file> \n\n"));
 
         user.press(QWizard::FinishButton);
         QVERIFY(!user.finishIsEnabled());
         user.waitForTheEnd();
-        QCOMPARE(folder.generatorArguments(),
-                 "kovpp\ncmp\n\"cc -m32\"\n-o\n\n-D\n.o\n%c %o%e %d%j %s \n-i\n\\inc one\n-i\n\\inc\n"
-                 "-op\n..\\out\\mine.p_c\n-xd\nA=\"<b>\\\",B\n");
+        QCOMPARE(
+            folder.generatorArguments(),
+            "kovpp\ncmp\n\"cc -m32\"\n-o\n\n-D\n.o\n%c %o%e %d%j %s \n-i\n\\inc one\n-i\n\\inc\n"
+            "-op\n..\\out\\mine.p_c\n-xd\nA=\"<b>\\\",B\n");
         QVERIFY(!user.finishIsEnabled());
         user.press(QWizard::BackButton);
         user.press(QWizard::NextButton);
@@ -190,13 +191,19 @@ private slots:
         ProgramFolder::instruct(QString::fromUtf8("print Größe").toLocal8Bit());
         user.walkToReview();
         user.finish();
-        for (const QString &path : {QString(), folder.path("out/run.log")})
+        const QString output = initial + QString::fromUtf8("Größe\n") + success;
+        for (const QString &path : {QString(), folder.path("out/run")})
             QCOMPARE(withFileDialog([&] { user.click(user->SaveLogBtn); }, path),
                      folder.path("out"));
         const QString log = folder.read("out/run.log");
         QVERIFY(log.startsWith("Product:\nkov\n\n"));
-        QVERIFY(log.endsWith("\nObject Flag\n<src file>\n\n\n" + initial
-                             + QString::fromUtf8("Größe\n") + success));
+        QVERIFY(log.endsWith("\nObject Flag\n<src file>\n\n\n" + output));
+        QCOMPARE(details(user),
+                 output + "\nLog Saved: " + folder.path("out/run.log").replace('/', '\\'));
+
+        withDialog([&] { user.click(user->SaveLogBtn); },
+                   [](QWidget *dialog) { qobject_cast<QDialog *>(dialog)->accept(); });
+        QVERIFY(folder.read("out/mine.log").contains("Log Saved: "));
     }
 };
 
