@@ -63,6 +63,7 @@ private slots:
         row("clang++", "kovpp", "clang++");
         row("cross compiler", "kov", "arm-none-eabi-gcc");
     }
+    // Needs gcc -m32.
     void makesClangSeeWhatTheCompilerSees()
     {
         QFETCH(QString, product);
@@ -126,6 +127,7 @@ private slots:
         row("Microsoft's types", "kov", "clang --target=x86_64-pc-windows-msvc",
             "unsigned __int64 a; char b[sizeof(a)==8?1:-1];");
     }
+    // Needs gcc -mx32.
     void makesClangTakeTheSameCode()
     {
         QFETCH(QString, product);
