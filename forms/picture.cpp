@@ -6,10 +6,10 @@ using namespace Qt::StringLiterals;
 
 QPixmap picture(const QString &path)
 {
-    const QPixmap image(path);
+    QPixmap image(path);
     if (image.isNull() || qGuiApp->devicePixelRatio() <= 1)
         return image;
     // The toolkit counts the pixels of a file with this name double.
-    const QPixmap larger(path.chopped(4) + "@2x.png"_L1);
+    QPixmap larger(path.chopped(4) + "@2x.png"_L1);
     return larger.isNull() ? image : larger;
 }

@@ -257,7 +257,7 @@ Histogram histogram(const QImage &image)
 
 int channel(QRgb colour, int index)
 {
-    return (colour >> (8 * index)) & 0xff;
+    return int((colour >> (8 * index)) & 0xff);
 }
 
 int brightness(QRgb colour)
@@ -278,9 +278,53 @@ QRgb representative(const Histogram &box)
     }
     const auto byCount = [](const auto &a, const auto &b) { return a.second < b.second; };
     const auto &[commonest, count] = *std::max_element(box.begin(), box.end(), byCount);
-    if (2 * count > pixels)
+    if (count > pixels / 2)
         return commonest;
     return qRgb(int(sums[2] / pixels), int(sums[1] / pixels), int(sums[0] / pixels));
+}
+
+/// The colours of an image in boxes that are cut until there are enough of them.
+using Boxes = std::vector<Histogram>;
+
+/// How far the colours of \a box lie apart in the channel \a index.
+int range(const Histogram &box, int index)
+{
+    const auto byChannel = [index](const auto &a, const auto &b) {
+        return channel(a.first, index) < channel(b.first, index);
+    };
+    const auto [low, high] = std::minmax_element(box.begin(), box.end(), byChannel);
+    return channel(high->first, index) - channel(low->first, index);
+}
+
+/// Cuts the box whose colours lie farthest apart in one channel, in its middle. False when every
+/// box has a single colour.
+bool cutWidest(Boxes &boxes)
+{
+    int widest = 0, axis = 0;
+    std::size_t chosen = 0;
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        for (int c = 0; c < 3; ++c) {
+            if (range(boxes[i], c) > widest) {
+                widest = range(boxes[i], c);
+                axis = c;
+                chosen = i;
+            }
+        }
+    }
+    if (widest == 0)
+        return false;
+    Histogram &box = boxes[chosen];
+    // Those alike in this channel are cut by their brightness, so that the steps of a gradient stay
+    // in their order.
+    std::sort(box.begin(), box.end(), [axis](const auto &a, const auto &b) {
+        const int difference = channel(a.first, axis) - channel(b.first, axis);
+        return difference ? difference < 0 : brightness(a.first) < brightness(b.first);
+    });
+    const auto middle = box.begin() + std::ptrdiff_t(box.size() / 2);
+    Histogram upper(middle, box.end());
+    box.erase(middle, box.end());
+    boxes.push_back(std::move(upper));
+    return true;
 }
 
 /// The median cut: splits the colours of \a image until there are \a limit boxes, and returns the
@@ -289,39 +333,8 @@ QRgb representative(const Histogram &box)
 QImage withColours(QImage image, std::size_t limit)
 {
     image = image.convertToFormat(QImage::Format_RGB32);
-    std::vector<Histogram> boxes {histogram(image)};
-    while (boxes.size() < limit) {
-        int widest = 0, axis = 0;
-        std::size_t chosen = 0;
-        for (std::size_t i = 0; i < boxes.size(); ++i) {
-            for (int c = 0; c < 3; ++c) {
-                const auto byChannel = [c](const auto &a, const auto &b) {
-                    return channel(a.first, c) < channel(b.first, c);
-                };
-                const auto [low, high] =
-                    std::minmax_element(boxes[i].begin(), boxes[i].end(), byChannel);
-                const int range = channel(high->first, c) - channel(low->first, c);
-                if (range > widest) {
-                    widest = range;
-                    axis = c;
-                    chosen = i;
-                }
-            }
-        }
-        if (widest == 0)
-            break;
-        Histogram &box = boxes[chosen];
-        // Those alike in this channel are cut by their brightness, so that the steps of a gradient
-        // stay in their order.
-        std::sort(box.begin(), box.end(), [axis](const auto &a, const auto &b) {
-            const int difference = channel(a.first, axis) - channel(b.first, axis);
-            return difference ? difference < 0 : brightness(a.first) < brightness(b.first);
-        });
-        const auto middle = box.begin() + std::ptrdiff_t(box.size() / 2);
-        Histogram upper(middle, box.end());
-        box.erase(middle, box.end());
-        boxes.push_back(std::move(upper));
-    }
+    Boxes boxes {histogram(image)};
+    while (boxes.size() < limit && cutWidest(boxes)) { }
     std::map<QRgb, QRgb> replacement;
     for (const Histogram &box : boxes) {
         const QRgb colour = representative(box);
@@ -332,36 +345,6 @@ QImage withColours(QImage image, std::size_t limit)
         for (int x = 0; x < image.width(); ++x)
             image.setPixel(x, y, replacement.at(image.pixel(x, y)));
     return image;
-}
-
-bool write(const QImage &image, const QString &path, const char *format)
-{
-    if (image.save(path, format))
-        return true;
-    QTextStream(stderr) << "draw_images: cannot write " << path << '\n';
-    return false;
-}
-
-struct BuiltIn
-{
-    const char *name;    ///< of the file, without its extension
-    std::size_t colours; ///< at most, where it is not enlarged
-    QImage image;
-};
-
-std::vector<BuiltIn> builtIns(int scale)
-{
-    return {
-        {"logo", 893, makersLogo(scale)},
-        {"bannerLeft", 80, bannerLeft(scale, 532, 36)},
-        {"bannerRight", 301, bannerRight(scale, 217, 32)},
-        {"bandLeft", 77, band(scale, 532, 19, ink, slate, grey, mist)},
-        {"bandRight", 126, band(scale, 220, 19, slate, ink, mist, grey)},
-        {"kovLogo", 517, productLogo(scale, 134, 66, "KOV", "FOR C")},
-        {"kovppLogo", 511, productLogo(scale, 165, 65, "KOV++", "FOR C++")},
-        {"upArrow", 11, arrow(scale, true)},
-        {"downArrow", 11, arrow(scale, false)},
-    };
 }
 
 struct SideBarStep
@@ -379,36 +362,58 @@ const SideBarStep sideBar[steps] = {
     {"review", "review", "REVIEW"},
 };
 
-/// Writes \a picture under the path \a name, to which it adds the extension of the format.
-bool write(const BuiltIn &picture, int scale, const QString &name, const char *format)
+struct Picture
 {
-    if (scale > 1)
-        return write(picture.image, name + "@2x.png", "PNG");
-    return write(withColours(picture.image, picture.colours),
-                 name + '.' + QString(format).toLower(), format);
+    QString path;        ///< in the source tree; its extension tells the format
+    std::size_t colours; ///< at most, where it is not enlarged
+    QImage image;
+};
+
+std::vector<Picture> pictures(int scale)
+{
+    const QString compiledIn = "forms/images/", loaded = "images/";
+    std::vector<Picture> list {
+        {compiledIn + "logo.xpm", 893, makersLogo(scale)},
+        {compiledIn + "bannerLeft.xpm", 80, bannerLeft(scale, 532, 36)},
+        {compiledIn + "bannerRight.xpm", 301, bannerRight(scale, 217, 32)},
+        {compiledIn + "bandLeft.xpm", 77, band(scale, 532, 19, ink, slate, grey, mist)},
+        {compiledIn + "bandRight.xpm", 126, band(scale, 220, 19, slate, ink, mist, grey)},
+        {compiledIn + "kovLogo.xpm", 517, productLogo(scale, 134, 66, "KOV", "FOR C")},
+        {compiledIn + "kovppLogo.xpm", 511, productLogo(scale, 165, 65, "KOV++", "FOR C++")},
+        {compiledIn + "upArrow.xpm", 11, arrow(scale, true)},
+        {compiledIn + "downArrow.xpm", 11, arrow(scale, false)},
+    };
+    for (const SideBarStep &step : sideBar) {
+        for (const bool highlighted : {false, true}) {
+            const std::size_t colours = highlighted ? 89 : 4;
+            const QImage image = sideBarButton(scale, step.caption, highlighted);
+            list.push_back(
+                {compiledIn + step.builtIn + (highlighted ? "On.xpm" : "Off.xpm"), colours, image});
+            list.push_back(
+                {loaded + step.bitmap + (highlighted ? "_shd.bmp" : ".bmp"), colours, image});
+        }
+    }
+    return list;
+}
+
+bool write(const QImage &image, const QString &path)
+{
+    if (image.save(path))
+        return true;
+    QTextStream(stderr) << "draw_images: cannot write " << path << '\n';
+    return false;
 }
 
 bool drawAll(const QString &root)
 {
-    const QString compiledIn = root + "/forms/images/", loaded = root + "/images/";
     bool written = true;
-    for (const int scale : {1, 2}) {
-        for (const BuiltIn &picture : builtIns(scale))
-            written &= write(picture, scale, compiledIn + picture.name, "XPM");
-        for (const SideBarStep &step : sideBar) {
-            for (const bool highlighted : {false, true}) {
-                const BuiltIn picture {step.builtIn, highlighted ? 89U : 4U,
-                                       sideBarButton(scale, step.caption, highlighted)};
-                written &= write(picture, scale,
-                                 compiledIn + step.builtIn + (highlighted ? "On" : "Off"), "XPM");
-                written &= write(picture, scale, loaded + step.bitmap + (highlighted ? "_shd" : ""),
-                                 "BMP");
-            }
-        }
-    }
-    written &= write(icon(32), compiledIn + "icon.png", "PNG");
-    written &= write(icon(64), compiledIn + "icon@2x.png", "PNG");
-    QFile windows(root + "/packaging/windows/calyx.ico");
+    for (const Picture &picture : pictures(1))
+        written &= write(withColours(picture.image, picture.colours), root + picture.path);
+    for (const Picture &picture : pictures(2))
+        written &= write(picture.image, root + picture.path.chopped(4) + "@2x.png");
+    written &= write(icon(32), root + "forms/images/icon.png");
+    written &= write(icon(64), root + "forms/images/icon@2x.png");
+    QFile windows(root + "packaging/windows/calyx.ico");
     written &= windows.open(QIODevice::WriteOnly) && windows.write(windowsIcon()) > 0;
     return written;
 }
@@ -430,5 +435,5 @@ int main(int argc, char *argv[])
         QTextStream(stderr) << "draw_images: the face Liberation Sans is not installed\n";
         return 1;
     }
-    return drawAll(arguments[1]) ? 0 : 1;
+    return drawAll(arguments[1] + '/') ? 0 : 1;
 }
