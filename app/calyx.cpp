@@ -4,6 +4,7 @@
 #include "form_answers.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -26,6 +27,8 @@ Calyx::Calyx(QWidget *parent, const char *name, bool modal, Qt::WindowFlags flag
     for (WizardPage *page : {Page0, Page1, Page2, Page3})
         setNextEnabled(page, false);
     setOption(QWizard::HaveHelpButton, false);
+    // Message boxes have no window of their own to take it from.
+    QApplication::setWindowIcon(iconImage);
     // reject() tells by this text whether a personality has been generated.
     setButtonText(QWizard::CancelButton, tr("Cancel"));
     connectWidgets();

@@ -36,7 +36,8 @@ public:
     // calyx_catalogue.cpp
     /// Adds what the catalogue file holds to the catalogue.
     void loadCatalogue();
-    void saveCatalogue();
+    /// False when the file does not hold the catalogue now; says so where that might surprise.
+    bool saveCatalogue();
     void buildExeCommandMenu();
     void applyProductToMenus(const QString &code);
     /// Fills the pages from the compiler of that family and name, or sends the user to where its
@@ -137,6 +138,8 @@ private:
 
     // calyx_generation.cpp
     void moveOrderItem(int distance);
+    /// Whether the pointer over the review tells that the generator works.
+    void showBusy(bool on);
 
     Answers answers;       ///< as they were last taken from the pages; the unseen ones as they are
     QString detailsText;   ///< the review as it is kept

@@ -2,6 +2,7 @@
 
 #include "download.h"
 #include "form_answers.h"
+#include "log_browser.h"
 #include "product_language.h"
 #include "record_answers.h"
 #include "save_compiler_details.h"
@@ -19,14 +20,16 @@ void Calyx::loadCatalogue()
     catalogue.append(catalogueFile.load());
 }
 
-void Calyx::saveCatalogue()
+bool Calyx::saveCatalogue()
 {
     // What cannot be written is lost without a word; the reload shows what the file holds.
-    if (catalogueFile.save(catalogue) == CatalogueFile::Result::NotWhole) {
+    const CatalogueFile::Result result = catalogueFile.save(catalogue);
+    if (result == CatalogueFile::Result::NotWhole) {
         QMessageBox::warning(this, u"Calyx"_s,
                              tr("The compiler has not been saved: the catalogue compilers.txt "
                                 "cannot be read whole, and saving would lose what it holds."));
     }
+    return result == CatalogueFile::Result::Saved;
 }
 
 void Calyx::buildExeCommandMenu()
@@ -66,9 +69,9 @@ void Calyx::applyCatalogueCompiler(QString family, QString name)
 void Calyx::downloadIntegration(const QString &package)
 {
     QMessageBox::about(nullptr, u"Calyx"_s,
-                       u"The generator will now close and take you to the download site for the "
-                       "latest integration package to be installed.\n("_s
-                           + downloadBaseAddress + package + u')');
+                       tr("The generator will now close and take you to the download site for the "
+                          "latest integration package to be installed.")
+                           + "\n("_L1 + downloadBaseAddress + package + u')');
     platform::openWebAddress(downloadAddress(package));
     reject();
 }
@@ -112,8 +115,8 @@ void Calyx::AddCompilerBtn_clicked()
         updateRecordFromAnswers(*record);
     else
         addRecordFromAnswers(family, name);
-    saveCatalogue();
-
+    if (saveCatalogue())
+        DetailsText->append("Compiler Saved: "_L1 + name);
     catalogue = CompilerCatalogue();
     loadCatalogue();
     buildExeCommandMenu();

@@ -11,6 +11,7 @@
 #include "text_file.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -33,6 +34,13 @@ const LogFile logFiles[] = {
     {"\n ---- stdout details ----\n"_L1, generator::standardOutput},
     {"\n ---- stderr details ----\n"_L1, generator::standardError},
 };
+
+/// The log's name is that of the personality, with another extension.
+QString logName(const Answers &answers)
+{
+    const QString personality = personalityPath(answers.destination, answers.name);
+    return QFileInfo(platform::hostPath(personality)).completeBaseName() + ".log"_L1;
+}
 
 } // namespace
 
@@ -98,8 +106,8 @@ void Calyx::buildReview()
     tidy(answers);
     showAnswers(answers, *this, AnswerField::Tidied);
     updateCommandPreview();
-    DetailsText->setText(reviewText(answers, AnswerField::Shown));
-    DetailsText->append(shownOrder(CmpCmdOrder->text()));
+    DetailsText->setReview(reviewText(answers, AnswerField::Shown)
+                           + shownOrder(CmpCmdOrder->text()));
     detailsText = reviewText(answers, AnswerField::Kept);
     setFinishEnabled(Page4, true);
 }
@@ -110,11 +118,13 @@ void Calyx::accept()
     if (generatorProcess)
         generatorProcess->end();
     generatorProcess = new GeneratorRun(this);
+    showBusy(true);
     DetailsText->setText(u"Initialising Compiler Personality Generation ...\n"_s);
     connect(generatorProcess, &QProcess::readyReadStandardOutput, this, &Calyx::readFromStdout);
     connect(generatorProcess, &QProcess::finished, this, &Calyx::processExit);
     connect(generatorProcess, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart) {
+            showBusy(false);
             DetailsText->append(u"Compiler Personality Generation could not be executed: Please "
                                 "ensure Bexlor is set on the path.\n"_s);
         }
@@ -128,13 +138,23 @@ void Calyx::readFromStdout()
     DetailsText->write(generatorProcess->readText());
 }
 
+void Calyx::showBusy(bool on)
+{
+    // The text has a pointer of its own.
+    for (QWidget *widget : {static_cast<QWidget *>(Page4), DetailsText->viewport()})
+        widget->setCursor(on ? Qt::BusyCursor : Qt::ArrowCursor);
+}
+
 void Calyx::processExit()
 {
+    showBusy(false);
     if (generatorProcess->exitStatus() == QProcess::NormalExit) {
         SaveLogBtn->setEnabled(true);
         if (generatorProcess->exitCode() == 0) {
             DetailsText->append(u"Personality Generated Successfully!"_s);
             setButtonText(QWizard::CancelButton, tr("Close"));
+            if (currentPage() == Page4)
+                makeCancelDefault();
             AddCompilerBtn->setEnabled(true);
         } else {
             QMessageBox::about(nullptr, u"Calyx"_s,
@@ -173,10 +193,15 @@ void Calyx::SaveLogBtn_clicked()
                        u"Log Files (*.txt *.log)"_s);
     dialog.setObjectName(u"save log dialog"_s);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(u"log"_s);
+    dialog.selectFile(logName(currentAnswers()));
     if (dialog.exec() != QDialog::Accepted)
         return;
-    platform::FileReplacement(dialog.selectedFiles().value(0)).write([this](QIODevice &device) {
+    const QString path = platform::literalPath(dialog.selectedFiles().value(0));
+    const bool isSaved = platform::FileReplacement(path).write([this](QIODevice &device) {
         const QByteArray head = (detailsText + u'\n').toLocal8Bit();
         return device.write(head) == head.size() && DetailsText->save(device);
     });
+    if (isSaved)
+        DetailsText->append("Log Saved: "_L1 + normalisePath(path));
 }

@@ -124,8 +124,9 @@ void Calyx::next()
 
 void Calyx::reject()
 {
+    // The end of a run, which writes the settings, must not wait for an event loop that has ended.
     if (generatorProcess)
-        generatorProcess->kill();
+        generatorProcess->end();
     exitCode = buttonText(QWizard::CancelButton) == tr("Cancel") ? 1 : 0;
     CalyxBase::reject();
 }

@@ -36,5 +36,6 @@ void CompilerMenu::applyProduct(const QString &productCode)
     for (const auto &menu : m_families) {
         menu->enableAllItems();
         menu->disableOtherLanguage(productCode);
+        menu->menuAction()->setEnabled(menu->offersAny());
     }
 }

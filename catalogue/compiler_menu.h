@@ -22,7 +22,8 @@ public:
     /// Replaces the sub-menus by those of \a catalogue, all items enabled. When \a familySet is not
     /// empty, only families whose names occur in it have one.
     void build(const CompilerCatalogue &catalogue, const QString &familySet);
-    /// Enables the compilers that are for the product, and no others.
+    /// Enables the compilers that are for the product and the families that have one, and no
+    /// others.
     void applyProduct(const QString &productCode);
 
 private:

@@ -2,6 +2,8 @@
 
 #include "generator_interface.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -29,8 +31,10 @@ QString conflictWith(const QString &name, const QString &productCode)
     if (!name.endsWith(otherLanguage(productCode)))
         return QString();
     return isForC(productCode)
-             ? u"You have selected KOV for a currently selected C++ execution command.\n"
-               "Please reselect the Exe Command below."_s
-             : u"You have selected KOV++ for a currently selected C execution command.\n"
-               "Please reselect the Exe Command below."_s;
+             ? QCoreApplication::translate(
+                 "Calyx", "You have selected KOV for a currently selected C++ execution command.\n"
+                          "Please reselect the Exe Command below.")
+             : QCoreApplication::translate(
+                 "Calyx", "You have selected KOV++ for a currently selected C execution command.\n"
+                          "Please reselect the Exe Command below.");
 }

@@ -1,6 +1,7 @@
 #include "save_compiler_details.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -12,7 +13,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString caption = u"Save Compiler Details"_s;
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("Calyx", text);
+}
 
 /// Makes the last of \a list's items from \a firstItem on that equals \a text current.
 void selectLast(QComboBox *list, const QString &text, int firstItem)
@@ -76,24 +80,29 @@ void SaveCompilerDetails::fillLists()
 
 void SaveCompilerDetails::ExstSaveRadioButton_clicked()
 {
-    for (QWidget *widget : {ExstCmpFamComboBox, ExstCmpNameComboBox})
-        widget->setEnabled(true);
-    for (QWidget *widget : std::initializer_list<QWidget *> {
-             NewCmpFamComboBox, NewCmpFamEdit, NewCmpNameComboBox, NewCmpNameEdit, buttonGroup1})
-        widget->setEnabled(false);
-    NewSaveRadioButton->setChecked(false);
+    choose(ExstSaveRadioButton);
 }
 
 void SaveCompilerDetails::NewSaveRadioButton_clicked()
 {
-    NewCmpFamEdit->setText(NewCmpFamComboBox->currentText());
-    NewCmpNameEdit->setText(NewCmpNameComboBox->currentText());
+    // A second click leaves what has been typed.
+    if (!buttonGroup1->isEnabled()) {
+        NewCmpFamEdit->setText(NewCmpFamComboBox->currentText());
+        NewCmpNameEdit->setText(NewCmpNameComboBox->currentText());
+    }
+    choose(NewSaveRadioButton);
+}
+
+void SaveCompilerDetails::choose(const QRadioButton *mode)
+{
+    // They lie in different boxes, so the toolkit lets both be checked, and unchecked.
+    for (QRadioButton *button : {ExstSaveRadioButton, NewSaveRadioButton})
+        button->setChecked(button == mode);
+    for (QWidget *widget : {ExstCmpFamComboBox, ExstCmpNameComboBox})
+        widget->setEnabled(mode == ExstSaveRadioButton);
     for (QWidget *widget : std::initializer_list<QWidget *> {
              NewCmpFamComboBox, NewCmpFamEdit, NewCmpNameComboBox, NewCmpNameEdit, buttonGroup1})
-        widget->setEnabled(true);
-    for (QWidget *widget : {ExstCmpFamComboBox, ExstCmpNameComboBox})
-        widget->setEnabled(false);
-    ExstSaveRadioButton->setChecked(false);
+        widget->setEnabled(mode == NewSaveRadioButton);
 }
 
 void SaveCompilerDetails::ExstCmpFamComboBox_selected(int)
@@ -152,13 +161,14 @@ bool SaveCompilerDetails::contradictsLanguage(const QString &name) const
 
 bool SaveCompilerDetails::showProblem(const QString &text)
 {
-    QMessageBox::critical(nullptr, caption, text);
+    QMessageBox::critical(nullptr, windowTitle(), text);
     return false;
 }
 
 bool SaveCompilerDetails::isConfirmed(const QString &question)
 {
-    return QMessageBox::critical(this, caption, question, QMessageBox::Yes | QMessageBox::No)
+    return QMessageBox::critical(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No,
+                                 QMessageBox::No)
         == QMessageBox::Yes;
 }
 
@@ -175,27 +185,31 @@ void SaveCompilerDetails::accept()
 
     const QString family = NewCmpFamEdit->text();
     const QString name = NewCmpNameEdit->text();
-    // A name of the list has its language already. The list's empty entry is no name.
-    const bool isListed = !name.isEmpty() && name == NewCmpNameComboBox->currentText()
-                       && family == NewCmpFamComboBox->currentText();
-    const QString savedName = isListed ? name : withLanguage(name);
+    // A known name has its language already. The list's empty entry is no name.
+    const bool isChosen =
+        name == NewCmpNameComboBox->currentText() && family == NewCmpFamComboBox->currentText();
+    const bool isKnown =
+        !name.isEmpty() && (isChosen || findRecord(compilers, family, name) != nullptr);
+    const QString savedName = isKnown ? name : withLanguage(name);
 
     bool accepted = true;
     if (family.isEmpty() && name.isEmpty()) {
-        accepted = showProblem(u"Compiler Family and Compiler Name cannot be empty."_s);
-    } else if (isListed || findRecord(compilers, family, savedName)) {
-        accepted =
-            isConfirmed(u"Compiler Family and Compiler Name match an existing compiler, do you "
-                        "want to overwrite this?"_s);
+        accepted = showProblem(translated(
+            QT_TRANSLATE_NOOP("Calyx", "Compiler Family and Compiler Name cannot be empty.")));
+    } else if (isKnown || findRecord(compilers, family, savedName)) {
+        accepted = isConfirmed(translated(QT_TRANSLATE_NOOP(
+            "Calyx", "Compiler Family and Compiler Name match an existing compiler, do you want to "
+                     "overwrite this?")));
     } else if (BothRadioButton->isChecked() && name.isEmpty()) {
-        accepted = showProblem(u"Compiler Name cannot be empty if language: Both is selected."_s);
+        accepted = showProblem(translated(QT_TRANSLATE_NOOP(
+            "Calyx", "Compiler Name cannot be empty if language: Both is selected.")));
     }
     if (contradictsLanguage(name)) {
-        accepted &= isConfirmed(
-            u"Compiler Name provided does not match the language selected,\nor describes a "
-            u"specific "
+        accepted &= isConfirmed(translated(QT_TRANSLATE_NOOP(
+            "Calyx",
+            "Compiler Name provided does not match the language selected,\nor describes a specific "
             "language when 'Both' is selected.\n\nIt is advisabe to ensure that the compiler name "
-            "reflects the language. Are you sure you wish to continue with this name?"_s);
+            "reflects the language. Are you sure you wish to continue with this name?")));
     }
     resultFamily = family;
     resultName = savedName;

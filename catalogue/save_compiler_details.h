@@ -37,6 +37,8 @@ protected:
 
 private:
     void fillLists();
+    /// Makes the one mode or the other the chosen one, by its button.
+    void choose(const QRadioButton *mode);
     QString withLanguage(const QString &name) const;
     bool contradictsLanguage(const QString &name) const;
     bool showProblem(const QString &text);

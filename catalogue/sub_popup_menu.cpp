@@ -2,6 +2,9 @@
 
 #include "product_language.h"
 
+#include <algorithm>
+#include <functional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -31,7 +34,7 @@ void SubPopupMenu::addItem(const QString &name)
 {
     QAction *action = addAction(menuText(name));
     action->setData(name);
-    action->setEnabled(m_productCode.isEmpty() || isOffered(name, m_productCode));
+    action->setEnabled(isEnabledFor(name));
 }
 
 void SubPopupMenu::addWaitingItems()
@@ -54,6 +57,19 @@ void SubPopupMenu::disableOtherLanguage(const QString &productCode)
         if (!isOffered(action->data().toString(), productCode))
             action->setEnabled(false);
     }
+}
+
+bool SubPopupMenu::offersAny() const
+{
+    const QList<QAction *> items = actions();
+    return std::any_of(items.begin(), items.end(), std::mem_fn(&QAction::isEnabled))
+        || std::any_of(m_waitingItems.begin(), m_waitingItems.end(),
+                       [this](const QString &name) { return isEnabledFor(name); });
+}
+
+bool SubPopupMenu::isEnabledFor(const QString &name) const
+{
+    return m_productCode.isEmpty() || isOffered(name, m_productCode);
 }
 
 void SubPopupMenu::slot_activated(int id)

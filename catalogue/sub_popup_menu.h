@@ -31,6 +31,8 @@ public:
     void enableAllItems();
     /// Disables the compilers that are not for the product, see isOffered().
     void disableOtherLanguage(const QString &productCode);
+    /// Whether a compiler is enabled; not when there is none.
+    bool offersAny() const;
 
 public slots:
     /// Applies the compiler of item \a id, which is its index.
@@ -39,6 +41,7 @@ public slots:
 private:
     void addItem(const QString &name);
     void addWaitingItems();
+    bool isEnabledFor(const QString &name) const;
 
     QStringList m_waitingItems;
     QString m_productCode; ///< that items are disabled for; empty: all are enabled

@@ -1,7 +1,10 @@
 #include "calyx_base.h"
 
+#include "colours.h"
+#include "elided_widgets.h"
 #include "form_table.h"
 #include "log_browser.h"
+#include "picture.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
@@ -20,6 +23,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 #define ROW(member) FORM_WIDGET(CalyxBase, member)
+#define PREVIEW(member) FORM_WIDGET_AS(CalyxBase, member, ElidedLabel)
 
 using Place = Placement<CalyxBase>;
 
@@ -140,7 +144,7 @@ const WidgetRow<CalyxBase> page1Widgets[] = {
     {ROW(CmpOrderListBox), {{320, 170, 120, 120}}},
     {ROW(CmpDefFlagChkBox), {{214, 212, 20, 20}}},
     {ROW(ReduceFileSizeCheckBox), {{214, 295, 100, 20}}},
-    {ROW(CmpCmdOrder), {{20, 335, 330, 20}, SetUp::Italic | SetUp::LiteralText}},
+    {PREVIEW(CmpCmdOrder), {{20, 335, 330, 20}, SetUp::Italic | SetUp::LiteralText}},
     {ROW(CmpPathErrorLabel),
      {{360, 300, 160, 56}, SetUp::ErrorText | SetUp::Wrapped | SetUp::LiteralText}},
 };
@@ -164,7 +168,7 @@ const WidgetRow<CalyxBase> page2Widgets[] = {
     {ROW(CmpHdrDirEditBtn), {{365, 258, 75, 25}, SetUp::WhiteBackground}},
     {ROW(CmpHdrDirAddBtn), {{365, 228, 75, 25}, SetUp::WhiteBackground}},
     {ROW(CmpHdrDirListBox), {{20, 200, 340, 140}}},
-    {ROW(SearchCompileCmdTxt), {{20, 155, 500, 20}, SetUp::LiteralText}},
+    {PREVIEW(SearchCompileCmdTxt), {{20, 155, 500, 20}, SetUp::LiteralText}},
     {ROW(groupBox1_2_2_2), {{20, 40, 500, 90}}},
     {ROW(textLabel2_2_2_2), {{10, 5, 481, 60}, SetUp::Wrapped}, "groupBox1_2_2_2"},
     {ROW(P3_DefBtn), sideBarButton(3)},
@@ -187,7 +191,7 @@ const WidgetRow<CalyxBase> page3Widgets[] = {
     {ROW(pixmapLabel3_3_2_2_2), bandRight},
     {ROW(groupBox1_2_2), {{20, 40, 500, 55}}},
     {ROW(textLabel2_2_2), {{10, 5, 481, 45}, SetUp::Wrapped}, "groupBox1_2_2"},
-    {ROW(DefSwitchCompileCmdTxt), {{20, 100, 500, 20}, SetUp::LiteralText}},
+    {PREVIEW(DefSwitchCompileCmdTxt), {{20, 100, 500, 20}, SetUp::LiteralText}},
     {ROW(P2_DefBtn), sideBarButton(3)},
     {ROW(P2_SrchBtn), sideBarButton(2)},
     {ROW(textLabel4_3), {{20, 125, 210, 20}}},
@@ -351,8 +355,23 @@ const TextRow texts[] = {
                         "Specify all compiler defines external to the header files that could "
                         "affect/determine compilation of test files.")}},
 
+    {"DetailsText", "accessibleName", {QT_TRANSLATE_NOOP("CalyxBase", "Review")}},
     {"SaveLogBtn", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Save Log")}},
     {"AddCompilerBtn", "text", {QT_TRANSLATE_NOOP("CalyxBase", "Save Compiler")}},
+};
+
+const NameRow names[] = {
+    {"PersonDestEdit", "textLabel1"},
+    {"PersonNameEdit", "textLabel1_2"},
+    {"CmpExeEdit", "ExeCommandBtn"},
+    {"CmpExeFlagEdit", "textLabel4_2"},
+    {"CmpDefFlagEdit", "textLabel4_2_2_2"},
+    {"CmpCmpFlagEdit", "textLabel4_2_2"},
+    {"CmpObjExtFlagEdit", "textLabel4_2_2_3"},
+    {"CmpOrderListBox", "textLabel3_2"},
+    {"CmpHdrDirListBox", "textLabel3"},
+    {"CmpSwtchEdit", "textLabel4_3"},
+    {"CmpDefEdit", "textLabel4"},
 };
 
 const char *const orderItems[] = {
@@ -415,42 +434,6 @@ const char *const tabOrder[] = {
     "P4_RevBtn",
 };
 
-QPalette windowPalette()
-{
-    struct Row
-    {
-        QPalette::ColorRole role;
-        QColor active, inactive, disabled;
-    };
-    const QColor white(Qt::white), black(Qt::black), grey(106, 104, 100);
-    const QColor face(212, 208, 200), navy(10, 36, 106);
-    const Row rows[] = {
-        {QPalette::WindowText, black, black, grey},
-        {QPalette::Button, face, face, face},
-        {QPalette::Light, white, white, white},
-        {QPalette::Midlight, QColor(233, 229, 220), QColor(233, 229, 220), QColor(233, 231, 227)},
-        {QPalette::Dark, QColor(128, 128, 128), QColor(128, 128, 128), QColor(128, 128, 128)},
-        {QPalette::Mid, QColor(141, 138, 133), QColor(141, 138, 133), QColor(141, 138, 133)},
-        {QPalette::Text, black, black, grey},
-        {QPalette::BrightText, white, white, white},
-        {QPalette::ButtonText, black, black, grey},
-        {QPalette::Base, white, white, white},
-        {QPalette::Window, white, white, white},
-        {QPalette::Shadow, QColor(64, 64, 64), QColor(64, 64, 64), black},
-        {QPalette::Highlight, navy, face, navy},
-        {QPalette::HighlightedText, white, black, white},
-        {QPalette::Link, QColor(0, 0, 255), QColor(0, 0, 255), QColor(0, 0, 255)},
-        {QPalette::LinkVisited, QColor(255, 0, 255), QColor(255, 0, 255), QColor(255, 0, 255)},
-    };
-    QPalette palette;
-    for (const Row &row : rows) {
-        palette.setColor(QPalette::Active, row.role, row.active);
-        palette.setColor(QPalette::Inactive, row.role, row.inactive);
-        palette.setColor(QPalette::Disabled, row.role, row.disabled);
-    }
-    return palette;
-}
-
 // The rows of the order list are compared with and stored as what they are called in English, so
 // only what is painted is translated.
 class OrderItemDelegate : public QStyledItemDelegate
@@ -471,10 +454,10 @@ CalyxBase::CalyxBase(QWidget *parent, const char *name, bool modal, Qt::WindowFl
     : SteppedWizard(parent, flags)
 {
     for (const ImageFile &file : imageFiles)
-        this->*file.image = QPixmap(u":/images/"_s + QLatin1String(file.name));
+        this->*file.image = picture(u":/images/"_s + QLatin1String(file.name));
     setObjectName(QLatin1String(name ? name : "CalyxBase"));
     setModal(modal);
-    setPalette(windowPalette());
+    setPalette(formPalette());
     setWindowIcon(iconImage);
 
     createPages();
@@ -511,6 +494,7 @@ void CalyxBase::languageChange()
 {
     setWindowTitle(QCoreApplication::translate("CalyxBase", "Calyx " CALYX_VERSION));
     setTexts(this, "CalyxBase", texts);
+    setNames(this, names);
     CmpOrderListBox->clear();
     for (const char *item : orderItems)
         CmpOrderListBox->addItem(QLatin1String(item));

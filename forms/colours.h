@@ -1,21 +1,15 @@
 #pragma once
 
-#include <QColor>
-#include <QWidget>
+#include <QPalette>
+
+class QWidget;
 
 /// Sets the colour in which \a widget paints its text, in every state, and leaves the rest of its
 /// palette alone.
-inline void setForegroundColour(QWidget *widget, const QColor &colour)
-{
-    QPalette palette = widget->palette();
-    palette.setColor(widget->foregroundRole(), colour);
-    widget->setPalette(palette);
-}
+void setForegroundColour(QWidget *widget, const QColor &colour);
 
 /// The same for the colour on which it paints; a button's is that of its face.
-inline void setBackgroundColour(QWidget *widget, const QColor &colour)
-{
-    QPalette palette = widget->palette();
-    palette.setColor(widget->backgroundRole(), colour);
-    widget->setPalette(palette);
-}
+void setBackgroundColour(QWidget *widget, const QColor &colour);
+
+/// The colours of the forms: dark on white, whatever the desktop's are.
+QPalette formPalette();

@@ -1,10 +1,12 @@
 #include "form_table.h"
 
 #include "colours.h"
+#include "one_line_validator.h"
 
 #include <QAbstractButton>
 #include <QCoreApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 
 namespace {
@@ -43,14 +45,12 @@ void setUpLabel(QLabel *label, SetUps setUps, const QPixmap *image)
 void setUpButton(QAbstractButton *button, SetUps setUps, const QPixmap *image)
 {
     if (image) {
-        button->setIconSize(image->size());
+        button->setIconSize(image->deviceIndependentSize().toSize());
         button->setIcon(*image);
     }
     button->setChecked(setUps.testFlag(SetUp::Checked));
-    if (auto *pushButton = qobject_cast<QPushButton *>(button)) {
+    if (auto *pushButton = qobject_cast<QPushButton *>(button))
         pushButton->setFlat(setUps.testFlag(SetUp::Flat));
-        pushButton->setAutoDefault(setUps.testFlag(SetUp::AutoDefault));
-    }
 }
 
 } // namespace
@@ -69,6 +69,8 @@ void setUpWidget(QWidget *widget, const char *name, const QRect &rectangle, SetU
         setUpLabel(label, setUps, image);
     } else if (auto *button = qobject_cast<QAbstractButton *>(widget)) {
         setUpButton(button, setUps, image);
+    } else if (auto *edit = qobject_cast<QLineEdit *>(widget)) {
+        edit->setValidator(new OneLineValidator(edit));
     } else if (auto *frame = qobject_cast<QFrame *>(widget); setUps & SetUp::SeparatorLine) {
         frame->setFrameShape(QFrame::VLine);
         frame->setFrameShadow(QFrame::Sunken);
@@ -84,5 +86,15 @@ void setTexts(QWidget *form, const char *context, std::span<const TextRow> rows)
                                                                         source.translationComment)
                                           : QString();
         form->findChild<QWidget *>(QLatin1StringView(row.widget))->setProperty(row.property, text);
+    }
+}
+
+void setNames(QWidget *form, std::span<const NameRow> rows)
+{
+    for (const NameRow &row : rows) {
+        const QVariant caption =
+            form->findChild<QWidget *>(QLatin1StringView(row.captionedBy))->property("text");
+        form->findChild<QWidget *>(QLatin1StringView(row.widget))
+            ->setAccessibleName(caption.toString().simplified());
     }
 }

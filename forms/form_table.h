@@ -21,7 +21,6 @@ enum class SetUp {
     MouseTracking = 1 << 9,
     Checked = 1 << 10, ///< of a button that can be checked
     Disabled = 1 << 11,
-    AutoDefault = 1 << 12, ///< of a QPushButton in a dialog
 };
 Q_DECLARE_FLAGS(SetUps, SetUp)
 Q_DECLARE_OPERATORS_FOR_FLAGS(SetUps)
@@ -60,17 +59,27 @@ struct TextRow
     SourceText source;
 };
 
+/// Which other widget's text is the caption of a widget that has no text of its own.
+struct NameRow
+{
+    const char *widget;
+    const char *captionedBy;
+};
+
 /// Creates the widget that the member \a Member of \a form points to.
-template <auto Member, typename Form>
+template <auto Member, typename Form,
+          typename Widget =
+              std::remove_pointer_t<std::remove_cvref_t<decltype(std::declval<Form>().*Member)>>>
 QWidget *createMember(Form *form, QWidget *parent)
 {
-    using Widget = std::remove_pointer_t<std::remove_reference_t<decltype(form->*Member)>>;
     form->*Member = new Widget(parent);
     return form->*Member;
 }
 
-/// The first two fields of a WidgetRow.
+/// The first two fields of a WidgetRow; the second macro for a widget of a class derived from the
+/// member's.
 #define FORM_WIDGET(Form, member) #member, &createMember < &Form::member, Form>
+#define FORM_WIDGET_AS(Form, member, Class) #member, &createMember < &Form::member, Form, Class>
 
 void setUpWidget(QWidget *widget, const char *name, const QRect &rectangle, SetUps setUps,
                  const QPixmap *image);
@@ -90,3 +99,7 @@ void createWidgets(Form *form, QWidget *page, std::span<const WidgetRow<Form>> r
 
 /// Sets every text of \a rows, translated in \a context, on the widgets below \a form.
 void setTexts(QWidget *form, const char *context, std::span<const TextRow> rows);
+
+/// Names every widget of \a rows after its caption, in one line, for those who do not see that. To
+/// be called when the texts have been set.
+void setNames(QWidget *form, std::span<const NameRow> rows);

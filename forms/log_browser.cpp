@@ -1,5 +1,7 @@
 #include "log_browser.h"
 
+#include "space_layout.h"
+
 #include <QScrollBar>
 #include <QTemporaryFile>
 #include <QTextBlock>
@@ -79,9 +81,17 @@ void LogBrowser::setText(const QString &text)
     m_kept.reset();
     m_isKept = true;
     m_hidden = 0;
+    document()->setDocumentLayout(nullptr); // the toolkit's own, which stays quick
     clear();
     insertAtEnd(text);
     verticalScrollBar()->setValue(0);
+}
+
+void LogBrowser::setReview(const QString &text)
+{
+    setText(QString());
+    document()->setDocumentLayout(new SpaceLayout(document()));
+    setPlainText(text);
 }
 
 void LogBrowser::append(const QString &text)

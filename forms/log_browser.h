@@ -19,6 +19,8 @@ public:
 
     /// Replaces the whole text.
     void setText(const QString &text);
+    /// The same for a short text whose lines break at spaces only.
+    void setReview(const QString &text);
     /// Adds \a text as a new paragraph, or in the last one when that is still empty, so that text
     /// that ends with a line feed leaves no empty line before what is appended next.
     void append(const QString &text);

@@ -1,9 +1,10 @@
 #include "save_compiler_details_base.h"
 
 #include "colours.h"
+#include "elided_widgets.h"
 #include "form_table.h"
+#include "picture.h"
 
-#include <QComboBox>
 #include <QCoreApplication>
 #include <QGroupBox>
 #include <QLabel>
@@ -16,6 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 #define ROW(member) FORM_WIDGET(SaveCompilerDetailsBase, member)
+#define LIST(member) FORM_WIDGET_AS(SaveCompilerDetailsBase, member, ElidedComboBox)
 
 const WidgetRow<SaveCompilerDetailsBase> widgets[] = {
     {ROW(pixmapLabel3),
@@ -27,9 +29,9 @@ const WidgetRow<SaveCompilerDetailsBase> widgets[] = {
     {ROW(textLabel1_2_2), {{10, 60, 90, 20}}, "SaveNewGrpBox"},
     {ROW(textLabel1_2_2_2), {{10, 90, 90, 20}}, "SaveNewGrpBox"},
     {ROW(NewSaveRadioButton), {{10, -2, 16, 20}}, "SaveNewGrpBox"},
-    {ROW(NewCmpFamComboBox), {{110, 20, 150, 21}, SetUp::Disabled}, "SaveNewGrpBox"},
+    {LIST(NewCmpFamComboBox), {{110, 20, 150, 21}, SetUp::Disabled}, "SaveNewGrpBox"},
     {ROW(NewCmpFamEdit), {{270, 20, 220, 25}, SetUp::Disabled}, "SaveNewGrpBox"},
-    {ROW(NewCmpNameComboBox), {{110, 60, 150, 21}, SetUp::Disabled}, "SaveNewGrpBox"},
+    {LIST(NewCmpNameComboBox), {{110, 60, 150, 21}, SetUp::Disabled}, "SaveNewGrpBox"},
     {ROW(NewCmpNameEdit), {{270, 55, 220, 25}, SetUp::Disabled}, "SaveNewGrpBox"},
     {ROW(buttonGroup1), {{100, 90, 200, 20}, SetUp::Disabled}, "SaveNewGrpBox"},
     {ROW(CRadioButton), {{10, 0, 40, 20}, SetUp::Checked}, "buttonGroup1"},
@@ -38,9 +40,9 @@ const WidgetRow<SaveCompilerDetailsBase> widgets[] = {
     {ROW(SaveExstGrpBox), {{20, 160, 500, 80}}},
     {ROW(textLabel1), {{10, 20, 90, 20}}, "SaveExstGrpBox"},
     {ROW(textLabel1_2), {{10, 50, 90, 20}}, "SaveExstGrpBox"},
-    {ROW(ExstCmpNameComboBox), {{110, 50, 150, 21}}, "SaveExstGrpBox"},
+    {LIST(ExstCmpNameComboBox), {{110, 50, 150, 21}}, "SaveExstGrpBox"},
     {ROW(ExstSaveRadioButton), {{10, -2, 16, 20}, SetUp::Checked}, "SaveExstGrpBox"},
-    {ROW(ExstCmpFamComboBox), {{110, 20, 150, 21}}, "SaveExstGrpBox"},
+    {LIST(ExstCmpFamComboBox), {{110, 20, 150, 21}}, "SaveExstGrpBox"},
     {ROW(line1_2), {{526, 50, 20, 380}, SetUp::SeparatorLine}},
     {ROW(line1), {{-3, 50, 20, 380}, SetUp::SeparatorLine}},
     {ROW(pixmapLabel3_3),
@@ -94,6 +96,12 @@ const TextRow texts[] = {
          "compiler entry cannot be undone.")}},
 };
 
+const NameRow names[] = {
+    {"ExstCmpFamComboBox", "textLabel1"},     {"ExstCmpNameComboBox", "textLabel1_2"},
+    {"NewCmpFamComboBox", "textLabel1_3"},    {"NewCmpFamEdit", "textLabel1_3"},
+    {"NewCmpNameComboBox", "textLabel1_2_2"}, {"NewCmpNameEdit", "textLabel1_2_2"},
+};
+
 QString translated(const char *text)
 {
     return QCoreApplication::translate("SaveCompilerDetailsBase", text);
@@ -103,11 +111,12 @@ QString translated(const char *text)
 
 SaveCompilerDetailsBase::SaveCompilerDetailsBase(QWidget *parent, const char *name, bool,
                                                  Qt::WindowFlags flags)
-    : QDialog(parent, flags), iconImage(u":/images/icon.png"_s),
-      bannerLeftImage(u":/images/bannerLeft.xpm"_s), bandLeftImage(u":/images/bandLeft.xpm"_s)
+    : QDialog(parent, flags), iconImage(picture(u":/images/icon.png"_s)),
+      bannerLeftImage(picture(u":/images/bannerLeft.xpm"_s)),
+      bandLeftImage(picture(u":/images/bandLeft.xpm"_s))
 {
     setObjectName(QLatin1String(name ? name : "SaveCompilerDetailsBase"));
-    setBackgroundColour(this, Qt::white);
+    setPalette(formPalette());
     setWindowIcon(iconImage);
     setSizeGripEnabled(true);
     setModal(true);
@@ -122,6 +131,7 @@ void SaveCompilerDetailsBase::languageChange()
     setWindowTitle(
         translated(QT_TRANSLATE_NOOP("SaveCompilerDetailsBase", "Save Compiler Details")));
     setTexts(this, "SaveCompilerDetailsBase", texts);
+    setNames(this, names);
     // Their texts mark a letter, which is to be no shortcut.
     for (QPushButton *button : {buttonOk, buttonCancel})
         button->setShortcut(QKeySequence());

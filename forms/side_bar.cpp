@@ -2,6 +2,7 @@
 
 #include "calyx_base.h"
 #include "host_path.h"
+#include "picture.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -55,7 +56,7 @@ const Step table[SideBar::steps] = {
 
 QIcon loadImage(const QString &name)
 {
-    const QPixmap image(platform::hostPath("..\\images\\"_L1 + name + ".bmp"_L1));
+    const QPixmap image = picture(platform::hostPath("..\\images\\"_L1 + name + ".bmp"_L1));
     return image.isNull() ? QIcon() : QIcon(image);
 }
 
@@ -81,7 +82,7 @@ void SideBar::showBuiltInImages()
         for (int step = 0; step < steps; ++step) {
             const QPixmap &image =
                 m_form.*(page == step ? table[step].highlighted : table[step].plain);
-            button(page, step)->setIconSize(image.size());
+            button(page, step)->setIconSize(image.deviceIndependentSize().toSize());
             button(page, step)->setIcon(image);
         }
     }
@@ -91,10 +92,14 @@ void SideBar::setTexts()
 {
     for (int page = 0; page < steps; ++page) {
         for (int step = 0; step < steps; ++step) {
-            button(page, step)
-                ->setAccessibleName(
-                    QCoreApplication::translate("CalyxBase", table[step].accessibleName));
-            button(page, step)->setShortcut(QKeySequence());
+            QPushButton *const entry = button(page, step);
+            entry->setAccessibleName(
+                QCoreApplication::translate("CalyxBase", table[step].accessibleName));
+            if (page == step) {
+                entry->setAccessibleDescription(
+                    QCoreApplication::translate("CalyxBase", "Current step"));
+            }
+            entry->setShortcut(QKeySequence());
         }
     }
 }

@@ -22,7 +22,8 @@ public:
     /// Gives the buttons the images that are compiled into the program, that of the page's own step
     /// highlighted.
     void showBuiltInImages();
-    /// Sets the accessible names in the current language, and takes every shortcut away.
+    /// Sets the accessible names and descriptions in the current language, and takes every shortcut
+    /// away. The description tells the current step.
     void setTexts();
 
     /// Loads the images that the buttons show from now on when the mouse or the wizard comes to

@@ -1,7 +1,11 @@
 #include "stepped_wizard.h"
 
 #include <QAbstractButton>
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPointer>
 #include <QProxyStyle>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -31,16 +35,35 @@ public:
         }
     }
 
-    // A menu that is higher than the screen scrolls, instead of spreading over it in columns that
-    // a long one does not fit either.
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *returnData) const override
     {
-        return hint == SH_Menu_Scrollable
-                 ? 1
-                 : QProxyStyle::styleHint(hint, option, widget, returnData);
+        switch (hint) {
+        case SH_Menu_Scrollable:
+            // Instead of spreading over the screen in columns that a long menu does not fit either.
+            return 1;
+        case SH_Menu_AllowActiveAndDisabled:
+            // The keys pass over an item that cannot be chosen, and it is never painted as if it
+            // could be, which nobody could read.
+            return 0;
+        default:
+            return QProxyStyle::styleHint(hint, option, widget, returnData);
+        }
     }
 };
+
+/// The first widget of \a page that Tab reaches, in the order in which it does; null when there is
+/// none.
+QWidget *firstTabStop(QWidget *page)
+{
+    for (QWidget *widget = page->nextInFocusChain(); widget != page;
+         widget = widget->nextInFocusChain()) {
+        if (page->isAncestorOf(widget) && widget->focusPolicy() & Qt::TabFocus
+            && widget->isEnabled() && widget->isVisibleTo(page))
+            return widget;
+    }
+    return nullptr;
+}
 
 } // namespace
 
@@ -59,10 +82,14 @@ SteppedWizard::SteppedWizard(QWidget *parent, Qt::WindowFlags flags) : QWizard(p
     setStyle(style);
     setWizardStyle(QWizard::ClassicStyle);
 
-    // QWizard::next() is not virtual, and the button is connected to it.
-    QAbstractButton *nextButton = button(QWizard::NextButton);
-    nextButton->disconnect(SIGNAL(clicked()), this);
-    connect(nextButton, &QAbstractButton::clicked, this, &SteppedWizard::next);
+    // QWizard::next() and back() are not virtual, and the buttons are connected to them.
+    for (const auto &[which, slot] : {std::pair(QWizard::NextButton, &SteppedWizard::next),
+                                      std::pair(QWizard::BackButton, &SteppedWizard::back)}) {
+        button(which)->disconnect(SIGNAL(clicked()), this);
+        connect(button(which), &QAbstractButton::clicked, this, slot);
+    }
+    for (const WizardButton which : {NextButton, FinishButton})
+        button(which)->installEventFilter(this);
 }
 
 void SteppedWizard::showPage(const WizardPage *page)
@@ -77,10 +104,12 @@ void SteppedWizard::showPage(const WizardPage *page)
 
     // Walking there, rather than jumping, keeps the toolkit's history in the fixed order.
     setUpdatesEnabled(false);
-    while (currentId() < target)
-        QWizard::next();
-    while (currentId() > target)
-        back();
+    keepFocus([this, target] {
+        while (currentId() < target)
+            QWizard::next();
+        while (currentId() > target)
+            QWizard::back();
+    });
     setUpdatesEnabled(true);
 }
 
@@ -91,10 +120,44 @@ void SteppedWizard::setNextEnabled(WizardPage *page, bool on)
 
 void SteppedWizard::setFinishEnabled(WizardPage *page, bool on)
 {
-    page->setComplete(on);
+    keepFocus([page, on] { page->setComplete(on); });
+}
+
+void SteppedWizard::makeCancelDefault()
+{
+    qobject_cast<QPushButton *>(button(QWizard::CancelButton))->setDefault(true);
 }
 
 void SteppedWizard::next()
 {
-    QWizard::next();
+    keepFocus([this] { QWizard::next(); });
+}
+
+void SteppedWizard::back()
+{
+    keepFocus([this] { QWizard::back(); });
+}
+
+void SteppedWizard::keepFocus(const std::function<void()> &change)
+{
+    const QPointer<QWidget> holder = focusWidget();
+    change();
+    if (!currentPage())
+        return;
+    const bool stays = holder && holder->isEnabled() && holder->isVisibleTo(this);
+    if (QWidget *widget = stays ? holder.data() : firstTabStop(currentPage()))
+        widget->setFocus();
+}
+
+bool SteppedWizard::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == button(QWizard::NextButton) && event->type() == QEvent::MouseButtonRelease)
+        m_nextReleased = static_cast<QMouseEvent *>(event)->timestamp();
+    const bool isPress =
+        event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+    if (watched == button(QWizard::FinishButton) && isPress && m_nextReleased) {
+        const quint64 passed = static_cast<QMouseEvent *>(event)->timestamp() - *m_nextReleased;
+        return passed < quint64(QApplication::doubleClickInterval());
+    }
+    return QWizard::eventFilter(watched, event);
 }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QWizard>
+#include <functional>
+#include <optional>
 
 /// A wizard page that is complete when it has been told so.
 class WizardPage : public QWizardPage
@@ -19,6 +21,9 @@ private:
 
 /// A wizard in classic style whose pages keep one fixed order, in which any page can be shown at
 /// any time, and whose Next and Finish are enabled page by page from outside.
+///
+/// A widget that has the focus keeps it for as long as it can be seen and used. Otherwise, as after
+/// most changes of the page, the focus goes to the first widget of the page that Tab reaches.
 class SteppedWizard : public QWizard
 {
     Q_OBJECT
@@ -35,7 +40,22 @@ public:
     /// Whether Finish is enabled while \a page, the last one, is shown.
     void setFinishEnabled(WizardPage *page, bool on);
 
+    /// Makes the Cancel button the one that Enter presses, while the current page is shown.
+    void makeCancelDefault();
+
 public slots:
     /// Reached by the Next button: shows the page that follows the current one.
     virtual void next();
+
+protected:
+    /// Keeps a click on Finish from the button when it comes so soon after one on Next, which lies
+    /// in the same place, that it must have been meant for that.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void back();
+    /// Does \a change, and gives the focus to another widget if its holder has gone.
+    void keepFocus(const std::function<void()> &change);
+
+    std::optional<quint64> m_nextReleased; ///< when the mouse let go of Next, in milliseconds
 };

@@ -43,6 +43,7 @@ QStringList shown(const QListWidget *list)
 void show(QLineEdit *edit, const QString &text)
 {
     edit->setText(text);
+    edit->home(false); // a long text shows its beginning
 }
 
 void show(QTextEdit *edit, const QString &text)

@@ -8,6 +8,9 @@
 // steps, in ink and greys with a single green. A side-bar picture is drawn once and written both
 // as XPM and as bitmap, so that a button looks the same whichever of the two it shows.
 //
+// Every picture is drawn a second time, twice as large, for screens with more pixels. That one lies
+// beside the first as NAME@2x.png, in all its colours.
+//
 // The captions are set in Liberation Sans; the pictures are committed, so that a build needs
 // neither that face nor this program.
 
@@ -39,9 +42,12 @@ const QColor green(0x3f, 0x8f, 0x6b);
 
 const int steps = 5;
 
-QImage blank(int width, int height, const QColor &background = Qt::white)
+/// An empty picture, \a width and \a height in pixels of the forms, with \a scale pixels of its own
+/// for each of them in both directions. What is painted on it counts as the forms do.
+QImage blank(int scale, int width, int height, const QColor &background = Qt::white)
 {
-    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+    QImage image(width * scale, height * scale, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
     image.fill(background);
     return image;
 }
@@ -86,15 +92,23 @@ void drawSepals(QPainter &painter, const QPointF &foot, qreal length,
 /// A horizontal bar with a colour that runs from \a left to \a right.
 void drawBar(QPainter &painter, const QRectF &bar, const QColor &left, const QColor &right)
 {
-    QLinearGradient gradient(bar.topLeft(), bar.topRight());
-    gradient.setColorAt(0, left);
-    gradient.setColorAt(1, right);
-    painter.fillRect(bar, gradient);
+    // Column by column, since the toolkit's gradient goes back by a step now and then.
+    const qreal column = 1 / painter.device()->devicePixelRatioF();
+    for (qreal x = 0; x < bar.width(); x += column) {
+        const qreal share = x / (bar.width() - column);
+        const auto between = [share](int from, int to) {
+            return qRound(from + share * (to - from));
+        };
+        painter.fillRect(QRectF(bar.x() + x, bar.y(), column, bar.height()),
+                         QColor(between(left.red(), right.red()),
+                                between(left.green(), right.green()),
+                                between(left.blue(), right.blue())));
+    }
 }
 
 QImage icon(int size)
 {
-    QImage image = blank(size, size, Qt::transparent);
+    QImage image = blank(1, size, size, Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(size / 32.0, size / 32.0);
@@ -127,9 +141,9 @@ QByteArray windowsIcon()
 }
 
 /// The banner: an ink bar with a thin grey one under it. \a height is that of the whole picture.
-QImage bannerLeft(int width, int height)
+QImage bannerLeft(int scale, int width, int height)
 {
-    QImage image = blank(width, height);
+    QImage image = blank(scale, width, height);
     QPainter painter(&image);
     drawBar(painter, QRectF(0, 0, width, 25), ink, slate);
     drawBar(painter, QRectF(0, 28, width, height - 28), grey, mist);
@@ -140,9 +154,9 @@ QImage bannerLeft(int width, int height)
     return image;
 }
 
-QImage bannerRight(int width, int height)
+QImage bannerRight(int scale, int width, int height)
 {
-    QImage image = blank(width, height);
+    QImage image = blank(scale, width, height);
     QPainter painter(&image);
     drawBar(painter, QRectF(0, 0, width, 25), slate, ink);
     drawBar(painter, QRectF(0, 28, width, height - 28), mist, grey);
@@ -155,19 +169,19 @@ QImage bannerRight(int width, int height)
 }
 
 /// The band along the bottom mirrors the banner: grey above, ink below.
-QImage band(int width, int height, const QColor &left, const QColor &right, const QColor &greyLeft,
-            const QColor &greyRight)
+QImage band(int scale, int width, int height, const QColor &left, const QColor &right,
+            const QColor &greyLeft, const QColor &greyRight)
 {
-    QImage image = blank(width, height);
+    QImage image = blank(scale, width, height);
     QPainter painter(&image);
     drawBar(painter, QRectF(0, 0, width, 5), greyLeft, greyRight);
     drawBar(painter, QRectF(0, 8, width, height - 8), left, right);
     return image;
 }
 
-QImage makersLogo()
+QImage makersLogo(int scale)
 {
-    QImage image = blank(169, 54);
+    QImage image = blank(scale, 169, 54);
     QPainter painter(&image);
     drawSepals(painter, QPointF(28, 44), 33, {mist, grey, green});
     painter.setFont(capitals(19, 4));
@@ -183,9 +197,9 @@ QImage makersLogo()
     return image;
 }
 
-QImage productLogo(int width, int height, const QString &name, const QString &language)
+QImage productLogo(int scale, int width, int height, const QString &name, const QString &language)
 {
-    QImage image = blank(width, height);
+    QImage image = blank(scale, width, height);
     QPainter painter(&image);
     painter.setFont(capitals(29, 2));
     QLinearGradient text(0, 10, 0, 42);
@@ -201,9 +215,9 @@ QImage productLogo(int width, int height, const QString &name, const QString &la
     return image;
 }
 
-QImage arrow(bool up)
+QImage arrow(int scale, bool up)
 {
-    QImage image = blank(18, 18);
+    QImage image = blank(scale, 18, 18);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
@@ -212,16 +226,16 @@ QImage arrow(bool up)
     return up ? image : image.mirrored(false, true);
 }
 
-QImage sideBarButton(const QString &caption, bool highlighted)
+QImage sideBarButton(int scale, const QString &caption, bool highlighted)
 {
-    QImage image = blank(175, 23, ground);
+    QImage image = blank(scale, 175, 23, ground);
     QPainter painter(&image);
     if (highlighted) {
         drawBar(painter, QRectF(0, 0, 175, 23), ink, slate);
         painter.fillRect(0, 0, 5, 23, green);
     } else {
         painter.setPen(grey);
-        painter.drawRect(0, 0, 174, 22);
+        painter.drawRect(QRectF(0.5, 0.5, 174, 22));
         painter.fillRect(0, 0, 5, 23, grey);
     }
     painter.setPen(highlighted ? QColor(Qt::white) : ink);
@@ -243,7 +257,12 @@ Histogram histogram(const QImage &image)
 
 int channel(QRgb colour, int index)
 {
-    return (colour >> (8 * index)) & 0xff;
+    return int((colour >> (8 * index)) & 0xff);
+}
+
+int brightness(QRgb colour)
+{
+    return channel(colour, 0) + channel(colour, 1) + channel(colour, 2);
 }
 
 /// The colour that stands for all of \a box: the one that most of its pixels have, so that a ground
@@ -259,9 +278,53 @@ QRgb representative(const Histogram &box)
     }
     const auto byCount = [](const auto &a, const auto &b) { return a.second < b.second; };
     const auto &[commonest, count] = *std::max_element(box.begin(), box.end(), byCount);
-    if (2 * count > pixels)
+    if (count > pixels / 2)
         return commonest;
     return qRgb(int(sums[2] / pixels), int(sums[1] / pixels), int(sums[0] / pixels));
+}
+
+/// The colours of an image in boxes that are cut until there are enough of them.
+using Boxes = std::vector<Histogram>;
+
+/// How far the colours of \a box lie apart in the channel \a index.
+int range(const Histogram &box, int index)
+{
+    const auto byChannel = [index](const auto &a, const auto &b) {
+        return channel(a.first, index) < channel(b.first, index);
+    };
+    const auto [low, high] = std::minmax_element(box.begin(), box.end(), byChannel);
+    return channel(high->first, index) - channel(low->first, index);
+}
+
+/// Cuts the box whose colours lie farthest apart in one channel, in its middle. False when every
+/// box has a single colour.
+bool cutWidest(Boxes &boxes)
+{
+    int widest = 0, axis = 0;
+    std::size_t chosen = 0;
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        for (int c = 0; c < 3; ++c) {
+            if (range(boxes[i], c) > widest) {
+                widest = range(boxes[i], c);
+                axis = c;
+                chosen = i;
+            }
+        }
+    }
+    if (widest == 0)
+        return false;
+    Histogram &box = boxes[chosen];
+    // Those alike in this channel are cut by their brightness, so that the steps of a gradient stay
+    // in their order.
+    std::sort(box.begin(), box.end(), [axis](const auto &a, const auto &b) {
+        const int difference = channel(a.first, axis) - channel(b.first, axis);
+        return difference ? difference < 0 : brightness(a.first) < brightness(b.first);
+    });
+    const auto middle = box.begin() + std::ptrdiff_t(box.size() / 2);
+    Histogram upper(middle, box.end());
+    box.erase(middle, box.end());
+    boxes.push_back(std::move(upper));
+    return true;
 }
 
 /// The median cut: splits the colours of \a image until there are \a limit boxes, and returns the
@@ -270,36 +333,8 @@ QRgb representative(const Histogram &box)
 QImage withColours(QImage image, std::size_t limit)
 {
     image = image.convertToFormat(QImage::Format_RGB32);
-    std::vector<Histogram> boxes {histogram(image)};
-    while (boxes.size() < limit) {
-        int widest = 0, axis = 0;
-        std::size_t chosen = 0;
-        for (std::size_t i = 0; i < boxes.size(); ++i) {
-            for (int c = 0; c < 3; ++c) {
-                const auto byChannel = [c](const auto &a, const auto &b) {
-                    return channel(a.first, c) < channel(b.first, c);
-                };
-                const auto [low, high] =
-                    std::minmax_element(boxes[i].begin(), boxes[i].end(), byChannel);
-                const int range = channel(high->first, c) - channel(low->first, c);
-                if (range > widest) {
-                    widest = range;
-                    axis = c;
-                    chosen = i;
-                }
-            }
-        }
-        if (widest == 0)
-            break;
-        Histogram &box = boxes[chosen];
-        std::sort(box.begin(), box.end(), [axis](const auto &a, const auto &b) {
-            return channel(a.first, axis) < channel(b.first, axis);
-        });
-        const auto middle = box.begin() + std::ptrdiff_t(box.size() / 2);
-        Histogram upper(middle, box.end());
-        box.erase(middle, box.end());
-        boxes.push_back(std::move(upper));
-    }
+    Boxes boxes {histogram(image)};
+    while (boxes.size() < limit && cutWidest(boxes)) { }
     std::map<QRgb, QRgb> replacement;
     for (const Histogram &box : boxes) {
         const QRgb colour = representative(box);
@@ -311,21 +346,6 @@ QImage withColours(QImage image, std::size_t limit)
             image.setPixel(x, y, replacement.at(image.pixel(x, y)));
     return image;
 }
-
-bool write(const QImage &image, const QString &path, const char *format)
-{
-    if (image.save(path, format))
-        return true;
-    QTextStream(stderr) << "draw_images: cannot write " << path << '\n';
-    return false;
-}
-
-struct BuiltIn
-{
-    const char *name;    ///< of the file, without its extension
-    std::size_t colours; ///< at most
-    QImage image;
-};
 
 struct SideBarStep
 {
@@ -342,38 +362,58 @@ const SideBarStep sideBar[steps] = {
     {"review", "review", "REVIEW"},
 };
 
-bool drawAll(const QString &root)
+struct Picture
 {
-    const QString compiledIn = root + "/forms/images/";
-    bool written = true;
-    const BuiltIn pictures[] = {
-        {"logo", 893, makersLogo()},
-        {"bannerLeft", 80, bannerLeft(532, 36)},
-        {"bannerRight", 301, bannerRight(217, 32)},
-        {"bandLeft", 77, band(532, 19, ink, slate, grey, mist)},
-        {"bandRight", 126, band(220, 19, slate, ink, mist, grey)},
-        {"kovLogo", 517, productLogo(134, 66, "KOV", "FOR C")},
-        {"kovppLogo", 511, productLogo(165, 65, "KOV++", "FOR C++")},
-        {"upArrow", 11, arrow(true)},
-        {"downArrow", 11, arrow(false)},
+    QString path;        ///< in the source tree; its extension tells the format
+    std::size_t colours; ///< at most, where it is not enlarged
+    QImage image;
+};
+
+std::vector<Picture> pictures(int scale)
+{
+    const QString compiledIn = "forms/images/", loaded = "images/";
+    std::vector<Picture> list {
+        {compiledIn + "logo.xpm", 893, makersLogo(scale)},
+        {compiledIn + "bannerLeft.xpm", 80, bannerLeft(scale, 532, 36)},
+        {compiledIn + "bannerRight.xpm", 301, bannerRight(scale, 217, 32)},
+        {compiledIn + "bandLeft.xpm", 77, band(scale, 532, 19, ink, slate, grey, mist)},
+        {compiledIn + "bandRight.xpm", 126, band(scale, 220, 19, slate, ink, mist, grey)},
+        {compiledIn + "kovLogo.xpm", 517, productLogo(scale, 134, 66, "KOV", "FOR C")},
+        {compiledIn + "kovppLogo.xpm", 511, productLogo(scale, 165, 65, "KOV++", "FOR C++")},
+        {compiledIn + "upArrow.xpm", 11, arrow(scale, true)},
+        {compiledIn + "downArrow.xpm", 11, arrow(scale, false)},
     };
-    for (const BuiltIn &picture : pictures) {
-        written &= write(withColours(picture.image, picture.colours),
-                         compiledIn + picture.name + ".xpm", "XPM");
-    }
     for (const SideBarStep &step : sideBar) {
         for (const bool highlighted : {false, true}) {
-            const QImage image =
-                withColours(sideBarButton(step.caption, highlighted), highlighted ? 89 : 4);
-            written &= write(
-                image, compiledIn + step.builtIn + (highlighted ? "On" : "Off") + ".xpm", "XPM");
-            written &=
-                write(image, root + "/images/" + step.bitmap + (highlighted ? "_shd" : "") + ".bmp",
-                      "BMP");
+            const std::size_t colours = highlighted ? 89 : 4;
+            const QImage image = sideBarButton(scale, step.caption, highlighted);
+            list.push_back(
+                {compiledIn + step.builtIn + (highlighted ? "On.xpm" : "Off.xpm"), colours, image});
+            list.push_back(
+                {loaded + step.bitmap + (highlighted ? "_shd.bmp" : ".bmp"), colours, image});
         }
     }
-    written &= write(icon(32), compiledIn + "icon.png", "PNG");
-    QFile windows(root + "/packaging/windows/calyx.ico");
+    return list;
+}
+
+bool write(const QImage &image, const QString &path)
+{
+    if (image.save(path))
+        return true;
+    QTextStream(stderr) << "draw_images: cannot write " << path << '\n';
+    return false;
+}
+
+bool drawAll(const QString &root)
+{
+    bool written = true;
+    for (const Picture &picture : pictures(1))
+        written &= write(withColours(picture.image, picture.colours), root + picture.path);
+    for (const Picture &picture : pictures(2))
+        written &= write(picture.image, root + picture.path.chopped(4) + "@2x.png");
+    written &= write(icon(32), root + "forms/images/icon.png");
+    written &= write(icon(64), root + "forms/images/icon@2x.png");
+    QFile windows(root + "packaging/windows/calyx.ico");
     written &= windows.open(QIODevice::WriteOnly) && windows.write(windowsIcon()) > 0;
     return written;
 }
@@ -395,5 +435,5 @@ int main(int argc, char *argv[])
         QTextStream(stderr) << "draw_images: the face Liberation Sans is not installed\n";
         return 1;
     }
-    return drawAll(arguments[1]) ? 0 : 1;
+    return drawAll(arguments[1] + '/') ? 0 : 1;
 }

@@ -11,6 +11,44 @@
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
+    <message>
+        <source>The generator will now close and take you to the download site for the latest integration package to be installed.</source>
+        <translation>Der Generator wird jetzt geschlossen und führt Sie zur Download-Seite, von der Sie das neueste Integrationspaket installieren.</translation>
+    </message>
+    <message>
+        <source>You have selected KOV for a currently selected C++ execution command.
+Please reselect the Exe Command below.</source>
+        <translation>Sie haben KOV gewählt, der gewählte Exe-Befehl ist aber einer für C++.
+Bitte wählen Sie unten den Exe-Befehl neu.</translation>
+    </message>
+    <message>
+        <source>You have selected KOV++ for a currently selected C execution command.
+Please reselect the Exe Command below.</source>
+        <translation>Sie haben KOV++ gewählt, der gewählte Exe-Befehl ist aber einer für C.
+Bitte wählen Sie unten den Exe-Befehl neu.</translation>
+    </message>
+    <message>
+        <source>Compiler Family and Compiler Name cannot be empty.</source>
+        <translation>Compilerfamilie und Compilername dürfen nicht leer sein.</translation>
+    </message>
+    <message>
+        <source>Compiler Family and Compiler Name match an existing compiler, do you want to overwrite this?</source>
+        <translation>Compilerfamilie und Compilername sind die eines bestehenden Compilers. Möchten Sie ihn überschreiben?</translation>
+    </message>
+    <message>
+        <source>Compiler Name cannot be empty if language: Both is selected.</source>
+        <translation>Der Compilername darf nicht leer sein, wenn bei der Sprache „Beide“ gewählt ist.</translation>
+    </message>
+    <message>
+        <source>Compiler Name provided does not match the language selected,
+or describes a specific language when &apos;Both&apos; is selected.
+
+It is advisabe to ensure that the compiler name reflects the language. Are you sure you wish to continue with this name?</source>
+        <translation>Der Compilername passt nicht zur gewählten Sprache
+oder nennt eine bestimmte Sprache, obwohl „Beide“ gewählt ist.
+
+Der Name sollte die Sprache wiedergeben. Möchten Sie diesen Namen wirklich verwenden?</translation>
+    </message>
 </context>
 <context>
     <name>CalyxBase</name>
@@ -235,6 +273,10 @@
     <message>
         <source>&lt;src file&gt;</source>
         <translation>&lt;src file&gt;</translation>
+    </message>
+    <message>
+        <source>Current step</source>
+        <translation>Aktueller Schritt</translation>
     </message>
 </context>
 <context>

@@ -4,7 +4,7 @@ namespace platform {
 
 QString hostPath(const QString &path)
 {
-    return QString(path).replace(u'\\', u'/');
+    return literalPath(QString(path).replace(u'\\', u'/'));
 }
 
 QString hostPath(const QString &directory, const QString &name)

@@ -4,12 +4,12 @@ namespace platform {
 
 QString hostPath(const QString &path)
 {
-    return path;
+    return literalPath(path);
 }
 
 QString hostPath(const QString &directory, const QString &name)
 {
-    return directory + u'\\' + name;
+    return literalPath(directory + u'\\' + name);
 }
 
 } // namespace platform

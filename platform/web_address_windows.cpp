@@ -8,7 +8,9 @@ namespace platform {
 
 void openWebAddress(const QString &address)
 {
-    QProcess::startDetached(u"cmd"_s, {u"/c"_s, u"start"_s, address});
+    // An ampersand would end the command.
+    const QString escaped = QString(address).replace(u'&', "^&"_L1);
+    QProcess::startDetached(u"cmd"_s, {u"/c"_s, u"start"_s, escaped});
 }
 
 } // namespace platform

@@ -1,5 +1,6 @@
 #include "compiler_catalogue.h"
 #include "files.h"
+#include "log_browser.h"
 #include "row.h"
 #include "save_compiler_details.h"
 #include "wizard_test.h"
@@ -51,6 +52,7 @@ void choose(const WizardUser &user, int item)
         families->setActiveAction(families->actions().at(0));
         QTest::keyClick(families, Qt::Key_Right);
         QMenu *names = families->actions().at(0)->menu();
+        QVERIFY(names->activeAction()->isEnabled());
         names->setActiveAction(names->actions().at(item));
         QTest::keyClick(names, Qt::Key_Return);
     });
@@ -105,6 +107,9 @@ private slots:
         QCOMPARE(messageOf([&] { user.click(user->KOVRadioButton); }),
                  "You have selected KOV for a currently selected C++ execution command.\nPlease "
                  "reselect the Exe Command below.");
+        const Language german("de");
+        user->applyCatalogueCompiler("Family", "b - C++");
+        QVERIFY(messageOf([&] { user.click(user->KOVRadioButton); }).startsWith("Sie haben KOV "));
     }
 
     void leavesForADownload()
@@ -141,7 +146,8 @@ private slots:
                        [&use](QWidget *widget) {
                            auto *dialog = qobject_cast<SaveCompilerDetails *>(widget);
                            use(*dialog);
-                           dialog->buttonOk->click();
+                           if (dialog->isVisible())
+                               dialog->buttonOk->click();
                        });
             return parseCatalogue(readTestFile(folder.path("bin/compilers.txt")));
         };
@@ -166,6 +172,8 @@ private slots:
         const QAction *item = user->ExeCommandBtn->menu()->actions().at(1)->menu()->actions().at(0);
         QCOMPARE(item->text(), "dd - C++");
         QVERIFY(!item->isEnabled());
+        QVERIFY(user->DetailsText->toPlainText().endsWith(
+            "\nCompiler Saved: a - C\nCompiler Saved: dd - C++"));
 
         const CompilerCatalogue before = saved;
         saved = save([](SaveCompilerDetails &dialog) {
@@ -175,7 +183,7 @@ private slots:
         QCOMPARE(saved, before);
 
         folder.write("bin/compilers.txt", QByteArray("\xff\xfe<\0C\0", 6));
-        QVERIFY(messageOf([&] { user->saveCatalogue(); }).contains("cannot be read whole"));
+        QVERIFY(messageOf([&] { QVERIFY(!user->saveCatalogue()); }).contains("cannot be read whole"));
         QCOMPARE(readTestFile(folder.path("bin/compilers.txt")).size(), 6);
     }
 };

@@ -60,6 +60,107 @@ private slots:
         QCOMPARE(user.finishIsEnabled() && !user->DetailsText->toPlainText().isEmpty(), isReviewed);
     }
 
+    void putsTheFocusOnTheNewPage_data()
+    {
+        QTest::addColumn<QByteArray>("settings");
+        QTest::addColumn<Way>("change");
+        QTest::addColumn<QString>("focused"); // object name; the wizard's own buttons by their text
+        const QByteArray answered = "Compiler:\ncc\n";
+        const QByteArray locked = "Product:*\nkov\n\nPersonality Destination Directory:*\n..\\out"
+                                  "\n\nPersonality Name:*\nmine\n";
+        const auto answer = [](const WizardUser &user) {
+            user.type(user->PersonDestEdit, "..\\out");
+            user.type(user->PersonNameEdit, "mine");
+        };
+        const Way nothing = [](const WizardUser &) {};
+        const Way enter = [answer](const WizardUser &user) {
+            answer(user);
+            QTest::keyClick(user->PersonNameEdit, Qt::Key_Return);
+        };
+        const Way next = [answer](const WizardUser &user) {
+            answer(user);
+            user.press(QWizard::NextButton);
+        };
+        const Way back = [next](const WizardUser &user) {
+            next(user);
+            user.press(QWizard::BackButton);
+        };
+        const Way sideBar = [answer](const WizardUser &user) {
+            answer(user);
+            user.click(user->P0_DefBtn);
+        };
+        const Way enterOnSideBar = [answer](const WizardUser &user) {
+            answer(user);
+            user->P0_SrchBtn->setFocus();
+            QTest::keyClick(user->P0_SrchBtn, Qt::Key_Return);
+        };
+        const Way last = [](const WizardUser &user) {
+            user->showPage(user->Page3);
+            user.press(QWizard::NextButton);
+        };
+        const Way finish = [](const WizardUser &user) {
+            user->showPage(user->Page3);
+            user.press(QWizard::NextButton);
+            user->button(QWizard::FinishButton)->setFocus();
+            user.finish();
+        };
+        row("Enter", QByteArray(), enter, "ExeCommandBtn");
+        row("Enter, the next page answered", answered, enter, "ExeCommandBtn");
+        row("Next", QByteArray(), next, "ExeCommandBtn");
+        row("Next, the next page answered", answered, next, "&Next >");
+        row("Back", answered, back, "KOVRadioButton");
+        row("side bar", answered, sideBar, "CmpSwtchEdit");
+        row("Enter in the side bar", answered, enterOnSideBar, "CmpHdrDirListBox");
+        row("Next to the last page", answered, last, "DetailsText");
+        row("Finish", answered, finish, "DetailsText");
+        row("start", QByteArray(), nothing, "KOVRadioButton");
+        row("start with a locked product", locked.left(16), nothing, "PersonDestEdit");
+        row("start on the second page", locked, nothing, "ExeCommandBtn");
+    }
+    void putsTheFocusOnTheNewPage()
+    {
+        QFETCH(QByteArray, settings);
+        QFETCH(Way, change);
+        QFETCH(QString, focused);
+        const ProgramFolder folder;
+        folder.write("bin/settings.txt", settings);
+        const WizardUser user;
+        change(user);
+        const QWidget *holder = user->focusWidget();
+        QVERIFY(holder->isVisible() && holder->isEnabled());
+        const auto *ownButton = qobject_cast<const QPushButton *>(holder);
+        QCOMPARE(user->currentPage()->isAncestorOf(holder) ? holder->objectName()
+                                                           : ownButton->text(),
+                 focused);
+    }
+
+    void heedsNoDoubleClick_data()
+    {
+        QTest::addColumn<int>("pause"); // between the clicks, in milliseconds
+        QTest::addColumn<bool>("starts");
+        row("double click", QApplication::doubleClickInterval() - 1, false);
+        row("two clicks", QApplication::doubleClickInterval(), true);
+    }
+    void heedsNoDoubleClick()
+    {
+        QFETCH(int, pause);
+        const ProgramFolder folder;
+        const WizardUser user;
+        user.answerFirstPages();
+        user->showPage(user->Page3);
+        const auto click = [&user](QWizard::WizardButton which, quint64 time) {
+            for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+                QMouseEvent event(type, {1, 1}, {1, 1}, Qt::LeftButton, Qt::LeftButton, {});
+                event.setTimestamp(time);
+                QApplication::sendEvent(user->button(which), &event);
+            }
+        };
+        click(QWizard::NextButton, 1'000);
+        QCOMPARE(user->currentPage(), user->Page4);
+        click(QWizard::FinishButton, 1'000 + quint64(pause));
+        QTEST(!user.finishIsEnabled(), "starts");
+    }
+
     void leavesByEveryWay_data()
     {
         QTest::addColumn<Way>("leave");
@@ -69,12 +170,16 @@ private slots:
             QTest::keyClick(user.wizard(), Qt::Key_Escape);
         };
         const Way close = [](const WizardUser &user) { user->close(); };
+        const Way enter = [](const WizardUser &user) {
+            QTest::keyClick(user->focusWidget(), Qt::Key_Return);
+        };
         row("button", press, "Cancel");
         row("escape", escape, "Cancel");
         row("close box", close, "Cancel");
         row("German", close, "Abbrechen");
         row("button after success", press, "Close");
         row("escape after success", escape, "Close");
+        row("enter after success", enter, "Close");
         row("German after success", close, QString::fromUtf8("Schlie\303\237en"));
     }
     void leavesByEveryWay()
@@ -94,6 +199,7 @@ private slots:
         QCOMPARE(rejected.count(), 1);
         QVERIFY(!user->isVisible());
         QCOMPARE(user->exitCode, succeeds ? 0 : 1);
+        QCOMPARE(QFile::exists("settings.txt"), succeeds);
     }
 
     void highlightsTheButtonUnderThePointer()

@@ -46,6 +46,7 @@ private slots:
         row("missing", "..\\oat", "mine", false, false);
         row("not trimmed", "..\\out ", "mine", false, false);
         row("empty", "", "mine", false, false);
+        row("called like a picture in the program", ":\\images\\icon.png", "mine", false, false);
     }
     void checksTheDestination()
     {

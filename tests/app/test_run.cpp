@@ -131,6 +131,7 @@ private slots:
         QCOMPARE(details(user), initial + shown);
         const bool isSuccess = shown.endsWith(success);
         QCOMPARE(user->SaveLogBtn->isEnabled(), canSaveLog);
+        QCOMPARE(user->DetailsText->viewport()->cursor().shape(), Qt::ArrowCursor);
         QCOMPARE(user->AddCompilerBtn->isEnabled(), isSuccess);
         QCOMPARE(user->buttonText(QWizard::CancelButton), isSuccess ? "Close" : "Cancel");
         QVERIFY(!user.finishIsEnabled());
@@ -161,6 +162,7 @@ private slots:
         user.walkToReview();
         user.press(QWizard::FinishButton);
         QTRY_VERIFY_WITH_TIMEOUT(!folder.read("bin/beat").isEmpty(), patience);
+        QCOMPARE(user->DetailsText->viewport()->cursor().shape(), Qt::BusyCursor);
         end(user);
         QTRY_VERIFY_WITH_TIMEOUT(folder.hasStopped("bin/beat"), patience);
     }
@@ -189,13 +191,19 @@ private slots:
         ProgramFolder::instruct(QString::fromUtf8("print Größe").toLocal8Bit());
         user.walkToReview();
         user.finish();
-        for (const QString &path : {QString(), folder.path("out/run.log")})
+        const QString output = initial + QString::fromUtf8("Größe\n") + success;
+        for (const QString &path : {QString(), folder.path("out/run")})
             QCOMPARE(withFileDialog([&] { user.click(user->SaveLogBtn); }, path),
                      folder.path("out"));
         const QString log = folder.read("out/run.log");
         QVERIFY(log.startsWith("Product:\nkov\n\n"));
-        QVERIFY(log.endsWith("\nObject Flag\n<src file>\n\n\n" + initial
-                             + QString::fromUtf8("Größe\n") + success));
+        QVERIFY(log.endsWith("\nObject Flag\n<src file>\n\n\n" + output));
+        QCOMPARE(details(user),
+                 output + "\nLog Saved: " + folder.path("out/run.log").replace('/', '\\'));
+
+        withDialog([&] { user.click(user->SaveLogBtn); },
+                   [](QWidget *dialog) { qobject_cast<QDialog *>(dialog)->accept(); });
+        QVERIFY(folder.read("out/mine.log").contains("Log Saved: "));
     }
 };
 

@@ -1,3 +1,4 @@
+#include "log_browser.h"
 #include "row.h"
 #include "wizard_test.h"
 
@@ -46,6 +47,7 @@ private slots:
         QTest::addColumn<QByteArray>("instructions");
         row("success", QByteArray("exit 0"));
         row("crash", QByteArray("crash"));
+        row("left while it goes on", QByteArray("print started\nhang"));
     }
     void areWrittenAfterEveryRun()
     {
@@ -56,7 +58,14 @@ private slots:
         const WizardUser user;
         user.walkToReview();
         QVERIFY(folder.read("bin/settings.txt").startsWith("Compiler Family Set:*"));
-        user.finish();
+        if (instructions.endsWith("hang")) {
+            user.press(QWizard::FinishButton);
+            QTRY_VERIFY_WITH_TIMEOUT(user->DetailsText->toPlainText().contains("started"),
+                                     patience);
+            user->close();
+        } else {
+            user.finish();
+        }
         QVERIFY(folder.read("bin/settings.txt").startsWith("Product:\nkov\n"));
         QVERIFY(!folder.read("bin/settings.txt").contains('*'));
     }

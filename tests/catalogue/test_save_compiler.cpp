@@ -63,6 +63,20 @@ QStringList items(const QComboBox *list)
     return texts;
 }
 
+/// Closes \a box with the answer that stands before the text in \a expected. Returns what it says
+/// if that is not what is expected, or Enter would not answer No.
+QString answer(QMessageBox *box, const QString &expected)
+{
+    const bool isYes = expected.startsWith("Yes");
+    const bool isQuestion = box->standardButtons().testFlag(QMessageBox::No);
+    const QString said = (isYes ? "Yes" : isQuestion ? "No" : "") + box->text();
+    const bool isExpected = !expected.isEmpty() && said.startsWith(expected)
+                         && box->windowTitle() == "Save Compiler Details"
+                         && (!isQuestion || box->defaultButton() == box->button(QMessageBox::No));
+    box->button(isYes ? QMessageBox::Yes : isQuestion ? QMessageBox::No : QMessageBox::Ok)->click();
+    return isExpected ? QString() : said;
+}
+
 } // namespace
 
 class TestSaveCompiler : public QObject
@@ -97,6 +111,17 @@ private slots:
             "another entry",
             [](SaveCompilerDetails &dialog) { choose(dialog.ExstCmpFamComboBox, "Alpha"); }, {},
             "Alpha/a - C");
+        row(
+            "the mode chosen again",
+            [](SaveCompilerDetails &dialog) { dialog.ExstSaveRadioButton->click(); }, {},
+            "Beta/C++");
+        row(
+            "new, the mode chosen again",
+            [newC = newEntry("Fam", "cc", c)](SaveCompilerDetails &dialog) {
+                newC(dialog);
+                dialog.NewSaveRadioButton->click();
+            },
+            {}, "Fam/cc - C");
         row("new C", newEntry("Fam", "cc", c), {}, "Fam/cc - C");
         row("new C++", newEntry("Beta", "cc", cpp), {}, "Beta/cc - C++");
         row("new, both languages", newEntry("Fam", "cc", both), {}, "Fam/cc");
@@ -111,6 +136,8 @@ private slots:
         row("typed, exists with its suffix", newEntry("Beta", "b", c), {"Yes" + overwrite},
             "Beta/b - C");
         row("typed, exists, declined", newEntry("Beta", "", cpp), {"No" + overwrite}, "");
+        row("typed as it exists", newEntry("Alpha", "a - C", cpp), {"Yes" + overwrite},
+            "Alpha/a - C");
         row(
             "from the list, confirmed",
             [](SaveCompilerDetails &dialog) {
@@ -142,25 +169,14 @@ private slots:
         dialog.show();
         use(dialog);
         QTimer answerer;
-        QStringList unexpected;
+        QString unexpected;
         connect(&answerer, &QTimer::timeout, [&] {
-            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            if (!box)
-                return;
-            const QString message = messages.isEmpty() ? QString() : messages.takeFirst();
-            const bool isYes = message.startsWith("Yes");
-            if (!box->text().startsWith(QString(message).remove(QRegularExpression("^(Yes|No)")))
-                || message.isEmpty() || box->windowTitle() != "Save Compiler Details")
-                unexpected << box->text();
-            const bool isQuestion = isYes || message.startsWith("No");
-            box->button(isYes        ? QMessageBox::Yes
-                        : isQuestion ? QMessageBox::No
-                                     : QMessageBox::Ok)
-                ->click();
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget()))
+                unexpected += answer(box, messages.isEmpty() ? QString() : messages.takeFirst());
         });
         answerer.start(10);
         dialog.buttonOk->click();
-        QCOMPARE(unexpected, QStringList());
+        QCOMPARE(unexpected, QString());
         QCOMPARE(messages, QStringList());
         QCOMPARE(dialog.isVisible(), result.isEmpty());
         if (result.isEmpty()) {
@@ -190,6 +206,9 @@ private slots:
         QCOMPARE(dialog.NewCmpNameEdit->text(), "");
         dialog.ExstSaveRadioButton->click();
         QVERIFY(!dialog.NewSaveRadioButton->isChecked() && !dialog.CRadioButton->isEnabled());
+        dialog.buttonCancel->setFocus();
+        QTest::keyClick(dialog.buttonCancel, Qt::Key_Return);
+        QVERIFY(!dialog.isVisible() && dialog.resultName.isEmpty());
     }
 };
 

@@ -3,6 +3,8 @@
 
 #include <QScrollBar>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextLayout>
 
 class TestLogBrowser : public QObject
 {
@@ -29,6 +31,35 @@ private slots:
         browser.setText(first);
         browser.append(second);
         QTEST(browser.toPlainText(), "shown");
+    }
+
+    void breaksAReviewAtSpacesOnly()
+    {
+        LogBrowser browser;
+        browser.resize(200, 100);
+        const QString text = "arm-none-eabi-gcc -mcpu=cortex-m4 --specs=nosys.specs -DA=1 -c\n\n"
+                             "-I/a/path/that/is/longer/than/the/whole/line-of-200-pixels/is -x";
+        browser.setReview(text);
+        browser.show();
+        QCOMPARE(browser.toPlainText(), text);
+        int lines = 0;
+        for (QTextBlock block = browser.document()->begin(); block.isValid();
+             block = block.next()) {
+            const QTextLayout *layout = block.layout();
+            for (int line = 0; line < layout->lineCount(); ++line, ++lines) {
+                const int end =
+                    layout->lineAt(line).textStart() + layout->lineAt(line).textLength();
+                QVERIFY(end == block.text().size() || block.text()[end - 1] == ' ');
+            }
+        }
+        QVERIFY2(lines >= 6, qPrintable(QString::number(lines)));
+        QVERIFY(browser.horizontalScrollBar()->maximum() > 0);
+        QVERIFY(browser.verticalScrollBar()->maximum() > 0);
+        QCOMPARE(browser.verticalScrollBar()->value(), 0);
+
+        const int secondLine = 4 + browser.fontMetrics().lineSpacing() * 3 / 2;
+        const int position = browser.cursorForPosition({4, secondLine}).position();
+        QVERIFY(position > 0 && text[position - 1] == ' ');
     }
 
     void keepsThePlaceOfAReader()

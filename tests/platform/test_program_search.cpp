@@ -52,8 +52,11 @@ private slots:
         row("path with backslashes", "tools\\sub folder\\cc", "tools/sub folder/cc");
         row("a path gets no suffix", ".\\here", "");
         row("a path to a folder", "tools\\folder", "tools/folder");
-        if (QDir::separator() == '/')
+        if (QDir::separator() == '/') {
             row("absolute path with slashes", m_folder.filePath("tools/plain"), "tools/plain");
+            writeTestFile(m_folder.filePath("./:x/cc"));
+            row("path that begins with a colon", ":x\\cc", "./:x/cc");
+        }
         row("missing absolute path", m_folder.filePath("plain"), "");
     }
     void findsCommands()

@@ -185,6 +185,7 @@ QString messageOf(const std::function<void()> &action)
     withDialog(action, [&text](QWidget *widget) {
         auto *box = qobject_cast<QMessageBox *>(widget);
         text = box->text();
+        QVERIFY(!box->windowIcon().isNull());
         box->done(QMessageBox::Ok);
     });
     return text;

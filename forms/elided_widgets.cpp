@@ -1,0 +1,58 @@
+#include "elided_widgets.h"
+
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QStyleOptionComboBox>
+#include <QToolTip>
+
+using namespace Qt::StringLiterals;
+
+bool ElidedLabel::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip || shownText() == text())
+        return QLabel::event(event);
+    // In lines of up to a hundred characters, broken at spaces, so that the longest fits the
+    // screen.
+    static const QRegularExpression line(u"(.{1,100})(\\s|$)"_s);
+    const QString lines = text().replace(line, u"\\1\n"_s).toHtmlEscaped();
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
+                       u"<p style='white-space: pre'>"_s + lines + u"</p>"_s, this);
+    return true;
+}
+
+void ElidedLabel::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    style()->drawItemText(&painter, rect(), int(alignment()), palette(), isEnabled(), shownText(),
+                          foregroundRole());
+}
+
+QString ElidedLabel::shownText() const
+{
+    return fontMetrics().elidedText(text(), Qt::ElideRight, width());
+}
+
+ElidedComboBox::ElidedComboBox(QWidget *parent) : QComboBox(parent)
+{
+    view()->setTextElideMode(Qt::ElideRight);
+}
+
+void ElidedComboBox::showPopup()
+{
+    const int scrollBar = view()->verticalScrollBar()->sizeHint().width();
+    view()->setMinimumWidth(view()->sizeHintForColumn(0) + scrollBar);
+    QComboBox::showPopup();
+}
+
+void ElidedComboBox::initStyleOption(QStyleOptionComboBox *option) const
+{
+    QComboBox::initStyleOption(option);
+    const QRect field =
+        style()->subControlRect(QStyle::CC_ComboBox, option, QStyle::SC_ComboBoxEditField, this);
+    // The style leaves a pixel free at either side.
+    option->currentText =
+        fontMetrics().elidedText(option->currentText, Qt::ElideRight, field.width() - 2);
+}
