@@ -7,6 +7,7 @@
 #include "calyx.h"
 #include "compiler_catalogue.h"
 #include "form_font.h"
+#include "report.h"
 #include "text_file.h"
 
 #include <QApplication>
@@ -18,7 +19,6 @@
 #include <QTextStream>
 #include <QWindow>
 #include <algorithm>
-#include <cstdio>
 
 namespace {
 
@@ -110,12 +110,11 @@ int main(int argc, char *argv[])
         return median([] { const Calyx wizard; });
     };
     const double menu = construct(large.path()) - construct(empty.path());
-    std::printf("file read line by line      %7.1f ms\n", lines);
-    std::printf("catalogue read, menu built  %7.1f ms   ratio %.2f\n", menu, menu / lines);
+    printHeading();
+    printRow("catalogue read, menu built", menu, "ms", menu / lines, "its file read line by line");
 
     const double bare = timeToWindow(empty.path());
     const double full = timeToWindow(large.path());
-    std::printf("window, empty catalogue     %7.1f ms\n", bare);
-    std::printf("window, large catalogue     %7.1f ms   ratio %.2f\n", full, full / bare);
+    printRow("window, large catalogue", full, "ms", full / bare, "window, empty catalogue");
     return 0;
 }

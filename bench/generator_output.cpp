@@ -9,6 +9,7 @@
 #include "calyx.h"
 #include "form_font.h"
 #include "log_browser.h"
+#include "report.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -135,9 +136,8 @@ int main(int argc, char *argv[])
     qputenv("PATH", folder.path().toLocal8Bit());
     qputenv("MEGABYTES", argc > 1 ? argv[1] : "50");
     QDir::setCurrent(folder.path());
-    std::printf("%-18s %8s %7s %11s %7s %7s\n", "output", "seconds", "ratio", "longest gap",
-                "ratio", "MB");
-    double seconds = 0, gap = 0; // of the first
+    printHeading();
+    double seconds = 0, gap = 0, memory = 0; // of the first
     for (int i = 0; i < int(std::size(outputs)); ++i) {
         qputenv("OUTPUT", QByteArray::number(i));
         QProcess process;
@@ -145,15 +145,18 @@ int main(int argc, char *argv[])
         process.start(QApplication::applicationFilePath(), QStringList());
         process.waitForFinished(-1);
         const QList<QByteArray> figures = process.readAllStandardOutput().simplified().split(' ');
+        const double taken = figures.value(0).toDouble();
+        const double longest = figures.value(1).toDouble();
+        const double peak = figures.value(2).toDouble();
         if (i == 0) {
-            seconds = figures.value(0).toDouble();
-            gap = figures.value(1).toDouble();
+            seconds = taken;
+            gap = longest;
+            memory = peak;
         }
-        std::printf("%-18s %8.1f %7.2f %8.0f ms %7.2f %7d\n", outputs[i].name,
-                    figures.value(0).toDouble(), figures.value(0).toDouble() / seconds,
-                    1000 * figures.value(1).toDouble(), figures.value(1).toDouble() / gap,
-                    figures.value(2).toInt());
-        std::fflush(stdout);
+        const QByteArray name = outputs[i].name;
+        printRow(name, taken, "s", taken / seconds, outputs[0].name);
+        printRow(name + ", longest gap", 1000 * longest, "ms", longest / gap, outputs[0].name);
+        printRow(name + ", memory", peak, "MB", peak / memory, outputs[0].name);
     }
     return 0;
 }

@@ -5,13 +5,13 @@
 // Usage: bench_header_pass [DIRECTORY]
 
 #include "header_scan.h"
+#include "report.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <algorithm>
-#include <cstdio>
 
 namespace {
 
@@ -54,9 +54,9 @@ int main(int argc, char *argv[])
     const double ctags =
         timeOf(2, "ctags",
                {"-f", "-", "-R", "--languages=C,C++", "--kinds-C=d", "--kinds-C++=d", directory});
-    std::printf("header pass  %6.3f s   %lld files, %lld names\n", pass,
-                static_cast<long long>(scan.files), static_cast<long long>(scan.names.size()));
-    std::printf("ripgrep      %6.3f s   ratio %.2f\n", ripgrep, pass / ripgrep);
-    std::printf("ctags        %6.3f s   ratio %.2f\n", ctags, pass / ctags);
+    printHeading();
+    const QByteArray what = "names in " + QByteArray::number(scan.files) + " files";
+    printRow(what, pass, "s", pass / ripgrep, "ripgrep, preprocessor lines");
+    printRow(what, pass, "s", pass / ctags, "ctags, macros");
     return 0;
 }

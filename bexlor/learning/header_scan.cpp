@@ -297,6 +297,7 @@ std::vector<PartialScan> scanInParallel(const std::vector<WalkedFile> &files)
     std::vector<PartialScan> scans(std::max(1u, std::thread::hardware_concurrency()));
     std::atomic<std::size_t> next = 0;
     std::vector<std::jthread> threads;
+    threads.reserve(scans.size());
     for (PartialScan &scan : scans)
         threads.emplace_back([&files, &next, &scan] { scanFiles(files, next, scan); });
     threads.clear(); // waits for them
