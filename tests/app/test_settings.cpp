@@ -122,6 +122,7 @@ private slots:
         QVERIFY(!user->CrossCmpCheckBox->isChecked() && user->ReduceFileSizeCheckBox->isChecked());
         QVERIFY(!user->CmpExeFlagChkBox->isChecked() && user->CmpDefFlagChkBox->isChecked());
         QCOMPARE(rows(user->CmpOrderListBox), QStringList({"<src file>", "unknown"}));
+        QCOMPARE(user->CmpCmdOrder->text(), "<src file> unknown ");
         QCOMPARE(user->CmpDefEdit->toPlainText(), "A\n");
         QCOMPARE(rows(user->CmpHdrDirListBox), QStringList({"Compiler:", "last"}));
         QCOMPARE(user->CmpExeEdit->text() + user->PersonNameEdit->text(), "");

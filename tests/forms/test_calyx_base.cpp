@@ -143,6 +143,32 @@ private slots:
         }
     }
 
+    void laysNoControlOverAnother()
+    {
+        const Forms forms;
+        QStringList problems;
+        int controls = 0;
+        for (const QWidget *control : forms.all<QWidget>()) {
+            const QWidget *parent = control->parentWidget();
+            const QString name = control->objectName();
+            if (control->focusPolicy() == Qt::NoFocus || name.isEmpty() || name.startsWith("qt_")
+                || control->isWindow())
+                continue;
+            ++controls;
+            // Two stand on the frames of their groups.
+            if (!parent->rect().adjusted(0, -2, 0, 0).contains(control->geometry()))
+                problems << name + " leaves " + parent->objectName();
+            for (const QWidget *other :
+                 parent->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+                if (other > control && other->focusPolicy() != Qt::NoFocus
+                    && other->geometry().intersects(control->geometry()))
+                    problems << name + " meets " + other->objectName();
+            }
+        }
+        QVERIFY2(problems.isEmpty(), qPrintable(problems.join('\n')));
+        QVERIFY2(controls >= 60, qPrintable(QString::number(controls)));
+    }
+
     void hasRoomForEveryText_data()
     {
         QTest::addColumn<QString>("language");
@@ -272,6 +298,7 @@ private slots:
         QApplication::sendEvent(preview, &event);
         QVERIFY(QToolTip::text().contains(text.toHtmlEscaped().replace(' ', '\n')));
         list->showPopup();
+        QVERIFY(list->view()->isVisible());
         QVERIFY(list->view()->viewport()->width() >= list->view()->sizeHintForColumn(0));
     }
 
