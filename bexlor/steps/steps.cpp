@@ -107,7 +107,8 @@ DialectAnswers askForListings(const Compiler &compiler, const ProbeAnswer &first
     DialectAnswers known;
     known.versionLine = versionLineIn(first.run.output + '\n' + first.run.errors);
     const QString source = probeName(compiler.isCpp);
-    if (qEnvironmentVariableIsSet(learnOnly) || !platform::writeScratchFile(folder + u'/' + source, "\n"))
+    if (qEnvironmentVariableIsSet(learnOnly)
+        || !platform::writeScratchFile(folder + u'/' + source, "\n"))
         return known;
     QStringList command = compiler.command;
     for (const QString &define : compiler.defines)

@@ -183,7 +183,8 @@ private slots:
         QCOMPARE(saved, before);
 
         folder.write("bin/compilers.txt", QByteArray("\xff\xfe<\0C\0", 6));
-        QVERIFY(messageOf([&] { QVERIFY(!user->saveCatalogue()); }).contains("cannot be read whole"));
+        QVERIFY(
+            messageOf([&] { QVERIFY(!user->saveCatalogue()); }).contains("cannot be read whole"));
         QCOMPARE(readTestFile(folder.path("bin/compilers.txt")).size(), 6);
     }
 };

@@ -37,7 +37,7 @@ private slots:
     {
         LogBrowser browser;
         browser.resize(200, 100);
-        const QString text = "arm-none-eabi-gcc -mcpu=cortex-m4 --specs=nosys.specs -DA=1 -c\n\n"
+        const QString text = "arm-none-eabi-gcc -mcpu=cortex-m4 -mfloat-abi=hard -DA=1 -c\n\n"
                              "-I/a/path/that/is/longer/than/the/whole/line-of-200-pixels/is -x";
         browser.setReview(text);
         browser.show();
