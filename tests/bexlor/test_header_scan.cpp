@@ -43,6 +43,8 @@ private slots:
         row("conditionals",
             "#ifdef A1\n # if defined(Bb) \\\n || C\n#elif D /* E */ // F\n#endif\n",
             {"A1:T", "Bb:T", "C:T", "D:T", "defined:T"});
+        row("a conditional at the very start", "#if Mixed \\\r\n && Lines\n",
+            {"Lines:T", "Mixed:T"});
         row("uses", "__far int *x1; Upper camelCase __at(1) y;\n", {"__at:UC", "__far:U", "int:U"});
         row("a definition's body", "#define NAME(a) __attribute__((a))\n#define __OTHER 1\n",
             {"__attribute__:UC"});

@@ -202,20 +202,20 @@ private slots:
         const auto write = [this](const QString &path, const QByteArray &content) {
             writeTestFile(m_folder.filePath(path), content);
         };
-        write("path/late/common.h", "#define FROM_LATE 1\n");
-        write("path/late/only_late.h", "int broken(;\n");
-        write("path/early/common.h", "#define FROM_EARLY 1\n");
-        write("path/late/below/not_searched.h", "\n");
+        write("path/behind/common.h", "#define FROM_BEHIND 1\n");
+        write("path/behind/only_behind.h", "int broken(;\n");
+        write("path/first/common.h", "#define FROM_FIRST 1\n");
+        write("path/behind/below/not_searched.h", "\n");
         write("path/other/common.h", "#define FROM_OTHER 1\n");
         write("path/hollow/bits/deep.h", "\n");
-        for (const char *searched : {"path/early", "path/late", "path/hollow"})
+        for (const char *searched : {"path/first", "path/behind", "path/hollow"})
             command << "-I" + at(searched);
         const Subject subject(command);
         const QStringList found =
             learnSearchPath(subject.questions, scanHeaders({m_folder.filePath("path")}).headers);
         QCOMPARE(found.size(), 3);
         QVERIFY(found.contains(at("path/hollow")));
-        QVERIFY(found.indexOf(at("path/early")) < found.indexOf(at("path/late")));
+        QVERIFY(found.indexOf(at("path/first")) < found.indexOf(at("path/behind")));
     }
 };
 

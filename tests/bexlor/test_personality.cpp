@@ -70,6 +70,7 @@ private slots:
         const Personality full = fullPersonality();
         QVERIFY(full.keywordDefinitions.size() == 3 && full.includedFirst.size() == 3);
         QCOMPARE(full.searchPath.size(), 6);
+        QCOMPARE(full.includedFirst.first(), Option({"-include", "/first \"one\".h"}));
         Personality bare;
         Personality little = full;
         little.facts.types.byteOrder = ByteOrder::LittleEndian;
