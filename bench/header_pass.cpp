@@ -48,7 +48,8 @@ int main(int argc, char *argv[])
     QCoreApplication application(argc, argv);
     const QString directory = argc > 1 ? QString::fromLocal8Bit(argv[1]) : "/usr/include";
     HeaderScan scan;
-    const double pass = fastest(7, [&] { scan = scanHeaders({directory}); });
+    ScanProgress progress;
+    const double pass = fastest(7, [&] { scan = scanHeaders({directory}, progress); });
     const double ripgrep =
         timeOf(7, "rg", {"--no-heading", "--no-ignore", "--hidden", "--text", "^\\s*#", directory});
     const double ctags =

@@ -1,9 +1,9 @@
 // The generator: asks a compiler about itself and writes its personality.
 //
-// Progress goes to the standard output, one line for each step. The command attempted, and what it
-// wrote, are left in the working directory as compile.bat, stdout.log and stderr.log. The exit
-// status is 0 when the personality has been written, 1 when a step failed, 2 for a command line
-// that usage() does not allow.
+// Progress goes to the standard output, one line for each step, which grows while the step goes on.
+// The command attempted, and what it wrote, are left in the working directory as compile.bat,
+// stdout.log and stderr.log. The exit status is 0 when the personality has been written, 1 when a
+// step failed, 2 for a command line that usage() does not allow.
 
 #include "process_tree.h"
 #include "steps.h"
@@ -16,42 +16,49 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Prints \a text at once.
+void print(const QString &text)
+{
+    std::fputs(text.toLocal8Bit().constData(), stdout);
+    std::fflush(stdout);
+}
+
 /// Asks \a compiler for all facts. Nothing when a step fails.
-std::optional<Facts> learn(const Compiler &compiler, const Arguments &arguments,
+std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const Arguments &arguments,
                            const QString &folder)
 {
     const ProbeRunner runner(compiler, folder, arguments.reduceFileSize);
-    const std::optional<ProbeAnswer> first = compileFirstProbe(runner);
+    const std::optional<ProbeAnswer> first = compileFirstProbe(progress, runner);
     if (!first)
         return {};
-    const DialectAnswers listed = askForListings(compiler, *first, folder);
-    const HeaderScan scan = readDirectories(arguments.headerDirectories);
-    const Questions questions(runner);
+    const DialectAnswers listed = askForListings(progress, compiler, *first, folder);
+    const HeaderScan scan = readDirectories(progress, arguments.headerDirectories);
+    const Questions questions = findHowToAsk(progress, runner);
     const std::optional<MacroFacts> macros =
-        findMacros(runner, questions, listed.macros, scan.names);
+        findMacros(progress, questions, listed.macros, scan.names);
     if (!macros)
         return {};
 
     Facts facts;
     facts.versionLine = listed.versionLine;
     facts.macros = *macros;
-    facts.types = measureTypes(questions);
-    facts.keywords = findKeywords(questions, scan, facts);
-    facts.searchPath = findSearchPath(questions, listed.searchPath, scan);
-    if (!worksStill(runner))
+    facts.types = measureTypes(progress, questions);
+    facts.keywords = findKeywords(progress, questions, scan, facts);
+    facts.searchPath = findSearchPath(progress, questions, listed.searchPath, scan);
+    if (!worksStill(progress, runner))
         return {};
-    say(u"The compiler was started %1 times."_s.arg(runner.compilersStarted()));
+    progress.say(u"The compiler was started %1 times."_s.arg(runner.compilersStarted()));
     return facts;
 }
 
-bool generate(const Arguments &arguments, const QString &folder)
+bool generate(Progress &progress, const Arguments &arguments, const QString &folder)
 {
     removeLogs();
-    if (!checkFiles(arguments))
+    if (!checkFiles(progress, arguments))
         return false;
     const Compiler compiler = findCompiler(arguments);
-    const std::optional<Facts> facts = learn(compiler, arguments, folder);
-    return facts && writePersonality(arguments, compiler, *facts);
+    const std::optional<Facts> facts = learn(progress, compiler, arguments, folder);
+    return facts && writePersonality(progress, arguments, compiler, *facts);
 }
 
 } // namespace
@@ -64,11 +71,13 @@ int main(int argc, char *argv[])
         std::fprintf(stderr, "%s\n", usage().toLocal8Bit().constData());
         return 2;
     }
+    Progress progress(&print);
     QTemporaryDir workshop;
     if (!workshop.isValid()) {
-        say(u"No temporary folder can be made: %1"_s.arg(workshop.errorString()));
+        progress.say(u"No temporary folder can be made: %1"_s.arg(workshop.errorString()));
         return 1;
     }
     const platform::ProgramGuard guard(workshop.path());
-    return generate(*arguments, workshop.path()) ? 0 : 1;
+    const ProgressClock clock(progress);
+    return generate(progress, *arguments, workshop.path()) ? 0 : 1;
 }

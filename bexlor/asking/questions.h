@@ -13,6 +13,7 @@ public:
 
     /// Whether constants can be read back at all.
     bool readsConstants() const { return m_source != ConstantSource::None; }
+    const ProbeRunner &runner() const { return m_runner; }
     bool isCpp() const { return m_runner.compiler().isCpp; }
     ProbeLimits limits() const { return m_runner.limits(); }
 

@@ -22,6 +22,8 @@ fs::path withoutLinks(const fs::path &directory)
 class Walker
 {
 public:
+    explicit Walker(std::atomic<qint64> &count) : m_count(count) { }
+
     DirectoryWalk found;
 
     /// \a directory must not have a link in its path.
@@ -41,6 +43,7 @@ public:
                 const bool isRead =
                     !entry->is_symlink(ignored) || isNew(fs::canonical(entry->path(), ignored));
                 found.files.push_back({entry->path(), isRead});
+                ++m_count;
             }
         }
         if (error)
@@ -55,14 +58,15 @@ public:
 private:
     bool isNew(const fs::path &path) { return m_visited.insert(path.native()).second; }
 
+    std::atomic<qint64> &m_count;
     std::unordered_set<fs::path::string_type> m_visited;
 };
 
 } // namespace
 
-DirectoryWalk walkDirectories(const QStringList &directories)
+DirectoryWalk walkDirectories(const QStringList &directories, std::atomic<qint64> &found)
 {
-    Walker walker;
+    Walker walker(found);
     for (const QString &directory : directories) {
         const QDir given(directory);
         if (!given.exists())

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <atomic>
 #include <filesystem>
 #include <vector>
 
@@ -19,9 +20,9 @@ struct DirectoryWalk
     QStringList remarks;
 };
 
-/// Finds all files before any of them is read. Links are followed once, to files and to
-/// directories; what is neither is not opened.
-DirectoryWalk walkDirectories(const QStringList &directories);
+/// Finds all files before any of them is read, counting them in \a found. Links are followed once,
+/// to files and to directories; what is neither is not opened.
+DirectoryWalk walkDirectories(const QStringList &directories, std::atomic<qint64> &found);
 
 /// \a path with slashes, also where its bytes are no text.
 QString slashed(const std::filesystem::path &path);

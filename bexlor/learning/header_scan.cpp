@@ -3,7 +3,6 @@
 #include "directory_walk.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cstring>
 #include <fstream>
 #include <string>
@@ -266,12 +265,12 @@ struct PartialScan
     std::vector<std::size_t> unreadable;
 };
 
-/// Reads files, the one that is \a next each time, until none is left.
+/// Reads files, the one that is \a next each time, until none is left; counts them in \a read.
 void scanFiles(const std::vector<WalkedFile> &files, std::atomic<std::size_t> &next,
-               PartialScan &scan)
+               std::atomic<qint64> &read, PartialScan &scan)
 {
     std::string content;
-    for (std::size_t index; (index = next++) < files.size();) {
+    for (std::size_t index; (index = next++) < files.size(); ++read) {
         if (!files[index].isRead) {
             scan.texts.push_back(index);
             continue;
@@ -292,14 +291,15 @@ void scanFiles(const std::vector<WalkedFile> &files, std::atomic<std::size_t> &n
 }
 
 /// All files, read by as many threads as there are processors.
-std::vector<PartialScan> scanInParallel(const std::vector<WalkedFile> &files)
+std::vector<PartialScan> scanInParallel(const std::vector<WalkedFile> &files,
+                                        std::atomic<qint64> &read)
 {
     std::vector<PartialScan> scans(std::max(1u, std::thread::hardware_concurrency()));
     std::atomic<std::size_t> next = 0;
     std::vector<std::jthread> threads;
     threads.reserve(scans.size());
     for (PartialScan &scan : scans)
-        threads.emplace_back([&files, &next, &scan] { scanFiles(files, next, scan); });
+        threads.emplace_back([&files, &next, &read, &scan] { scanFiles(files, next, read, scan); });
     threads.clear(); // waits for them
     return scans;
 }
@@ -317,16 +317,16 @@ QList<ScannedName> sortedNames(const NameTable &table)
 
 } // namespace
 
-HeaderScan scanHeaders(const QStringList &directories)
+HeaderScan scanHeaders(const QStringList &directories, ScanProgress &progress)
 {
-    const DirectoryWalk walk = walkDirectories(directories);
+    const DirectoryWalk walk = walkDirectories(directories, progress.found);
     HeaderScan result;
     result.files = qint64(walk.files.size());
     result.remarks = walk.remarks;
 
     NameTable names;
     std::vector<std::size_t> texts;
-    for (PartialScan &scan : scanInParallel(walk.files)) {
+    for (PartialScan &scan : scanInParallel(walk.files, progress.read)) {
         names.merge(scan.names);
         for (const auto &[name, uses] : scan.names) // those that had been there before
             addUses(names, name, uses);

@@ -4,6 +4,7 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <atomic>
 
 /// How a name occurs below the compiler's directories.
 enum NameUse : unsigned char {
@@ -35,6 +36,14 @@ struct HeaderScan
     qint64 files = 0;
 };
 
-/// Reads every regular file below \a directories once. Of the names used in headers only those are
-/// kept that may be keywords: with a leading underscore, or of lower-case letters and not long.
-HeaderScan scanHeaders(const QStringList &directories);
+/// How far a scan is, for other threads to look at.
+struct ScanProgress
+{
+    std::atomic<qint64> found = 0; ///< files; all are found before the first is read
+    std::atomic<qint64> read = 0;
+};
+
+/// Reads every regular file below \a directories once, counting them in \a progress. Of the names
+/// used in headers only those are kept that may be keywords: with a leading underscore, or of
+/// lower-case letters and not long.
+HeaderScan scanHeaders(const QStringList &directories, ScanProgress &progress);

@@ -5,7 +5,6 @@
 #include "text_file.h"
 
 #include <QFileInfo>
-#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -67,13 +66,39 @@ bool isTooWide(const QString &directory)
     return given.isRoot() || given.absoluteFilePath() == "/usr"_L1;
 }
 
-} // namespace
-
-void say(const QString &line)
+/// "1 file", "2 files": \a count with the one of both that fits it.
+QString counted(qint64 count, QLatin1StringView one, QLatin1StringView several)
 {
-    std::fprintf(stdout, "%s\n", line.toLocal8Bit().constData());
-    std::fflush(stdout);
+    return u"%1 %2"_s.arg(QString::number(count), count == 1 ? one : several);
 }
+
+/// What a step that is one compilation says of how far it is.
+QString nothing()
+{
+    return QString();
+}
+
+/// Tells how often the compiler has been started since now.
+Progress::State probesOf(const ProbeRunner &runner)
+{
+    return [&runner, before = runner.compilersStarted()] {
+        const int started = runner.compilersStarted() - before;
+        return started == 0 ? QString() : QString::number(started);
+    };
+}
+
+/// Tells how many files have been found and then, how many of them have been read.
+Progress::State filesOf(const ScanProgress &scan)
+{
+    return [&scan] {
+        const qint64 found = scan.found, read = scan.read;
+        if (read > 0)
+            return u"%1 of %2"_s.arg(read).arg(found);
+        return found > 0 ? counted(found, "file"_L1, "files"_L1) : QString();
+    };
+}
+
+} // namespace
 
 void removeLogs()
 {
@@ -82,27 +107,27 @@ void removeLogs()
         QFile::remove(file);
 }
 
-bool checkFiles(const Arguments &arguments)
+bool checkFiles(Progress &progress, const Arguments &arguments)
 {
     const QString problem = problemWith(arguments);
     if (!problem.isEmpty())
-        say(problem);
+        progress.say(problem);
     return problem.isEmpty();
 }
 
-std::optional<ProbeAnswer> compileFirstProbe(const ProbeRunner &runner)
+std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner)
 {
-    say(u"Compiling a first probe ..."_s);
+    const ProgressStep step(progress, u"Compiling a first probe ..."_s, &nothing);
     const ProbeAnswer answer = runner.ask(firstProbe);
     leaveLogs(runner.command(), answer.run);
     if (answer.compiled())
         return answer;
-    say(u"Compiling the first probe failed: %1."_s.arg(howItEnded(answer.run)));
+    progress.say(u"Compiling the first probe failed: %1."_s.arg(howItEnded(answer.run)));
     return {};
 }
 
-DialectAnswers askForListings(const Compiler &compiler, const ProbeAnswer &first,
-                              const QString &folder)
+DialectAnswers askForListings(Progress &progress, const Compiler &compiler,
+                              const ProbeAnswer &first, const QString &folder)
 {
     DialectAnswers known;
     known.versionLine = versionLineIn(first.run.output + '\n' + first.run.errors);
@@ -110,6 +135,7 @@ DialectAnswers askForListings(const Compiler &compiler, const ProbeAnswer &first
     if (qEnvironmentVariableIsSet(learnOnly)
         || !platform::writeScratchFile(folder + u'/' + source, "\n"))
         return known;
+    const ProgressStep step(progress, u"Asking the compiler for what it lists ..."_s, &nothing);
     QStringList command = compiler.command;
     for (const QString &define : compiler.defines)
         command << u"-D"_s + define;
@@ -119,92 +145,112 @@ DialectAnswers askForListings(const Compiler &compiler, const ProbeAnswer &first
     return askInDialects(run, command, source, known);
 }
 
-HeaderScan readDirectories(const QStringList &directories)
+HeaderScan readDirectories(Progress &progress, const QStringList &directories)
 {
     for (const QString &directory : directories) {
         if (isTooWide(directory)) {
-            say(u"%1 is too wide for a search directory; reading it takes long."_s.arg(directory));
+            progress.say(
+                u"%1 is too wide for a search directory; reading it takes long."_s.arg(directory));
         }
     }
     if (directories.isEmpty())
         return {};
-    say(u"Reading the search directories ..."_s);
-    const HeaderScan scan = scanHeaders(directories);
+    ScanProgress scanned;
+    const ProgressStep step(progress, u"Reading the search directories ..."_s, filesOf(scanned));
+    const HeaderScan scan = scanHeaders(directories, scanned);
     for (const QString &remark : scan.remarks)
-        say(remark);
-    say(u"Found %1 names in %2 files."_s.arg(scan.names.size()).arg(scan.files));
+        progress.say(remark);
+    progress.say(u"Found %1 in %2."_s.arg(counted(scan.names.size(), "name"_L1, "names"_L1),
+                                          counted(scan.files, "file"_L1, "files"_L1)));
     return scan;
 }
 
-std::optional<MacroFacts> findMacros(const ProbeRunner &runner, const Questions &questions,
+Questions findHowToAsk(Progress &progress, const ProbeRunner &runner)
+{
+    const ProgressStep step(progress, u"Looking for a way to read constants back ..."_s,
+                            probesOf(runner));
+    return Questions(runner);
+}
+
+std::optional<MacroFacts> findMacros(Progress &progress, const Questions &questions,
                                      const QList<Macro> &listed, const QList<ScannedName> &names)
 {
     MacroFacts macros {listed, {}};
     if (listed.isEmpty()) {
         if (!questions.readsConstants()) {
-            say(u"Reading constants back failed: the compiler leaves no file that holds "
-                "the bytes of a probe's constants."_s);
+            progress.say(u"Reading constants back failed: the compiler leaves no file that holds "
+                         "the bytes of a probe's constants."_s);
             return {};
         }
-        say(u"Looking for predefined macros ..."_s);
+        const ProbeRunner &runner = questions.runner();
+        const ProgressStep step(progress, u"Looking for predefined macros ..."_s, probesOf(runner));
         macros = learnMacros(questions, macroCandidates(names, runner.compiler().defines));
-        if (!worksStill(runner))
+        if (!worksStill(progress, runner))
             return {};
     }
-    say(u"Found %1 predefined macros, and %2 whose definition is not known."_s
-            .arg(macros.known.size())
-            .arg(macros.undetermined.size()));
+    QString found =
+        "Found "_L1 + counted(macros.known.size(), "predefined macro"_L1, "predefined macros"_L1);
+    if (!macros.undetermined.isEmpty())
+        found += u", and %1 whose definition is not known"_s.arg(macros.undetermined.size());
+    progress.say(found + u'.');
     return macros;
 }
 
-TypeFacts measureTypes(const Questions &questions)
+TypeFacts measureTypes(Progress &progress, const Questions &questions)
 {
     if (!questions.readsConstants())
         return {};
-    say(u"Measuring types ..."_s);
+    const ProgressStep step(progress, u"Measuring types ..."_s, probesOf(questions.runner()));
     return learnTypes(questions);
 }
 
-QList<Keyword> findKeywords(const Questions &questions, const HeaderScan &scan, const Facts &known)
+QList<Keyword> findKeywords(Progress &progress, const Questions &questions, const HeaderScan &scan,
+                            const Facts &known)
 {
-    say(u"Looking for keywords ..."_s);
+    const ProgressStep step(progress, u"Looking for keywords ..."_s, probesOf(questions.runner()));
     const QList<Keyword> keywords = learnKeywords(questions, scan.names, known.macros, known.types);
-    say(u"Found %1 keywords."_s.arg(keywords.size()));
+    progress.say(u"Found %1."_s.arg(counted(keywords.size(), "keyword"_L1, "keywords"_L1)));
     return keywords;
 }
 
-SearchPath findSearchPath(const Questions &questions, const SearchPath &listed,
+SearchPath findSearchPath(Progress &progress, const Questions &questions, const SearchPath &listed,
                           const HeaderScan &scan)
 {
     SearchPath path = listed;
     if (path.directories.isEmpty()) {
-        say(u"Looking for the search path ..."_s);
+        const ProgressStep step(progress, u"Looking for the search path ..."_s,
+                                probesOf(questions.runner()));
         path.directories = learnSearchPath(questions, scan.headers);
     }
-    say(u"Found %1 directories on the search path."_s.arg(path.directories.size()));
+    progress.say(u"Found %1 on the search path."_s.arg(
+        counted(path.directories.size(), "directory"_L1, "directories"_L1)));
     return path;
 }
 
-bool worksStill(const ProbeRunner &runner)
+bool worksStill(Progress &progress, const ProbeRunner &runner)
 {
+    const ProgressStep step(progress, u"Compiling the first probe again ..."_s, &nothing);
     const ProbeAnswer again = runner.ask(firstProbe);
     if (again.compiled())
         return true;
     leaveLogs(runner.command(), again.run);
-    say(u"The first probe no longer compiles: %1."_s.arg(howItEnded(again.run)));
+    progress.say(u"The first probe no longer compiles: %1."_s.arg(howItEnded(again.run)));
     return false;
 }
 
-bool writePersonality(const Arguments &arguments, const Compiler &compiler, const Facts &facts)
+bool writePersonality(Progress &progress, const Arguments &arguments, const Compiler &compiler,
+                      const Facts &facts)
 {
     const QByteArray templateText =
         platform::readTextFile(arguments.templateFile).value_or(QString()).toUtf8();
     const Personality personality =
         composePersonality(arguments, facts, compiler.includedFirst, templateText);
-    if (!platform::writeFile(arguments.personality, personalityText(personality))) {
-        say(u"The personality cannot be written: %1"_s.arg(arguments.personality));
+    const QString &path = arguments.personality;
+    const bool isThere = QFileInfo::exists(path);
+    if (!platform::writeFile(path, personalityText(personality))) {
+        progress.say(u"The personality cannot be written: %1"_s.arg(path));
         return false;
     }
-    say(u"Wrote %1"_s.arg(arguments.personality));
+    progress.say((isThere ? u"Replaced %1"_s : u"Wrote %1"_s).arg(path));
     return true;
 }

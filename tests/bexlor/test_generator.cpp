@@ -4,6 +4,7 @@
 #include "row.h"
 
 #include <QDir>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -123,12 +124,15 @@ private slots:
         const Workshop workshop;
         workshop.write("headers/a.h", "#if AA + BB\n#endif\nextern __cc dd; int ee;\n");
         qputenv("BEXLOR_LEARN_ONLY", "1");
+        QByteArray said = "in 1 file.\n";
         QString texts[2];
         for (QString &text : texts) {
             const ProgramRun generated =
                 workshop.generate("kov", "tcc", {"-xd", "AA=1,CC=2"}, {"-i", "headers"});
             QVERIFY2(generated.succeeded(), generated.output);
             text = workshop.read("sub folder/mine.p_c");
+            QVERIFY2(generated.output.contains(said), generated.output);
+            said = "Replaced sub folder/mine.p_c\n";
         }
         QVERIFY(texts[0].contains("\n\"-DAA=1\"\n\"-DCC=2\"\n"));
         QCOMPARE(texts[1], texts[0]);
@@ -214,6 +218,26 @@ private slots:
         QCOMPARE(QFile::exists(workshop.personality), says.isEmpty());
         QVERIFY(workshop.read("compile.bat").contains("odd compiler"));
         QCOMPARE(QDir(temporary).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+    }
+
+    void letsTheLineOfAStepGrow()
+    {
+        // Each probe is compiled only after the line of its step has grown.
+        const Workshop workshop;
+        const QString compiler = workshop.folder.filePath("slow");
+        workshop.write("slow", "#!/bin/sh\nsize() { wc -c <'" + workshop.folder.path().toLocal8Bit()
+                                   + "/said'; }\nold=$(size)\nuntil [ $(size) -gt $old ]; do "
+                                     "sleep 0.1; done\nexec false\n");
+        QFile::setPermissions(compiler, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        workshop.run({"sh", "-c", "exec \"$@\" >said", "sh", GENERATOR, "kov", "cmp", compiler,
+                      "-o", "-c", "-D", ".o", "%c %o%e %d%j %s ", "-op", "mine.p_c"});
+        const QString said = workshop.read("said");
+        QVERIFY2(
+            QRegularExpression("^Compiling a first probe \\.\\.\\.( \\.\\.\\.)+\nCompiling the "
+                               "first probe failed: the compiler returned 1\\.\n$")
+                .match(said)
+                .hasMatch(),
+            qPrintable(said));
     }
 
     void refusesAWrongList()

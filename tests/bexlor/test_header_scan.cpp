@@ -32,6 +32,12 @@ private:
         return list;
     }
 
+    static HeaderScan scanned(const QStringList &directories)
+    {
+        ScanProgress progress;
+        return scanHeaders(directories, progress);
+    }
+
 private slots:
     void findsNames_data()
     {
@@ -67,7 +73,7 @@ private slots:
         QFETCH(QByteArray, content);
         const QTemporaryDir folder;
         writeTestFile(folder.filePath("file.h"), content);
-        QTEST(shown(scanHeaders({folder.path()})), "names");
+        QTEST(shown(scanned({folder.path()})), "names");
     }
 
     void walksOverEverythingOnce()
@@ -81,8 +87,9 @@ private slots:
         std::filesystem::create_symlink("two/b.h", one / "link.h", none);
         std::filesystem::create_symlink("nowhere", one / "broken.h", none);
         QProcess::execute("mkfifo", {folder.filePath("one/pipe.h")});
-        const HeaderScan scan =
-            scanHeaders({folder.filePath("one"), folder.filePath("missing"), folder.path()});
+        ScanProgress progress;
+        const HeaderScan scan = scanHeaders(
+            {folder.filePath("one"), folder.filePath("missing"), folder.path()}, progress);
         QCOMPARE(shown(scan), QStringList({"__one:U", "__two:U"}));
         QStringList headers;
         for (const HeaderFile &header : scan.headers)
@@ -90,6 +97,8 @@ private slots:
         if (none)
             headers.insert(1, "/one/link.h");
         QCOMPARE(headers, QStringList({"/one/a.h", "/one/link.h", "/one/two/b.h"}));
+        QCOMPARE(progress.found, scan.files);
+        QCOMPARE(progress.read, scan.files);
         QCOMPARE(scan.remarks, QStringList {"Passed over, since it does not exist: "
                                             + folder.filePath("missing")});
     }
@@ -109,7 +118,7 @@ private slots:
         // It has no first page to read.
         const bool isUnreadable = QFile::link("/proc/self/mem", folder.filePath("unreadable.h"))
                                && QDir::separator() == '/';
-        const HeaderScan scan = scanHeaders({folder.path()});
+        const HeaderScan scan = scanned({folder.path()});
         QCOMPARE(scan.remarks.size(), isUnreadable ? 1 : 0);
         std::filesystem::remove(oddName);
         QSet<QByteArray> names;

@@ -211,8 +211,9 @@ private slots:
         for (const char *searched : {"path/first", "path/behind", "path/hollow"})
             command << "-I" + at(searched);
         const Subject subject(command);
-        const QStringList found =
-            learnSearchPath(subject.questions, scanHeaders({m_folder.filePath("path")}).headers);
+        ScanProgress progress;
+        const QStringList found = learnSearchPath(
+            subject.questions, scanHeaders({m_folder.filePath("path")}, progress).headers);
         QCOMPARE(found.size(), 3);
         QVERIFY(found.contains(at("path/hollow")));
         QVERIFY(found.indexOf(at("path/first")) < found.indexOf(at("path/behind")));

@@ -1,0 +1,65 @@
+#include "progress.h"
+
+#include <QRegularExpression>
+#include <QTest>
+#include <vector>
+
+class TestProgress : public QObject
+{
+    Q_OBJECT
+
+private:
+    QString m_said;
+    Progress m_progress {[this](const QString &text) { m_said += text; }};
+
+private slots:
+    void init() { m_said.clear(); }
+
+    void letsTheLineOfAStepGrow()
+    {
+        QString state;
+        m_progress.grow();
+        {
+            const ProgressStep step(m_progress, "Looking ...", [&state] { return state; });
+            for (const char *next : {"", "120", "240", "240", "240", "360"}) {
+                state = next;
+                m_progress.grow();
+            }
+            m_progress.say("Found 2.");
+            m_progress.grow();
+        }
+        m_progress.say("Next.");
+        QCOMPARE(m_said, "Looking ... ... 120 ... 240 ... ... 360\nFound 2.\nNext.\n");
+    }
+
+    void beginsEachStepOnALineOfItsOwn()
+    {
+        for (int i = 0; i < 2; ++i) {
+            const ProgressStep step(m_progress, "Step ...", [] { return QString("7"); });
+            m_progress.grow();
+        }
+        QCOMPARE(m_said, "Step ... 7\nStep ... 7\n");
+    }
+
+    void keepsTheLinesOfSeveralThreadsWhole()
+    {
+        {
+            std::vector<std::jthread> threads;
+            for (int thread = 0; thread < 4; ++thread) {
+                threads.emplace_back([this] {
+                    for (int i = 0; i < 500; ++i) {
+                        m_progress.begin("Step ...", [] { return QString("7"); });
+                        m_progress.grow();
+                        m_progress.say("Found.");
+                    }
+                });
+            }
+        }
+        QCOMPARE(m_said.count("Step ..."), 2000);
+        m_said.remove("Found.\n").remove(QRegularExpression("Step \\.\\.\\.( (7|\\.\\.\\.))*\n"));
+        QCOMPARE(m_said, QString());
+    }
+};
+
+QTEST_APPLESS_MAIN(TestProgress)
+#include "test_progress.moc"
