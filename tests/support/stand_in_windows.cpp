@@ -29,7 +29,7 @@ std::vector<std::string> utf8Arguments(int, char *[])
     return arguments;
 }
 
-void startAgain(const std::string &instructions)
+void startAgain(const std::string &instructions, Belonging belonging)
 {
     wchar_t program[MAX_PATH];
     GetModuleFileNameW(nullptr, program, MAX_PATH);
@@ -37,7 +37,8 @@ void startAgain(const std::string &instructions)
     STARTUPINFOW startup {};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process {};
-    if (CreateProcessW(program, nullptr, nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
+    const DWORD flags = belonging == Belonging::Detached ? DETACHED_PROCESS : 0;
+    if (CreateProcessW(program, nullptr, nullptr, nullptr, TRUE, flags, nullptr, nullptr, &startup,
                        &process)) {
         CloseHandle(process.hThread);
         CloseHandle(process.hProcess);
