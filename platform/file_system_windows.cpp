@@ -41,4 +41,18 @@ bool replaceFile(const QString &newPath, const QString &path)
                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
 }
 
+std::optional<quint64> fileSystemOf(const QString &path)
+{
+    const DWORD all = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    // A directory is opened only with this flag.
+    const HANDLE file = CreateFileW(nativePath(path).c_str(), 0, all, nullptr, OPEN_EXISTING,
+                                    FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return {};
+    BY_HANDLE_FILE_INFORMATION information {};
+    const bool isKnown = GetFileInformationByHandle(file, &information);
+    CloseHandle(file);
+    return isKnown ? std::optional<quint64>(information.dwVolumeSerialNumber) : std::nullopt;
+}
+
 } // namespace platform

@@ -37,7 +37,7 @@ void writeBytes()
     _setmode(_fileno(stdout), _O_BINARY);
 }
 
-void startAgain(const std::string &instructions)
+void startAgain(const std::string &instructions, Belonging belonging)
 {
     wchar_t program[MAX_PATH];
     GetModuleFileNameW(nullptr, program, MAX_PATH);
@@ -45,7 +45,8 @@ void startAgain(const std::string &instructions)
     STARTUPINFOW startup {};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process {};
-    if (CreateProcessW(program, nullptr, nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
+    const DWORD flags = belonging == Belonging::Detached ? DETACHED_PROCESS : 0;
+    if (CreateProcessW(program, nullptr, nullptr, nullptr, TRUE, flags, nullptr, nullptr, &startup,
                        &process)) {
         CloseHandle(process.hThread);
         CloseHandle(process.hProcess);
