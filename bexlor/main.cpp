@@ -27,9 +27,9 @@ void print(const QString &text)
 std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const Arguments &arguments,
                            const QString &folder)
 {
-    const ProbeRunner runner(compiler, folder, arguments.reduceFileSize);
+    ProbeRunner runner(compiler, folder, arguments.reduceFileSize);
     const std::optional<ProbeAnswer> first = compileFirstProbe(progress, runner);
-    if (!first)
+    if (!first || !checkControls(progress, runner, *first))
         return {};
     const DialectAnswers listed = askForListings(progress, compiler, *first, folder);
     const HeaderScan scan = readDirectories(progress, arguments.headerDirectories);

@@ -18,6 +18,10 @@ bool checkFiles(Progress &progress, const Arguments &arguments);
 /// What the compiler says to a probe that any compiler accepts. Leaves the logs.
 std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner);
 
+/// Whether the answers of \a runner's compiler, \a first being that to the first probe, can be
+/// trusted as far as is needed: it must reject what is no C.
+bool checkControls(Progress &progress, ProbeRunner &runner, const ProbeAnswer &first);
+
 /// What the compiler lists of itself; \a first may have told its version. \a folder is for the
 /// source that it is given.
 DialectAnswers askForListings(Progress &progress, const Compiler &compiler,
