@@ -2,6 +2,7 @@
 
 #include "generator_interface.h"
 #include "personality.h"
+#include "probe_options.h"
 #include "text_file.h"
 
 #include <QFileInfo>
@@ -119,6 +120,13 @@ bool checkFiles(Progress &progress, const Arguments &arguments)
 
 std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner)
 {
+    const QString against = optionAgainstObjects(runner.compiler().command);
+    if (!against.isEmpty()) {
+        leaveLogs(runner.command(), {});
+        progress.say(u"With the option %1 the compiler makes no object file. Take it out of the "
+                     "command on the page Compiler Command."_s.arg(against));
+        return {};
+    }
     const ProgressStep step(progress, u"Compiling a first probe ..."_s, &nothing);
     const ProbeAnswer answer = runner.ask(acceptedProbe);
     leaveLogs(runner.command(), answer.run);
@@ -258,6 +266,22 @@ bool worksStill(Progress &progress, const ProbeRunner &runner)
     leaveLogs(runner.command(), again.run);
     progress.say(u"The compiler no longer answers as it did: %1."_s.arg(howItEnded(again)));
     return false;
+}
+
+bool checkCompleteness(Progress &progress, const Questions &questions, const Facts &facts)
+{
+    const bool hasTypes = !facts.types.basic.isEmpty();
+    const bool hasSearchPath =
+        !facts.searchPath.directories.isEmpty() || !includesStandardHeaders(questions);
+    if (!hasTypes) {
+        progress.say(u"The sizes of the types have not been found: constants cannot be read back. "
+                     "Look at the flags and the extension on the page Compiler Command."_s);
+    }
+    if (!hasSearchPath) {
+        progress.say(u"The directories that the compiler searches have not been found, though it "
+                     "finds its headers. Name them on the page Search Directories."_s);
+    }
+    return hasTypes && hasSearchPath;
 }
 
 bool writePersonality(Progress &progress, const Arguments &arguments, const Compiler &compiler,

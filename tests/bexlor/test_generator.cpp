@@ -250,8 +250,8 @@ private slots:
         row("takes everything", good + "\necho >>probe.o; exit 0", "accepts a syntax error");
         row("takes conflicting declarations",
             good
-                + " 2>errors && exit\ncat errors >&2\ngrep -q \"incompatible types\" errors || "
-                  "exit 1\n"
+                + " 2>errors\nstatus=$?\ncat errors >&2\n[ $status = 0 ] && exit\n"
+                  "grep -q 'incompatible types' errors || exit 1\n"
                   "echo | tcc -c -o probe.o -xc -",
             "accepts a conflicting declaration", "^#: (size_t|ptrdiff_t|wchar_t) ");
         row("answers otherwise each time", "[ $n -lt 2 ] || exit $n\n" + good,
@@ -294,6 +294,52 @@ private slots:
         QCOMPARE(lines, expected);
     }
 
+    void saysWhatIsMissing_data()
+    {
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<QByteArray>("says");
+        row("preprocesses", "-E", QByteArray("With the option -E "));
+        row("checks", "-fsyntax-only", QByteArray("With the option -fsyntax-only "));
+        row("searches what is not known", "-g",
+            QByteArray("Name them on the page Search Directories."));
+    }
+    void saysWhatIsMissing()
+    {
+        QFETCH(QString, options);
+        QFETCH(QByteArray, says);
+        const Workshop workshop;
+        qputenv("BEXLOR_LEARN_ONLY", "1");
+        const ProgramRun run = workshop.generate("kov", "tcc " + options);
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY2(run.output.contains(says), run.output);
+        QVERIFY(!QFile::exists(workshop.personality));
+        QVERIFY(workshop.read("compile.bat").contains(options));
+    }
+
+    void writesNothingOfTheUsers()
+    {
+        const Workshop workshop;
+        const QStringList mine {"a.d", "b.d", "c.i", "d.map", "e.lst", "f.o", "g.o", "probe.d"};
+        for (const QString &name : mine)
+            workshop.write(name, "mine");
+        const ProgramRun run = workshop.generate(
+            "kov",
+            "gcc -MD -MF a.d -Wp,-MMD,b.d -aux-info c.i -Wl,-Map,d.map -Wa,-adhln=e.lst -o f.o "
+            "-og.o -save-temps -flto -fshort-enums -Wfatal-errors");
+        QVERIFY2(run.succeeded(), run.output);
+        for (const QString &name : mine)
+            QCOMPARE(workshop.read(name), "mine");
+        const QStringList written {"compile.bat", "stderr.log", "stdout.log"};
+        const auto files = [&workshop](const char *folder) {
+            const QStringList all = QDir(workshop.folder.filePath(folder)).entryList(QDir::Files);
+            return QSet<QString>(all.begin(), all.end());
+        };
+        QStringList all = mine + written;
+        QCOMPARE(files("."), QSet<QString>(all.begin(), all.end()));
+        QCOMPARE(files("sub folder"), QSet<QString> {"mine.p_c"});
+        QVERIFY(workshop.read("sub folder/mine.p_c").contains("\n#: small-enum 1\n"));
+    }
+
     void letsTheLineOfAStepGrow()
     {
         // Each probe is compiled only after the line of its step has grown.
@@ -301,8 +347,9 @@ private slots:
         const QString compiler = workshop.compiler(
             "size() { wc -c <'" + workshop.folder.path().toLocal8Bit()
             + "/said'; }\nold=$(size)\nuntil [ $(size) -gt $old ]; do sleep 0.1; done\nexec false");
-        workshop.run({"sh", "-c", "exec \"$@\" >said", "sh", GENERATOR, "kov", "cmp", compiler,
-                      "-o", "-c", "-D", ".o", "%c %o%e %d%j %s ", "-op", "mine.p_c"});
+        workshop.run({"sh", "-c", "exec \"$@\" >said", "sh", GENERATOR, "kov", "cmp",
+                      '"' + compiler + '"', "-o", "-c", "-D", ".o", "%c %o%e %d%j %s ", "-op",
+                      "mine.p_c"});
         const QString said = workshop.read("said");
         QVERIFY2(
             QRegularExpression("^Compiling a first probe \\.\\.\\.( \\.\\.\\.)+\nCompiling the "
