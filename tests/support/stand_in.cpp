@@ -52,6 +52,7 @@ void obey(const std::string &instruction)
     if (word == "print") {
         std::cout << rest << std::endl;
     } else if (word == "bytes") {
+        writeBytes();
         std::cout << unescaped(rest) << std::flush;
         std::this_thread::sleep_for(100ms);
     } else if (word == "lines") {

@@ -6,6 +6,9 @@
 /// The arguments of main in UTF-8, without the program's name.
 std::vector<std::string> utf8Arguments(int argc, char *argv[]);
 
+/// Lets the standard output take every byte as it is from now on.
+void writeBytes();
+
 enum class Belonging { Child, Detached };
 
 /// Starts this program once more with \a instructions in the variable STAND_IN, as its child or in

@@ -1,6 +1,9 @@
 #include "stand_in_system.h"
 
+#include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
+#include <io.h>
 #include <windows.h>
 
 #include <shellapi.h> // needs the types of the header above
@@ -27,6 +30,11 @@ std::vector<std::string> utf8Arguments(int, char *[])
         arguments.push_back(utf8(words[i]));
     LocalFree(words);
     return arguments;
+}
+
+void writeBytes()
+{
+    _setmode(_fileno(stdout), _O_BINARY);
 }
 
 void startAgain(const std::string &instructions, Belonging belonging)
