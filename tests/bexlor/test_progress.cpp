@@ -2,6 +2,7 @@
 
 #include <QRegularExpression>
 #include <QTest>
+#include <atomic>
 #include <vector>
 
 class TestProgress : public QObject
@@ -10,7 +11,17 @@ class TestProgress : public QObject
 
 private:
     QString m_said;
-    Progress m_progress {[this](const QString &text) { m_said += text; }};
+    std::atomic<bool> m_isWriting = false;
+    std::atomic<bool> m_overlaps = false;
+    Progress m_progress {[this](const QString &text) {
+        if (m_isWriting.exchange(true)) {
+            m_overlaps = true;
+            return;
+        }
+        std::this_thread::yield();
+        m_said += text;
+        m_isWriting = false;
+    }};
 
 private slots:
     void init() { m_said.clear(); }
@@ -55,6 +66,7 @@ private slots:
                 });
             }
         }
+        QVERIFY(!m_overlaps);
         QCOMPARE(m_said.count("Step ..."), 2000);
         m_said.remove("Found.\n").remove(QRegularExpression("Step \\.\\.\\.( (7|\\.\\.\\.))*\n"));
         QCOMPARE(m_said, QString());
