@@ -55,9 +55,9 @@ private slots:
     void keepsTheLinesOfSeveralThreadsWhole()
     {
         {
-            std::vector<std::jthread> threads;
-            for (int thread = 0; thread < 4; ++thread) {
-                threads.emplace_back([this] {
+            std::vector<std::jthread> threads(4);
+            for (std::jthread &thread : threads) {
+                thread = std::jthread([this] {
                     for (int i = 0; i < 500; ++i) {
                         m_progress.begin("Step ...", [] { return QString("7"); });
                         m_progress.grow();
