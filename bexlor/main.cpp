@@ -45,7 +45,9 @@ std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const A
     facts.types = measureTypes(progress, questions);
     facts.keywords = findKeywords(progress, questions, scan, facts);
     facts.searchPath = findSearchPath(progress, questions, listed.searchPath, scan);
-    if (!worksStill(progress, runner) || !checkCompleteness(progress, questions, facts))
+    const bool lacksSearchPath =
+        facts.searchPath.directories.isEmpty() && includesStandardHeaders(questions);
+    if (!worksStill(progress, runner) || !checkCompleteness(progress, facts, lacksSearchPath))
         return {};
     progress.say(u"The compiler was started %1 times."_s.arg(runner.compilersStarted()));
     return facts;
@@ -54,11 +56,12 @@ std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const A
 bool generate(Progress &progress, const Arguments &arguments, const QString &folder)
 {
     removeLogs();
-    if (!checkFiles(progress, arguments))
+    const std::optional<Arguments> usable = checkArguments(progress, arguments);
+    if (!usable)
         return false;
-    const Compiler compiler = findCompiler(arguments);
-    const std::optional<Facts> facts = learn(progress, compiler, arguments, folder);
-    return facts && writePersonality(progress, arguments, compiler, *facts);
+    const Compiler compiler = findCompiler(*usable);
+    const std::optional<Facts> facts = learn(progress, compiler, *usable, folder);
+    return facts && writePersonality(progress, *usable, compiler, *facts);
 }
 
 } // namespace

@@ -12,8 +12,9 @@
 /// Removes what an earlier run has left, which would be taken for this one's.
 void removeLogs();
 
-/// Whether the files that the user names can be used.
-bool checkFiles(Progress &progress, const Arguments &arguments);
+/// \a arguments without the header directories that cannot be used. Nothing when they are refused
+/// or the files that they name cannot be used. Says first which files are used that no page shows.
+std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arguments);
 
 /// What the compiler says to a probe that any compiler accepts. Leaves the logs.
 std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner);
@@ -51,9 +52,9 @@ SearchPath findSearchPath(Progress &progress, const Questions &questions, const 
 /// license or of room on the disk, would be taken for one that rejects everything.
 bool worksStill(Progress &progress, const ProbeRunner &runner);
 
-/// Whether \a facts hold the types, and the search path unless the compiler has none: without them
-/// clang would read code as if it were for another compiler.
-bool checkCompleteness(Progress &progress, const Questions &questions, const Facts &facts);
+/// Whether \a facts hold the types, and the search path is not one that the compiler has and that
+/// is lacking: without them clang would read code as if it were for another compiler.
+bool checkCompleteness(Progress &progress, const Facts &facts, bool lacksSearchPath);
 
 /// Writes the personality of the compiler of \a facts to where the user wants it, over one that has
 /// been there before.
