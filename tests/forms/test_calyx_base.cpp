@@ -20,6 +20,7 @@
 #include <QRadioButton>
 #include <QStyleOptionButton>
 #include <QTest>
+#include <QTextBoundaryFinder>
 #include <QToolTip>
 #include <cmath>
 
@@ -44,6 +45,18 @@ QString cutOff(const QWidget *widget, const QSize &needed, const QSize &availabl
         .arg(available.height());
 }
 
+/// The width of the widest piece of \a text that no line break may divide: a word, or a character
+/// of a script without spaces.
+int widestPiece(const QString &text, const QFontMetrics &metrics)
+{
+    int widest = 0;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
+    for (int begin = 0, end = 0; (end = int(finder.toNextBoundary())) > 0; begin = end)
+        widest =
+            std::max(widest, metrics.horizontalAdvance(text.mid(begin, end - begin).trimmed()));
+    return widest;
+}
+
 /// Adds to \a problems if \a label cuts its text off. Whether it has one.
 bool checkRoom(const QLabel *label, QString &problems)
 {
@@ -52,11 +65,9 @@ bool checkRoom(const QLabel *label, QString &problems)
         return false;
     QSize needed = label->sizeHint();
     if (label->wordWrap()) {
-        int widestWord = 0;
-        for (const QString &word : label->text().split(' '))
-            widestWord = std::max(widestWord, label->fontMetrics().horizontalAdvance(word));
         const bool isMarkup = label->text().contains('<');
-        needed = QSize(isMarkup ? 0 : widestWord, label->heightForWidth(label->width()));
+        needed = QSize(isMarkup ? 0 : widestPiece(label->text(), label->fontMetrics()),
+                       label->heightForWidth(label->width()));
     }
     problems += cutOff(label, needed, label->size());
     return true;
