@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QRadioButton>
@@ -88,6 +89,19 @@ bool checkRoom(const QAbstractButton *button, QString &problems)
     problems += cutOff(button, button->fontMetrics().size(Qt::TextShowMnemonic, button->text()),
                        button->style()->subElementRect(contents, &option, button).size());
     return true;
+}
+
+/// How many lines of \a image have something dark in them.
+int darkLines(const QImage &image)
+{
+    int lines = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        bool isDark = false;
+        for (int x = 0; x < image.width(); ++x)
+            isDark |= image.pixelColor(x, y).lightness() < 140;
+        lines += isDark ? 1 : 0;
+    }
+    return lines;
 }
 
 /// How far two colours are apart, from 1 for none to 21: the contrast ratio of the Web Content
@@ -205,6 +219,24 @@ private slots:
             texts += checkRoom(button, problems);
         QVERIFY2(problems.isEmpty(), qPrintable(problems));
         QVERIFY2(texts >= 44, qPrintable(QString::number(texts)));
+    }
+
+    void drawsTallTitlesWhole()
+    {
+        const Language spoken("ja");
+        const Forms forms;
+        const QString sign(QChar(0x56fd)); // is as tall as any of its script
+        QImage alone(60, 60, QImage::Format_RGB32);
+        alone.fill(Qt::white);
+        QPainter painter(&alone);
+        painter.setFont(forms.dialog.font());
+        painter.drawText(20, 40, sign);
+        painter.end();
+        QGroupBox *box = forms.dialog.SaveNewGrpBox;
+        box->setTitle("       " + sign + "   ");
+        const QImage title = box->grab(QRect(27, 0, 30, 19)).toImage();
+        QVERIFY(darkLines(alone) > 8);
+        QCOMPARE(darkLines(title), darkLines(alone));
     }
 
     void canBeReadUnderEveryPalette_data()
