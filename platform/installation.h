@@ -15,8 +15,8 @@ struct Installation
 };
 
 /// Where everything is, seen from the running program, which starts the wizard. Debian has the
-/// programs in lib/calyx and the rest in share/calyx, and keeps the user's data where the XDG Base
-/// Directory Specification says. On Windows all is one folder, in which the user may write.
+/// programs in lib/calyx and the rest in share/calyx, and keeps the user's data where the XDG base
+/// directories are. On Windows all is one folder, in which the user may write.
 Installation installation();
 
 /// Goes on as \a program, whose exit status is returned unless it takes this process's place.
