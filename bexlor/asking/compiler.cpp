@@ -36,12 +36,19 @@ QStringList withoutWarningsAsErrors(QStringList words)
     return words;
 }
 
-/// Whether the word \a index of a command may be a path. The program is one already; a define, and
-/// the language behind the GNU driver's "-x", are paths by chance only.
-bool mayBePath(const QStringList &words, qsizetype index, const QString &defineFlag)
+/// Whether the word \a index of a command may be the path of what the compiler reads. The program
+/// is one already; a define, and the language behind the GNU driver's "-x", are paths by chance
+/// only. What the compiler writes stays in the folder of the probe.
+bool mayBePath(const QStringList &words, qsizetype index, const CommandLayout &layout)
 {
-    const bool isDefine = !defineFlag.isEmpty() && words[index].startsWith(defineFlag);
-    return index > 0 && !isDefine && words[index - 1] != "-x"_L1;
+    if (index == 0)
+        return false;
+    for (const QString &flag : {layout.defineFlag, layout.outputFlag}) {
+        if (!flag.isEmpty() && words[index].startsWith(flag))
+            return false;
+    }
+    const QString &before = words[index - 1];
+    return before != layout.outputFlag && before != "-x"_L1 && before != dependencyFlag;
 }
 
 /// The defines that the command can name. Without a flag each would be taken for a file.
@@ -121,9 +128,8 @@ Compiler findCompiler(const Arguments &arguments)
             compiler.includedFirst << words[i] << withAbsolutePath(words[i + 1]);
             ++i;
         } else {
-            compiler.command << (mayBePath(words, i, arguments.layout.defineFlag)
-                                     ? withAbsolutePath(words[i])
-                                     : words[i]);
+            compiler.command << (mayBePath(words, i, arguments.layout) ? withAbsolutePath(words[i])
+                                                                       : words[i]);
         }
     }
     const QString program = words.isEmpty() ? QString() : programPath(words.first());

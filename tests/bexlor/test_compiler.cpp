@@ -59,6 +59,22 @@ private slots:
         QDir::setCurrent(QDir::rootPath());
     }
 
+    void leavesOutputsInTheFolderOfTheProbe()
+    {
+        const QTemporaryDir folder;
+        writeTestFile(folder.filePath("mine"));
+        QDir::setCurrent(folder.path());
+        Arguments arguments;
+        arguments.command = "cc";
+        arguments.layout.outputFlag = "-o";
+        const QStringList outputs {"-omine", "-o", "mine", "-MF", "mine"};
+        arguments.switches = outputs + QStringList {"mine"};
+        const QStringList command = findCompiler(arguments).command;
+        QCOMPARE(command.mid(1, outputs.size()), outputs);
+        QCOMPARE(command.last(), QDir::currentPath() + "/mine");
+        QDir::setCurrent(QDir::rootPath());
+    }
+
     void keepsWhatIsIncludedFirstApart()
     {
         Arguments arguments;
