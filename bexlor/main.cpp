@@ -27,9 +27,9 @@ void print(const QString &text)
 std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const Arguments &arguments,
                            const QString &folder)
 {
-    const ProbeRunner runner(compiler, folder, arguments.reduceFileSize);
+    ProbeRunner runner(compiler, folder, arguments.reduceFileSize);
     const std::optional<ProbeAnswer> first = compileFirstProbe(progress, runner);
-    if (!first)
+    if (!first || !checkControls(progress, runner, *first))
         return {};
     const DialectAnswers listed = askForListings(progress, compiler, *first, folder);
     const HeaderScan scan = readDirectories(progress, arguments.headerDirectories);
@@ -45,7 +45,7 @@ std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const A
     facts.types = measureTypes(progress, questions);
     facts.keywords = findKeywords(progress, questions, scan, facts);
     facts.searchPath = findSearchPath(progress, questions, listed.searchPath, scan);
-    if (!worksStill(progress, runner))
+    if (!worksStill(progress, runner) || !checkCompleteness(progress, questions, facts))
         return {};
     progress.say(u"The compiler was started %1 times."_s.arg(runner.compilersStarted()));
     return facts;

@@ -14,9 +14,6 @@ struct CommandLayout
     QString order;           ///< order token string
 };
 
-/// Behind it the GNU driver, and what takes its options, writes a second file.
-inline constexpr QLatin1StringView dependencyFlag("-MF");
-
 /// What the generator has been asked for: its command line, taken apart. Paths are the host's.
 struct Arguments
 {

@@ -108,37 +108,12 @@ QString problemWithTexts(const Arguments &arguments)
     return QString();
 }
 
-/// Whether \a text begins with a path that leads out of the folder that it is resolved in.
-bool leadsElsewhere(const QString &text)
-{
-    static const QRegularExpression start(u"^(\\.\\.|[A-Za-z]:)?[/\\\\]"_s);
-    return start.match(text).hasMatch();
-}
-
-QString problemWithOutputs(const Arguments &arguments)
-{
-    const QString options = arguments.command + u' ' + arguments.switches.join(u' ');
-    const QStringList words = QString(options).remove(u'"').simplified().split(u' ');
-    for (const QString &flag : {arguments.layout.outputFlag, QString(dependencyFlag)}) {
-        for (qsizetype i = 1; i < words.size() && !flag.isEmpty(); ++i) {
-            const bool isBehind = words[i - 1] == flag;
-            const QString named = words[i].startsWith(flag) ? words[i].mid(flag.size()) : QString();
-            if (leadsElsewhere(isBehind ? words[i] : named)) {
-                return u"An option names an output outside of the run's own folder: %1"_s.arg(
-                    visibleText(isBehind ? flag + u' ' + words[i] : words[i]));
-            }
-        }
-    }
-    return QString();
-}
-
 } // namespace
 
 QString refusalReason(const Arguments &arguments)
 {
     const QStringList problems {problemWithCommand(arguments), problemWithParts(arguments.layout),
-                                problemWithFiles(arguments), problemWithTexts(arguments),
-                                problemWithOutputs(arguments)};
+                                problemWithFiles(arguments), problemWithTexts(arguments)};
     const auto problem = std::find_if(problems.begin(), problems.end(),
                                       [](const QString &text) { return !text.isEmpty(); });
     return problem == problems.end() ? QString() : *problem;

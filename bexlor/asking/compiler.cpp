@@ -1,6 +1,7 @@
 #include "compiler.h"
 
 #include "order_tokens.h"
+#include "probe_options.h"
 #include "program_search.h"
 
 #include <QFileInfo>
@@ -22,33 +23,16 @@ bool isProgram(const QString &word)
     return !programPath(word).isEmpty();
 }
 
-/// \a words without the options that make errors of warnings. A probe asks what the compiler knows,
-/// and it would be refused for its style.
-QStringList withoutWarningsAsErrors(QStringList words)
-{
-    static const QRegularExpression option(u"^(-Werror(=.*)?|--Werror|-pedantic-errors|[-/]WX)$"_s);
-    words.removeIf([](const QString &word) { return option.match(word).hasMatch(); });
-    // cc65's is made of two words.
-    for (qsizetype i = words.size() - 1; i > 0; --i) {
-        if (words[i] == "error"_L1 && words[i - 1] == "-W"_L1)
-            words.remove(--i, 2);
-    }
-    return words;
-}
-
-/// Whether the word \a index of a command may be the path of what the compiler reads. The program
-/// is one already; a define, and the language behind the GNU driver's "-x", are paths by chance
-/// only. What the compiler writes stays in the folder of the probe.
+/// Whether the word \a index of a command may be a path. The program is one already; a define, and
+/// the language behind the GNU driver's "-x", are paths by chance only. What the compiler writes
+/// stays in the folder of the probe.
 bool mayBePath(const QStringList &words, qsizetype index, const CommandLayout &layout)
 {
-    if (index == 0)
-        return false;
-    for (const QString &flag : {layout.defineFlag, layout.outputFlag}) {
-        if (!flag.isEmpty() && words[index].startsWith(flag))
-            return false;
-    }
-    const QString &before = words[index - 1];
-    return before != layout.outputFlag && before != "-x"_L1 && before != dependencyFlag;
+    const auto isBehind = [&word = words[index]](const QString &flag) {
+        return !flag.isEmpty() && word.startsWith(flag);
+    };
+    return index > 0 && !isBehind(layout.defineFlag) && !isBehind(layout.outputFlag)
+        && words[index - 1] != "-x"_L1;
 }
 
 /// The defines that the command can name. Without a flag each would be taken for a file.
@@ -121,7 +105,7 @@ Compiler findCompiler(const Arguments &arguments)
     QStringList words = commandWords(arguments.command, &isProgram);
     for (const QString &item : arguments.switches)
         words << QProcess::splitCommand(item);
-    words = withoutWarningsAsErrors(words);
+    words = withoutOtherPurposes(words);
     for (qsizetype i = 0; i < words.size(); ++i) {
         const bool includes = words[i] == "-include"_L1 || words[i] == "-imacros"_L1;
         if (includes && i > 0 && i + 1 < words.size()) {

@@ -2,6 +2,7 @@
 
 #include "generator_interface.h"
 #include "personality.h"
+#include "probe_options.h"
 #include "refusal.h"
 #include "text_file.h"
 #include "visible_text.h"
@@ -14,14 +15,14 @@ namespace {
 
 const int listingTimeLimit = 30'000; // milliseconds
 
-const char *const firstProbe = "int calyx_probe;\n";
-
 // Set for tests and measurements: the compiler is asked by probes alone.
 const char *const learnOnly = "BEXLOR_LEARN_ONLY";
 
-QString howItEnded(const platform::ProgramRun &run)
+QString howItEnded(const ProbeAnswer &answer)
 {
-    switch (run.ending) {
+    if (!answer.isAsked)
+        return u"the probe could not be written to the temporary folder"_s;
+    switch (answer.run.ending) {
     case platform::ProgramRun::NotStarted:
         return u"the compiler could not be started"_s;
     case platform::ProgramRun::Crashed:
@@ -31,7 +32,9 @@ QString howItEnded(const platform::ProgramRun &run)
     case platform::ProgramRun::Exited:
         break;
     }
-    return u"the compiler returned %1"_s.arg(run.exitCode);
+    const QString end = u"the compiler returned %1"_s.arg(answer.run.exitCode);
+    return answer.run.exitCode == 0 && answer.leftNothing ? end + " and left no object file"_L1
+                                                          : end;
 }
 
 /// Leaves \a command and what it wrote in the working directory.
@@ -146,13 +149,40 @@ std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arg
 
 std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner)
 {
+    const QString against = optionAgainstObjects(runner.compiler().command);
+    if (!against.isEmpty()) {
+        leaveLogs(runner.command(), {});
+        progress.say(u"With the option %1 the compiler makes no object file. Take it out of the "
+                     "command on the page Compiler Command."_s.arg(against));
+        return {};
+    }
     const ProgressStep step(progress, u"Compiling a first probe ..."_s, &nothing);
-    const ProbeAnswer answer = runner.ask(firstProbe);
+    const ProbeAnswer answer = runner.ask(acceptedProbe);
     leaveLogs(runner.command(), answer.run);
     if (answer.compiled())
         return answer;
-    progress.say(u"Compiling the first probe failed: %1."_s.arg(howItEnded(answer.run)));
+    progress.say(u"Compiling the first probe failed: %1."_s.arg(howItEnded(answer)));
     return {};
+}
+
+bool checkControls(Progress &progress, ProbeRunner &runner, const ProbeAnswer &first)
+{
+    const ProgressStep step(progress, u"Compiling control probes ..."_s, &nothing);
+    if (!runner.learnControls(first)) {
+        progress.say(u"The compiler answers the same probe otherwise each time."_s);
+        return false;
+    }
+    const Controls &controls = runner.controls();
+    if (!controls.rejects(ErrorKind::Syntax)) {
+        progress.say(
+            u"The compiler accepts %1, so nothing can be learned from what it accepts."_s.arg(
+                nameOf(ErrorKind::Syntax)));
+        return false;
+    }
+    for (const ErrorKind kind : controls.overlooked)
+        progress.say(u"The compiler accepts %1; what only that would tell is left open."_s.arg(
+            nameOf(kind)));
+    return true;
 }
 
 DialectAnswers askForListings(Progress &progress, const Compiler &compiler,
@@ -261,12 +291,28 @@ SearchPath findSearchPath(Progress &progress, const Questions &questions, const 
 bool worksStill(Progress &progress, const ProbeRunner &runner)
 {
     const ProgressStep step(progress, u"Compiling the first probe again ..."_s, &nothing);
-    const ProbeAnswer again = runner.ask(firstProbe);
+    const ProbeAnswer again = runner.ask(acceptedProbe);
     if (again.compiled())
         return true;
     leaveLogs(runner.command(), again.run);
-    progress.say(u"The first probe no longer compiles: %1."_s.arg(howItEnded(again.run)));
+    progress.say(u"The compiler no longer answers as it did: %1."_s.arg(howItEnded(again)));
     return false;
+}
+
+bool checkCompleteness(Progress &progress, const Questions &questions, const Facts &facts)
+{
+    const bool hasTypes = !facts.types.basic.isEmpty();
+    const bool hasSearchPath =
+        !facts.searchPath.directories.isEmpty() || !includesStandardHeaders(questions);
+    if (!hasTypes) {
+        progress.say(u"The sizes of the types have not been found: constants cannot be read back. "
+                     "Look at the flags and the extension on the page Compiler Command."_s);
+    }
+    if (!hasSearchPath) {
+        progress.say(u"The directories that the compiler searches have not been found, though it "
+                     "finds its headers. Name them on the page Search Directories."_s);
+    }
+    return hasTypes && hasSearchPath;
 }
 
 bool writePersonality(Progress &progress, const Arguments &arguments, const Compiler &compiler,

@@ -19,6 +19,10 @@ std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arg
 /// What the compiler says to a probe that any compiler accepts. Leaves the logs.
 std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner);
 
+/// Whether the answers of \a runner's compiler, \a first being that to the first probe, can be
+/// trusted as far as is needed: it must reject what is no C.
+bool checkControls(Progress &progress, ProbeRunner &runner, const ProbeAnswer &first);
+
 /// What the compiler lists of itself; \a first may have told its version. \a folder is for the
 /// source that it is given.
 DialectAnswers askForListings(Progress &progress, const Compiler &compiler,
@@ -47,6 +51,10 @@ SearchPath findSearchPath(Progress &progress, const Questions &questions, const 
 /// Whether the first probe still compiles: a compiler that has stopped working, for want of a
 /// license or of room on the disk, would be taken for one that rejects everything.
 bool worksStill(Progress &progress, const ProbeRunner &runner);
+
+/// Whether \a facts hold the types, and the search path unless the compiler has none: without them
+/// clang would read code as if it were for another compiler.
+bool checkCompleteness(Progress &progress, const Questions &questions, const Facts &facts);
 
 /// Writes the personality of the compiler of \a facts to where the user wants it, over one that has
 /// been there before.

@@ -74,11 +74,6 @@ private slots:
         row("line feed in a command", "cc\n-Dx", 2, none, "There is a control character in");
         row("null in a define", "cc", 2, QStringList {"-xd", QString("A=") + QChar(0)},
             "There is a control character in");
-        const QString output = "An option names an output outside of the run's own folder";
-        row("output in the command", "\"cc -o ../x\"", 2, none, output + ": -o ../x");
-        row("output in a switch", "cc", 2, QStringList {"-xs", "-m32,-o/x"}, output + ": -o/x");
-        row("dependencies in a switch", "cc", 2, QStringList {"-xs", "-MD,-MF C:\\x"}, output);
-        row("outputs that stay", "cc", 2, QStringList {"-xs", "-ox,-MFy,-os_dir=/x"}, "");
         row("template outside its folder", "cc", 2,
             QStringList {"-tpl", "..\\TemplatePersonalities\\a/../../x"},
             "The template does not lie in the folder TemplatePersonalities");
