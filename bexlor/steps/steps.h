@@ -52,9 +52,9 @@ SearchPath findSearchPath(Progress &progress, const Questions &questions, const 
 /// license or of room on the disk, would be taken for one that rejects everything.
 bool worksStill(Progress &progress, const ProbeRunner &runner);
 
-/// Whether \a facts hold the types, and the search path unless the compiler has none: without them
-/// clang would read code as if it were for another compiler.
-bool checkCompleteness(Progress &progress, const Questions &questions, const Facts &facts);
+/// Whether \a facts hold the types, and the search path is not one that the compiler has and that
+/// is lacking: without them clang would read code as if it were for another compiler.
+bool checkCompleteness(Progress &progress, const Facts &facts, bool lacksSearchPath);
 
 /// Writes the personality of the compiler of \a facts to where the user wants it, over one that has
 /// been there before.
