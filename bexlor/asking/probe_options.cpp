@@ -68,7 +68,7 @@ QStringList withoutOtherPurposes(const QStringList &words)
 QString optionAgainstObjects(const QStringList &words)
 {
     static const QRegularExpression option =
-        wholeWord(u"-E|-S|-fsyntax-only|--preprocess-only|[-/]EP|[-/]P|[-/]Zs|/E"_s);
+        wholeWord(u"-E|-S|-fsyntax-only|--preprocess-only|[-/]EP|[-/]Zs|/E|/P"_s);
     const qsizetype index = words.indexOf(option, 1);
     return index < 0 ? QString() : words[index];
 }
