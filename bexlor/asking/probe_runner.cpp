@@ -19,7 +19,7 @@ const int mostRepetitions = 2; // of a probe whose answer is unlike all others
 const ProbeLimits usualLimits {20'000, 500'000};
 const ProbeLimits smallLimits {99, 4000};
 
-/// The same, or what tests set.
+/// The usual one, or what tests set, in milliseconds.
 int timeLimit()
 {
     const int set = qEnvironmentVariableIntValue("BEXLOR_TIME_LIMIT");

@@ -22,6 +22,7 @@ namespace {
 Fault fault;
 std::atomic<bool> isOn = false, failed = false;
 std::atomic<int> calls = 0;
+pid_t owner = 0; // a process that it forks has calls of its own
 
 enum class Change { None, OfDisk };
 
@@ -39,7 +40,7 @@ void leaveMark()
 /// Whether the call that begins here is to fail; errno is set then.
 bool fails(Change change)
 {
-    if (!isOn)
+    if (!isOn || getpid() != owner)
         return false;
     const bool isMeant = ++calls == fault.call;
     const bool isAfter = failed && lasts(fault.error) && change == Change::OfDisk;
@@ -143,6 +144,7 @@ extern "C" void beginFault(const Fault *given)
     fault = *given;
     calls = 0;
     failed = false;
+    owner = getpid();
     isOn = true;
 }
 

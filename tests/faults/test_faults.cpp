@@ -189,7 +189,7 @@ private:
             return temporary.entryList(QDir::AllEntries | QDir::NoDotAndDotDot).isEmpty();
         };
         // Whoever cleans up behind a killed generator is not waited for.
-        tries.left += !QTest::qWaitFor(isEmpty, status < 0 ? patience : 0);
+        tries.left += !QTest::qWaitFor(isEmpty, status < 0 ? patience / 10 : 0);
     }
 
 private slots:
