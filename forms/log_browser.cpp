@@ -24,7 +24,7 @@ const int mostCharacters = 64'000'000;
 const int greatestHeight = 18'000'000;
 const int charactersLeft = 200'000;
 
-// Of a longer text, the whole is in a file, too.
+// A longer text is kept in a file.
 const int longestInMemory = 1'000'000;
 
 // A page without an end is laid out as one of 2^23 pixels, behind which the toolkit does not come
@@ -78,6 +78,7 @@ LogBrowser::~LogBrowser() = default;
 void LogBrowser::setText(const QString &text)
 {
     m_lineIsUnfinished = false;
+    m_text.clear();
     m_kept.reset();
     m_isKept = true;
     m_hidden = 0;
@@ -91,6 +92,7 @@ void LogBrowser::setReview(const QString &text)
 {
     setText(QString());
     document()->setDocumentLayout(new SpaceLayout(document()));
+    keep(text);
     setPlainText(text);
 }
 
@@ -135,12 +137,15 @@ void LogBrowser::insertAtEnd(const QString &text)
 
 void LogBrowser::keep(const QString &text)
 {
-    if (m_kept) {
-        m_isKept = m_isKept && writeAll(*m_kept, text.toLocal8Bit());
-    } else if (document()->characterCount() + text.size() > longestInMemory) {
+    if (!m_kept && m_text.size() + text.size() > longestInMemory) {
         m_kept = std::make_unique<QTemporaryFile>();
-        m_isKept = m_kept->open() && writeAll(*m_kept, (toPlainText() + text).toLocal8Bit());
+        m_isKept = m_kept->open() && writeAll(*m_kept, m_text.toLocal8Bit());
+        m_text.clear();
     }
+    if (m_kept)
+        m_isKept = m_isKept && writeAll(*m_kept, text.toLocal8Bit());
+    else
+        m_text += text;
 }
 
 void LogBrowser::showEndOnly()
@@ -162,7 +167,9 @@ void LogBrowser::showEndOnly()
 
 bool LogBrowser::save(QIODevice &device) const
 {
-    if (!m_kept || !m_isKept || !m_kept->flush())
+    if (!m_kept)
+        return writeAll(device, m_text.toLocal8Bit());
+    if (!m_isKept || !m_kept->flush())
         return writeAll(device, toPlainText().toLocal8Bit());
     QFile file(m_kept->fileName());
     if (!file.open(QIODevice::ReadOnly))

@@ -38,8 +38,8 @@ private:
     void showEndOnly();
 
     bool m_lineIsUnfinished = false;
-    std::unique_ptr<QTemporaryFile>
-        m_kept;           ///< the whole text, in the local encoding, once it is long
-    bool m_isKept = true; ///< not when there was no room for it
-    qint64 m_hidden = 0;  ///< characters that are no longer shown
+    QString m_text;                         ///< the whole text as it came, while it is not long
+    std::unique_ptr<QTemporaryFile> m_kept; ///< and then, in the local encoding
+    bool m_isKept = true;                   ///< not when there was no room for it
+    qint64 m_hidden = 0;                    ///< characters that are no longer shown
 };

@@ -1,6 +1,7 @@
 #include "log_browser.h"
 #include "row.h"
 
+#include <QBuffer>
 #include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
@@ -60,6 +61,38 @@ private slots:
         const int secondLine = 4 + browser.fontMetrics().lineSpacing() * 3 / 2;
         const int position = browser.cursorForPosition({4, secondLine}).position();
         QVERIFY(position > 0 && text[position - 1] == ' ');
+    }
+
+    void savesAllThatCame_data()
+    {
+        QTest::addColumn<QString>("piece");
+        QTest::addColumn<int>("pieces");
+        QTest::addColumn<bool>("showsAll");
+        row("a long line", QString("0123456789").repeated(1000), 3, true);
+        row("a long text", QString("a line of a long text\n").repeated(1000), 60, true);
+        row("more than can be shown", QString("\n").repeated(20'000), 100, false);
+    }
+    void savesAllThatCame()
+    {
+        QFETCH(QString, piece);
+        QFETCH(int, pieces);
+        QFETCH(bool, showsAll);
+        LogBrowser browser;
+        browser.resize(200, 100);
+        browser.show();
+        browser.setText("first\n");
+        for (int i = 0; i < pieces; ++i)
+            browser.write(piece);
+        browser.append("last");
+        QBuffer saved;
+        QVERIFY(saved.open(QIODevice::WriteOnly) && browser.save(saved));
+        const QByteArray all = "first\n" + piece.repeated(pieces).toLocal8Bit();
+        QVERIFY(saved.data().startsWith(all.left(all.size() - 1)) && saved.data().endsWith("last"));
+        QVERIFY(saved.size() - all.size() <= 5);
+        const QString shown = browser.toPlainText();
+        QVERIFY(shown.endsWith("\nlast"));
+        QCOMPARE(shown.startsWith("first"), showsAll);
+        QCOMPARE(shown.left(100).contains("older characters are not shown"), !showsAll);
     }
 
     void keepsThePlaceOfAReader()
