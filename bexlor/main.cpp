@@ -54,11 +54,12 @@ std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const A
 bool generate(Progress &progress, const Arguments &arguments, const QString &folder)
 {
     removeLogs();
-    if (!checkFiles(progress, arguments))
+    const std::optional<Arguments> usable = checkArguments(progress, arguments);
+    if (!usable)
         return false;
-    const Compiler compiler = findCompiler(arguments);
-    const std::optional<Facts> facts = learn(progress, compiler, arguments, folder);
-    return facts && writePersonality(progress, arguments, compiler, *facts);
+    const Compiler compiler = findCompiler(*usable);
+    const std::optional<Facts> facts = learn(progress, compiler, *usable, folder);
+    return facts && writePersonality(progress, *usable, compiler, *facts);
 }
 
 } // namespace

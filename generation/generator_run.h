@@ -1,9 +1,12 @@
 #pragma once
 
+#include "process_tree.h"
+
 #include <QProcess>
 #include <QStringDecoder>
 
-/// One run of the generator. The program ends with this object at the latest.
+/// One run of the generator. The program and all that it starts end with this object at the latest
+/// and, while there is a ProgramGuard, with the wizard.
 class GeneratorRun : public QProcess
 {
     Q_OBJECT
@@ -14,8 +17,8 @@ public:
     ~GeneratorRun() override;
 
     /// Starts the program \a arguments[0] with the others as its arguments, without a shell, in the
-    /// current directory. The program is looked for along the PATH and then beside the wizard's
-    /// own. Reports a failure through errorOccurred().
+    /// current directory. The program is looked for along the PATH and beside the wizard's own, in
+    /// the host's order. Reports a failure through errorOccurred().
     void startProgram(const QStringList &arguments);
 
     /// Ends the program if it runs; finished() has been emitted when this returns.
@@ -27,6 +30,7 @@ public:
     QString readText();
 
 private:
+    platform::ProcessTree m_tree {*this};
     QStringDecoder m_decoder {QStringDecoder::System};
     bool m_carriageReturnWaits = false;
 };

@@ -2,7 +2,9 @@
 
 #include "generator_interface.h"
 #include "personality.h"
+#include "refusal.h"
 #include "text_file.h"
+#include "visible_text.h"
 
 #include <QFileInfo>
 
@@ -40,9 +42,11 @@ void leaveLogs(const QStringList &command, const platform::ProgramRun &run)
     platform::writeFile(generator::standardError, run.errors);
 }
 
-/// Why the files that the user names cannot be used, or an empty text.
+/// Why \a arguments are refused, or the files that they name cannot be used, or an empty text.
 QString problemWith(const Arguments &arguments)
 {
+    if (const QString reason = refusalReason(arguments); !reason.isEmpty())
+        return reason;
     const QFileInfo destination(QFileInfo(arguments.personality).absolutePath());
     if (!destination.isDir())
         return u"The folder of the personality does not exist: %1"_s.arg(destination.filePath());
@@ -57,6 +61,18 @@ QString problemWith(const Arguments &arguments)
             arguments.substituteHeaders);
     }
     return QString();
+}
+
+/// Leaves those of \a directories out that a line of a personality cannot hold.
+void leaveOutOddDirectories(Progress &progress, QStringList &directories)
+{
+    directories.removeIf([&progress](const QString &directory) {
+        const bool isOdd = !mayStandInPersonality(directory);
+        if (isOdd)
+            progress.say(u"Passed over, since it has a control character in its name: %1"_s.arg(
+                visibleText(directory)));
+        return isOdd;
+    });
 }
 
 /// Whether \a directory should not be given whole.
@@ -107,12 +123,25 @@ void removeLogs()
         QFile::remove(file);
 }
 
-bool checkFiles(Progress &progress, const Arguments &arguments)
+std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arguments)
 {
     const QString problem = problemWith(arguments);
-    if (!problem.isEmpty())
+    if (!problem.isEmpty()) {
         progress.say(problem);
-    return problem.isEmpty();
+        return {};
+    }
+    const std::pair<QLatin1StringView, QString> unseen[] = {
+        {"Template"_L1, arguments.templateFile},
+        {"Force-include file"_L1, arguments.forceIncludeFile},
+        {"Substitute headers"_L1, arguments.substituteHeaders},
+    };
+    for (const auto &[name, path] : unseen) {
+        if (!path.isEmpty())
+            progress.say(name + ": "_L1 + visibleText(path));
+    }
+    Arguments usable = arguments;
+    leaveOutOddDirectories(progress, usable.headerDirectories);
+    return usable;
 }
 
 std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner)
@@ -222,6 +251,8 @@ SearchPath findSearchPath(Progress &progress, const Questions &questions, const 
                                 probesOf(questions.runner()));
         path.directories = learnSearchPath(questions, scan.headers);
     }
+    leaveOutOddDirectories(progress, path.directories);
+    leaveOutOddDirectories(progress, path.forQuotedNames);
     progress.say(u"Found %1 on the search path."_s.arg(
         counted(path.directories.size(), "directory"_L1, "directories"_L1)));
     return path;

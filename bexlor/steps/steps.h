@@ -12,8 +12,9 @@
 /// Removes what an earlier run has left, which would be taken for this one's.
 void removeLogs();
 
-/// Whether the files that the user names can be used.
-bool checkFiles(Progress &progress, const Arguments &arguments);
+/// \a arguments without the header directories that cannot be used. Nothing when they are refused
+/// or the files that they name cannot be used. Says first which files are used that no page shows.
+std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arguments);
 
 /// What the compiler says to a probe that any compiler accepts. Leaves the logs.
 std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner);

@@ -95,6 +95,8 @@ private slots:
                                "template.p_c", "-fi", "first.h", "-sub", "stand-ins"},
                               {"-i", "headers"});
         QVERIFY2(generated.succeeded(), generated.output);
+        QVERIFY(generated.output.startsWith("Template: template.p_c\nForce-include file: first.h\n"
+                                            "Substitute headers: stand-ins\n"));
         workshop.checkBothTake("x.c", "gcc -include stdint.h -iquote quoted -x c -DMODE=c -std=c99",
                                {"-DFOO=1"});
         workshop.write("y.c", "#include <time.h>\n#include <mine.h>\n"
@@ -124,15 +126,17 @@ private slots:
         const Workshop workshop;
         workshop.write("headers/a.h", "#if AA + BB\n#endif\nextern __cc dd; int ee;\n");
         qputenv("BEXLOR_LEARN_ONLY", "1");
-        QByteArray said = "in 1 file.\n";
+        QByteArray last = "Wrote sub folder/mine.p_c\n";
         QString texts[2];
         for (QString &text : texts) {
             const ProgramRun generated =
                 workshop.generate("kov", "tcc", {"-xd", "AA=1,CC=2"}, {"-i", "headers"});
             QVERIFY2(generated.succeeded(), generated.output);
             text = workshop.read("sub folder/mine.p_c");
-            QVERIFY2(generated.output.contains(said), generated.output);
-            said = "Replaced sub folder/mine.p_c\n";
+            for (const QByteArray &said :
+                 {QByteArray("in 1 file.\n"), QByteArray(" predefined macros.\n"), last})
+                QVERIFY2(generated.output.contains(said), generated.output);
+            last = "Replaced sub folder/mine.p_c\n";
         }
         QVERIFY(texts[0].contains("\n\"-DAA=1\"\n\"-DCC=2\"\n"));
         QCOMPARE(texts[1], texts[0]);
@@ -218,6 +222,30 @@ private slots:
         QCOMPARE(QFile::exists(workshop.personality), says.isEmpty());
         QVERIFY(workshop.read("compile.bat").contains("odd compiler"));
         QCOMPARE(QDir(temporary).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+    }
+
+    void keepsControlCharactersOutOfThePersonality()
+    {
+        const Workshop workshop;
+        const QString compiler = workshop.folder.filePath("odd");
+        workshop.write("odd", "#!/bin/sh\ncase \"$*\" in\n"
+                              "*--version*) printf 'odd \\033[31mcc\\000 1.2\\n'; exit ;;\n"
+                              "*-dM*) printf '#define ODD a\\001b\\n#define EVEN 1\\n'; exit ;;\n"
+                              "esac\nexec tcc \"$@\"\n");
+        QFile::setPermissions(compiler, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        workshop.write("one\n-DEVIL=1/x.h", "__one\n");
+        workshop.write("headers/two\n-DEVIL=2/y.h", "__two\n");
+        workshop.write("headers/z\n-DEVIL=3.h", "__three\n");
+        const ProgramRun run =
+            workshop.generate("kov", compiler, {}, {"-i", "one\n-DEVIL=1", "-i", "headers"});
+        QVERIFY2(run.succeeded(), run.output);
+        QCOMPARE(run.output.count("it has a control character in its name"), 3);
+        const QString text = workshop.read("sub folder/mine.p_c");
+        QVERIFY2(!text.contains("EVIL") && text.contains("\"-DEVEN=1\""), qPrintable(text));
+        QVERIFY(text.contains("\n#: macro ODD undetermined\n"));
+        QVERIFY(text.contains("\n#: version odd [31mcc 1.2\n"));
+        for (const QChar character : text)
+            QVERIFY(character >= ' ' || character == '\n');
     }
 
     void letsTheLineOfAStepGrow()

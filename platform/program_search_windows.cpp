@@ -1,0 +1,15 @@
+#include "program_search.h"
+
+namespace platform {
+
+QStringList inHostOrder(QStringList candidates)
+{
+    return candidates;
+}
+
+bool prefersOwnFolder()
+{
+    return true;
+}
+
+} // namespace platform
