@@ -17,8 +17,8 @@ public:
     ~GeneratorRun() override;
 
     /// Starts the program \a arguments[0] with the others as its arguments, without a shell, in the
-    /// current directory. The program is looked for along the PATH and then beside the wizard's
-    /// own. Reports a failure through errorOccurred().
+    /// current directory. The program is looked for along the PATH and beside the wizard's own, in
+    /// the host's order. Reports a failure through errorOccurred().
     void startProgram(const QStringList &arguments);
 
     /// Ends the program if it runs; finished() has been emitted when this returns.

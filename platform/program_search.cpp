@@ -57,10 +57,13 @@ QString findCommand(const QString &word, const QString &searchPath)
 
 QString findProgram(const QString &name)
 {
-    QString path = QStandardPaths::findExecutable(name);
-    if (path.isEmpty())
-        path = QStandardPaths::findExecutable(name, {QCoreApplication::applicationDirPath()});
-    return path.isEmpty() ? name : path;
+    QStringList found {
+        QStandardPaths::findExecutable(name),
+        QStandardPaths::findExecutable(name, {QCoreApplication::applicationDirPath()})};
+    if (prefersOwnFolder())
+        found.swapItemsAt(0, 1);
+    found.removeAll(QString());
+    return found.value(0, name);
 }
 
 } // namespace platform

@@ -24,8 +24,12 @@ QStringList inHostOrder(QStringList candidates);
 /// in the host's order. Empty when there is none.
 QString findCommand(const QString &word, const QString &searchPath);
 
-/// The host's path of the program \a name, which is looked for along the PATH and then beside the
-/// running program; \a name itself when it is found in neither.
+/// Whether the host looks for a program beside the running one before it looks along the PATH, as
+/// Windows does when a program starts another (CreateProcess).
+bool prefersOwnFolder();
+
+/// The host's path of the program \a name, which is looked for along the PATH and beside the
+/// running program, in the host's order; \a name itself when it is found in neither.
 QString findProgram(const QString &name);
 
 } // namespace platform

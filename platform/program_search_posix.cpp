@@ -11,4 +11,9 @@ QStringList inHostOrder(QStringList candidates)
     return candidates;
 }
 
+bool prefersOwnFolder()
+{
+    return false;
+}
+
 } // namespace platform

@@ -7,4 +7,9 @@ QStringList inHostOrder(QStringList candidates)
     return candidates;
 }
 
+bool prefersOwnFolder()
+{
+    return true;
+}
+
 } // namespace platform

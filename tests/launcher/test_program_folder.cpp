@@ -37,12 +37,10 @@ private slots:
                       first + entry("b - C", "theirs") + entry("c - C", "c"));
         for (int start = 0; start < 2; ++start) {
             QCOMPARE(bringUpToDate(shipped, own), QStringList());
-            QCOMPARE(readTestFile(own + "/bin/compilers.txt"),
-                     first + entry("b - C", "mine")
-                         + readTestFile(own + "/bin/compilers.txt")
-                               .mid((first + entry("b - C", "mine")).size()));
-            QVERIFY(readTestFile(own + "/bin/compilers.txt").contains("<Name>c - C</Name>"));
-            QVERIFY(!readTestFile(own + "/bin/compilers.txt").contains("theirs"));
+            const QByteArray catalogue = readTestFile(own + "/bin/compilers.txt");
+            QVERIFY(catalogue.startsWith(first + entry("b - C", "mine")));
+            QVERIFY(catalogue.count("<Name>c - C</Name>") == 1);
+            QVERIFY(!catalogue.contains("theirs"));
             QCOMPARE(readTestFile(own + "/images/review.bmp"), "2");
             for (const char *file : {"SubstituteHeaders/in/here.h",
                                      "TemplatePersonalities/mine.p_c", "bin/settings.txt"})

@@ -92,6 +92,13 @@ private slots:
         qputenv("PATH", "");
         QCOMPARE(platform::findProgram(QFileInfo(own).fileName()), own);
         QCOMPARE(platform::findProgram("no-such-program.exe"), "no-such-program.exe");
+
+        const QTemporaryDir folder;
+        const QString other = folder.filePath(QFileInfo(own).fileName());
+        QVERIFY(QFile::copy(own, other));
+        qputenv("PATH", folder.path().toLocal8Bit());
+        QCOMPARE(platform::findProgram(QFileInfo(own).fileName()),
+                 QDir::separator() == '/' ? other : own);
         qputenv("PATH", previous);
     }
 };
