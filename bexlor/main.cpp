@@ -6,6 +6,7 @@
 // step failed, 2 for a command line that usage() does not allow.
 
 #include "process_tree.h"
+#include "request.h"
 #include "steps.h"
 
 #include <QCoreApplication>
@@ -51,26 +52,10 @@ std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const A
     return facts;
 }
 
-bool generate(Progress &progress, const Arguments &arguments, const QString &folder)
-{
-    removeLogs();
-    if (!checkFiles(progress, arguments))
-        return false;
-    const Compiler compiler = findCompiler(arguments);
-    const std::optional<Facts> facts = learn(progress, compiler, arguments, folder);
-    return facts && writePersonality(progress, arguments, compiler, *facts);
-}
+// run() does what a command line asks for, and returns the exit status.
 
-} // namespace
-
-int main(int argc, char *argv[])
+int run(const Arguments &arguments)
 {
-    QCoreApplication application(argc, argv);
-    const std::optional<Arguments> arguments = parseArguments(application.arguments().mid(1));
-    if (!arguments) {
-        std::fprintf(stderr, "%s\n", usage().toLocal8Bit().constData());
-        return 2;
-    }
     Progress progress(&print);
     QTemporaryDir workshop;
     if (!workshop.isValid()) {
@@ -79,5 +64,38 @@ int main(int argc, char *argv[])
     }
     const platform::ProgramGuard guard(workshop.path());
     const ProgressClock clock(progress);
-    return generate(progress, *arguments, workshop.path()) ? 0 : 1;
+    removeLogs();
+    if (!checkFiles(progress, arguments))
+        return 1;
+    const Compiler compiler = findCompiler(arguments);
+    const std::optional<Facts> facts = learn(progress, compiler, arguments, workshop.path());
+    return facts && writePersonality(progress, arguments, compiler, *facts) ? 0 : 1;
+}
+
+int run(const HelpRequest &)
+{
+    print(help() + u'\n');
+    return 0;
+}
+
+int run(const VersionRequest &)
+{
+    print(u"Bexlor " BEXLOR_VERSION "\n"_s);
+    return 0;
+}
+
+int run(const UsageError &error)
+{
+    const QString lines = error.sentence + u'\n' + usage() + u'\n';
+    std::fputs(lines.toLocal8Bit().constData(), stderr);
+    return 2;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication application(argc, argv);
+    return std::visit([](const auto &request) { return run(request); },
+                      parseRequest(application.arguments().mid(1)));
 }

@@ -2,7 +2,7 @@
 
 #include <QString>
 #include <QStringList>
-#include <optional>
+#include <variant>
 
 /// How a compile command is put together.
 struct CommandLayout
@@ -31,9 +31,11 @@ struct Arguments
     bool reduceFileSize = false;
 };
 
-/// One line that says how the generator is called.
-QString usage();
+/// Why a command line is not one that usage() allows: a sentence that names the argument.
+struct UsageError
+{
+    QString sentence;
+};
 
-/// Takes \a list, the command line without the program's name, apart. Nothing when it is not made
-/// as usage() says.
-std::optional<Arguments> parseArguments(const QStringList &list);
+/// Takes \a list, the answers of the wizard, apart.
+std::variant<UsageError, Arguments> parseArguments(const QStringList &list);

@@ -1,0 +1,67 @@
+#include "request.h"
+
+#include "argument_reader.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+template <typename Wanted>
+Request parseAlone(ArgumentReader &reader)
+{
+    return reader.isComplete() ? Request(Wanted()) : reader.error();
+}
+
+/// A first argument that is no product, and what takes apart what stands behind it.
+const struct CommandWord
+{
+    QLatin1StringView word;
+    Request (*parse)(ArgumentReader &reader);
+} commandWords[] = {
+    {"--help"_L1, &parseAlone<HelpRequest>},
+    {"--version"_L1, &parseAlone<VersionRequest>},
+};
+
+} // namespace
+
+QString usage()
+{
+    return u"usage: Bexlor.exe kov|kovpp cmp|ccmp COMMAND OUTPUT-FLAG OBJECT-FLAG DEFINE-FLAG "
+           "OBJECT-EXTENSION ORDER {-i DIRECTORY} -op PERSONALITY [-xd DEFINES] [-xs SWITCHES] "
+           "[-tpl FILE] [-fi FILE] [-sub DIRECTORY] [-rfs]\n"
+           "       Bexlor.exe --help|--version"_s;
+}
+
+QString help()
+{
+    return u"Asks a compiler about itself and writes its personality: a file of options, by which "
+           "clang\nsees code as that compiler does.\n\n"_s
+         + usage()
+         + u"\n\n"
+           "  kov, kovpp        the code is C, or C++\n"
+           "  cmp, ccmp         the compiler's programs run on this machine, or on another\n"
+           "  COMMAND           starts the compiler, with the options that it always gets\n"
+           "  ...-FLAG          each may be empty, and so may the extension\n"
+           "  ORDER             of a compile command: %c the command, %o the output flag, %e the\n"
+           "                    output, %d each define behind its flag, %j the object flag, %s "
+           "the\n"
+           "                    source; for example \"%c %o %e %d%j %s \"\n"
+           "  -i DIRECTORY      that holds the compiler's headers or programs\n"
+           "  -op PERSONALITY   the file to write\n"
+           "  -xd DEFINES       NAME or NAME=VALUE, separated by commas\n"
+           "  -xs SWITCHES      added to the command, separated by commas\n"
+           "  -tpl FILE         of options that come first\n"
+           "  -fi FILE          that is included before every source\n"
+           "  -sub DIRECTORY    of headers that take the place of the compiler's\n"
+           "  -rfs              for a compiler with small buffers"_s;
+}
+
+Request parseRequest(const QStringList &list)
+{
+    ArgumentReader reader(list);
+    for (const CommandWord &row : commandWords) {
+        if (reader.flag(row.word))
+            return row.parse(reader);
+    }
+    return std::visit([](const auto &parsed) { return Request(parsed); }, parseArguments(list));
+}
