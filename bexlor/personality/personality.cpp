@@ -222,7 +222,8 @@ QList<Option> optionsOf(const Section &section, const Personality &personality)
 {
     if (section.options)
         return personality.*section.options;
-    QList<Option> options {{"-undef"}};
+    // From version 19 on, clang warns of every macro of its own that is taken back.
+    QList<Option> options {{"-undef"}, {"-Wno-builtin-macro-redefined"}};
     for (const QByteArray &name : macrosOfClang())
         options.append({"-U" + name});
     for (const Macro &macro : personality.facts.macros.known)

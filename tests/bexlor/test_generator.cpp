@@ -119,6 +119,31 @@ private slots:
         workshop.checkBothTake("x.cpp", command, {});
     }
 
+    void isQuietInEveryClang_data()
+    {
+        QTest::addColumn<QString>("product");
+        for (const char *compiler :
+             {"gcc", "arm-none-eabi-gcc", "avr-gcc", "sdcc", "tcc", "x86_64-w64-mingw32-gcc"})
+            row(compiler, QString("kov"));
+        row("g++", QString("kovpp"));
+    }
+    void isQuietInEveryClang()
+    {
+        QFETCH(QString, product);
+        const Workshop workshop;
+        const ProgramRun generated = workshop.generate(product, QTest::currentDataTag());
+        QVERIFY2(generated.succeeded(), generated.output);
+        const QString source = product == "kovpp" ? "x.cpp" : "x.c";
+        for (const char *code : {"", "int main(void) { return 0; }\n"}) {
+            workshop.write(source, code);
+            for (const char *clang : {"clang-14", "clang-19"}) {
+                const ProgramRun seen = workshop.run(
+                    {clang, "--config", workshop.personality, "-Werror", "-fsyntax-only", source});
+                QVERIFY2(seen.succeeded() && seen.errors.isEmpty(), seen.errors);
+            }
+        }
+    }
+
     void givesTheSameBytesForTheSameAnswers()
     {
         const Workshop workshop;
