@@ -3,8 +3,10 @@
 // Progress goes to the standard output, one line for each step, which grows while the step goes on.
 // The command attempted, and what it wrote, are left in the working directory as compile.bat,
 // stdout.log and stderr.log. The exit status is 0 when the personality has been written, 1 when a
-// step failed, 2 for a command line that usage() does not allow.
+// step failed, 2 for a command line that usage() does not allow, and 3 when a personality that was
+// to be verified has changed.
 
+#include "again.h"
 #include "process_tree.h"
 #include "request.h"
 #include "steps.h"
@@ -12,6 +14,7 @@
 #include <QCoreApplication>
 #include <QTemporaryDir>
 #include <cstdio>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -24,19 +27,19 @@ void print(const QString &text)
     std::fflush(stdout);
 }
 
-/// Asks \a compiler for all facts. Nothing when a step fails.
+/// Asks \a compiler for all facts, with \a folder for temporary files. Nothing when a step fails.
 std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const Arguments &arguments,
-                           const QString &folder)
+                           const QString &folder, const QString &logFolder)
 {
     const ProbeRunner runner(compiler, folder, arguments.reduceFileSize);
-    const std::optional<ProbeAnswer> first = compileFirstProbe(progress, runner);
+    const std::optional<ProbeAnswer> first = compileFirstProbe(progress, runner, logFolder);
     if (!first)
         return {};
     const DialectAnswers listed = askForListings(progress, compiler, *first, folder);
     const HeaderScan scan = readDirectories(progress, arguments.headerDirectories);
     const Questions questions = findHowToAsk(progress, runner);
     const std::optional<MacroFacts> macros =
-        findMacros(progress, questions, listed.macros, scan.names);
+        findMacros(progress, questions, listed.macros, scan.names, logFolder);
     if (!macros)
         return {};
 
@@ -46,15 +49,50 @@ std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const A
     facts.types = measureTypes(progress, questions);
     facts.keywords = findKeywords(progress, questions, scan, facts);
     facts.searchPath = findSearchPath(progress, questions, listed.searchPath, scan);
-    if (!worksStill(progress, runner))
+    if (!worksStill(progress, runner, logFolder))
         return {};
     progress.say(u"The compiler was started %1 times."_s.arg(runner.compilersStarted()));
     return facts;
 }
 
-// run() does what a command line asks for, and returns the exit status.
+/// The text of the personality that \a arguments ask for; see learn().
+std::optional<QByteArray> makePersonality(Progress &progress, const Arguments &arguments,
+                                          const QString &folder, const QString &logFolder)
+{
+    if (!checkFiles(progress, arguments))
+        return {};
+    const Compiler compiler = findCompiler(arguments);
+    const std::optional<Facts> facts = learn(progress, compiler, arguments, folder, logFolder);
+    if (!facts)
+        return {};
+    return textOfPersonality(arguments, compiler, *facts);
+}
 
-int run(const Arguments &arguments)
+bool generate(Progress &progress, const Arguments &arguments, const QString &folder)
+{
+    removeLogs();
+    const std::optional<QByteArray> text = makePersonality(progress, arguments, folder, u"."_s);
+    return text && writePersonality(progress, arguments.personality, *text);
+}
+
+/// Says what has changed since a personality was written, and returns the exit status.
+int verify(Progress &progress, const EarlierPersonality &earlier, const QString &folder)
+{
+    const std::optional<QByteArray> text =
+        makePersonality(progress, earlier.arguments, folder, folder);
+    if (!text)
+        return 1;
+    const QStringList changes = changesBetween(earlier.text, *text);
+    for (const QString &change : changes)
+        progress.say(change);
+    if (!changes.isEmpty())
+        return 3;
+    progress.say(u"Nothing has changed."_s);
+    return 0;
+}
+
+/// Does \a work, which is given a folder for temporary files, and returns its exit status.
+int inWorkshop(const std::function<int(Progress &progress, const QString &folder)> &work)
 {
     Progress progress(&print);
     QTemporaryDir workshop;
@@ -64,12 +102,33 @@ int run(const Arguments &arguments)
     }
     const platform::ProgramGuard guard(workshop.path());
     const ProgressClock clock(progress);
-    removeLogs();
-    if (!checkFiles(progress, arguments))
+    return work(progress, workshop.path());
+}
+
+// run() does what a command line asks for, and returns the exit status.
+
+int run(const Arguments &arguments)
+{
+    return inWorkshop([&arguments](Progress &progress, const QString &folder) {
+        return generate(progress, arguments, folder) ? 0 : 1;
+    });
+}
+
+int run(const AgainRequest &request)
+{
+    const auto read = readEarlierPersonality(request.personality);
+    if (const auto *problem = std::get_if<QString>(&read)) {
+        print(*problem + u'\n');
         return 1;
-    const Compiler compiler = findCompiler(arguments);
-    const std::optional<Facts> facts = learn(progress, compiler, arguments, workshop.path());
-    return facts && writePersonality(progress, arguments, compiler, *facts) ? 0 : 1;
+    }
+    const auto &earlier = std::get<EarlierPersonality>(read);
+    return inWorkshop([&](Progress &progress, const QString &folder) {
+        if (!earlier.remark.isEmpty())
+            progress.say(earlier.remark);
+        if (request.verifiesOnly)
+            return verify(progress, earlier, folder);
+        return generate(progress, earlier.arguments, folder) ? 0 : 1;
+    });
 }
 
 int run(const HelpRequest &)

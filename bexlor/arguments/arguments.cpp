@@ -4,6 +4,8 @@
 #include "comma_list.h"
 #include "generator_interface.h"
 
+#include <QDir>
+
 std::variant<UsageError, Arguments> parseArguments(const QStringList &list)
 {
     ArgumentReader reader(list);
@@ -20,6 +22,7 @@ std::variant<UsageError, Arguments> parseArguments(const QStringList &list)
         arguments.headerDirectories << reader.path();
     reader.expect(generator::personality);
     arguments.personality = reader.path();
+    const qsizetype pathIndex = reader.taken() - 1;
     if (reader.flag(generator::defines))
         arguments.defines = splitCommaList(reader.value());
     if (reader.flag(generator::switches))
@@ -33,5 +36,7 @@ std::variant<UsageError, Arguments> parseArguments(const QStringList &list)
     arguments.reduceFileSize = reader.flag(generator::reduceFileSize);
     if (!reader.isComplete())
         return reader.error();
+    arguments.answers = {QDir::currentPath(), list};
+    arguments.answers.arguments[pathIndex].clear();
     return arguments;
 }

@@ -14,6 +14,15 @@ struct CommandLayout
     QString order;           ///< order token string
 };
 
+/// A command line, and the folder that relative paths in it start from.
+struct CommandLine
+{
+    QString directory;
+    QStringList arguments; ///< without the program's name
+
+    bool operator==(const CommandLine &) const = default;
+};
+
 /// What the generator has been asked for: its command line, taken apart. Paths are the host's.
 struct Arguments
 {
@@ -29,6 +38,8 @@ struct Arguments
     QString forceIncludeFile;
     QString substituteHeaders;
     bool reduceFileSize = false;
+    CommandLine answers; ///< the list that all this was taken from, with an empty text as the path
+                         ///< of the personality
 };
 
 /// Why a command line is not one that usage() allows: a sentence that names the argument.

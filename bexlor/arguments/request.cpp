@@ -6,6 +6,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+Request parseAgain(ArgumentReader &reader)
+{
+    AgainRequest request;
+    request.personality = reader.path();
+    request.verifiesOnly = reader.flag("--verify"_L1);
+    return reader.isComplete() ? Request(request) : reader.error();
+}
+
 template <typename Wanted>
 Request parseAlone(ArgumentReader &reader)
 {
@@ -18,6 +26,7 @@ const struct CommandWord
     QLatin1StringView word;
     Request (*parse)(ArgumentReader &reader);
 } commandWords[] = {
+    {"again"_L1, &parseAgain},
     {"--help"_L1, &parseAlone<HelpRequest>},
     {"--version"_L1, &parseAlone<VersionRequest>},
 };
@@ -29,6 +38,7 @@ QString usage()
     return u"usage: Bexlor.exe kov|kovpp cmp|ccmp COMMAND OUTPUT-FLAG OBJECT-FLAG DEFINE-FLAG "
            "OBJECT-EXTENSION ORDER {-i DIRECTORY} -op PERSONALITY [-xd DEFINES] [-xs SWITCHES] "
            "[-tpl FILE] [-fi FILE] [-sub DIRECTORY] [-rfs]\n"
+           "       Bexlor.exe again PERSONALITY [--verify]\n"
            "       Bexlor.exe --help|--version"_s;
 }
 
@@ -53,7 +63,10 @@ QString help()
            "  -tpl FILE         of options that come first\n"
            "  -fi FILE          that is included before every source\n"
            "  -sub DIRECTORY    of headers that take the place of the compiler's\n"
-           "  -rfs              for a compiler with small buffers"_s;
+           "  -rfs              for a compiler with small buffers\n\n"
+           "again generates PERSONALITY once more, from the answers that it holds. With --verify "
+           "it "
+           "writes\nnothing, and lists what has changed since."_s;
 }
 
 Request parseRequest(const QStringList &list)

@@ -4,6 +4,13 @@
 
 #include <variant>
 
+/// To generate a personality once more.
+struct AgainRequest
+{
+    QString personality;       ///< the host's path
+    bool verifiesOnly = false; ///< and to write nothing, but tell what has changed
+};
+
 /// To say how the generator is called.
 struct HelpRequest
 {
@@ -15,7 +22,7 @@ struct VersionRequest
 };
 
 /// What a command line asks for.
-using Request = std::variant<UsageError, Arguments, HelpRequest, VersionRequest>;
+using Request = std::variant<UsageError, Arguments, AgainRequest, HelpRequest, VersionRequest>;
 
 /// The lines that say how the generator is called, without a line feed behind the last.
 QString usage();

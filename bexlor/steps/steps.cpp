@@ -4,6 +4,7 @@
 #include "personality.h"
 #include "text_file.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -32,12 +33,14 @@ QString howItEnded(const platform::ProgramRun &run)
     return u"the compiler returned %1"_s.arg(run.exitCode);
 }
 
-/// Leaves \a command and what it wrote in the working directory.
-void leaveLogs(const QStringList &command, const platform::ProgramRun &run)
+/// Leaves \a command and what it wrote in \a folder.
+void leaveLogs(const QString &folder, const QStringList &command, const platform::ProgramRun &run)
 {
-    platform::writeTextFile(generator::attemptedCommand, commandLine(command) + u'\n');
-    platform::writeFile(generator::standardOutput, run.output);
-    platform::writeFile(generator::standardError, run.errors);
+    const QDir logs(folder);
+    platform::writeTextFile(logs.filePath(generator::attemptedCommand),
+                            commandLine(command) + u'\n');
+    platform::writeFile(logs.filePath(generator::standardOutput), run.output);
+    platform::writeFile(logs.filePath(generator::standardError), run.errors);
 }
 
 /// Why the files that the user names cannot be used, or an empty text.
@@ -115,11 +118,12 @@ bool checkFiles(Progress &progress, const Arguments &arguments)
     return problem.isEmpty();
 }
 
-std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner)
+std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner,
+                                             const QString &logFolder)
 {
     const ProgressStep step(progress, u"Compiling a first probe ..."_s, &nothing);
     const ProbeAnswer answer = runner.ask(firstProbe);
-    leaveLogs(runner.command(), answer.run);
+    leaveLogs(logFolder, runner.command(), answer.run);
     if (answer.compiled())
         return answer;
     progress.say(u"Compiling the first probe failed: %1."_s.arg(howItEnded(answer.run)));
@@ -173,7 +177,8 @@ Questions findHowToAsk(Progress &progress, const ProbeRunner &runner)
 }
 
 std::optional<MacroFacts> findMacros(Progress &progress, const Questions &questions,
-                                     const QList<Macro> &listed, const QList<ScannedName> &names)
+                                     const QList<Macro> &listed, const QList<ScannedName> &names,
+                                     const QString &logFolder)
 {
     MacroFacts macros {listed, {}};
     if (listed.isEmpty()) {
@@ -185,7 +190,7 @@ std::optional<MacroFacts> findMacros(Progress &progress, const Questions &questi
         const ProbeRunner &runner = questions.runner();
         const ProgressStep step(progress, u"Looking for predefined macros ..."_s, probesOf(runner));
         macros = learnMacros(questions, macroCandidates(names, runner.compiler().defines));
-        if (!worksStill(progress, runner))
+        if (!worksStill(progress, runner, logFolder))
             return {};
     }
     QString found =
@@ -227,27 +232,30 @@ SearchPath findSearchPath(Progress &progress, const Questions &questions, const 
     return path;
 }
 
-bool worksStill(Progress &progress, const ProbeRunner &runner)
+bool worksStill(Progress &progress, const ProbeRunner &runner, const QString &logFolder)
 {
     const ProgressStep step(progress, u"Compiling the first probe again ..."_s, &nothing);
     const ProbeAnswer again = runner.ask(firstProbe);
     if (again.compiled())
         return true;
-    leaveLogs(runner.command(), again.run);
+    leaveLogs(logFolder, runner.command(), again.run);
     progress.say(u"The first probe no longer compiles: %1."_s.arg(howItEnded(again.run)));
     return false;
 }
 
-bool writePersonality(Progress &progress, const Arguments &arguments, const Compiler &compiler,
-                      const Facts &facts)
+QByteArray textOfPersonality(const Arguments &arguments, const Compiler &compiler,
+                             const Facts &facts)
 {
     const QByteArray templateText =
         platform::readTextFile(arguments.templateFile).value_or(QString()).toUtf8();
-    const Personality personality =
-        composePersonality(arguments, facts, compiler.includedFirst, templateText);
-    const QString &path = arguments.personality;
+    return personalityText(
+        composePersonality(arguments, facts, compiler.includedFirst, templateText));
+}
+
+bool writePersonality(Progress &progress, const QString &path, const QByteArray &text)
+{
     const bool isThere = QFileInfo::exists(path);
-    if (!platform::writeFile(path, personalityText(personality))) {
+    if (!platform::writeFile(path, text)) {
         progress.say(u"The personality cannot be written: %1"_s.arg(path));
         return false;
     }

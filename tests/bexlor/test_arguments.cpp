@@ -46,6 +46,8 @@ private slots:
         row("unknown option", plain() + QStringList {"-x", "y"}, "Argument 11 is not.*: -x$");
         row("option without a value", plain() + QStringList {"-xd"}, "last one: -xd$");
         row("wrong order", plain() + QStringList {"-rfs", "-xd", "A"}, "Argument 12 .*: -xd$");
+        row("no personality", QStringList {"again"}, "last one: again$");
+        row("unknown flag", QStringList {"again", "x", "--x"}, "Argument 3 .*: --x$");
         row("more than a word", QStringList {"--help", "me"}, "Argument 2 .*: me$");
     }
     void namesTheWrongArgument()

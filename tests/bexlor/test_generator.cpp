@@ -163,6 +163,51 @@ private slots:
         QCOMPARE(texts[1], texts[0]);
     }
 
+    void generatesOnceMore()
+    {
+        const Workshop workshop;
+        workshop.write("-op/a.h", "#if AA\n#endif\n");
+        workshop.write("b.h", "");
+        workshop.write("t.p_c", "-DTEMPLATE=1\n");
+        const ProgramRun generated =
+            workshop.generate("kov", "gcc -DODD=\"x -include b.h",
+                              {"-xd", "AA=\"1,2\",BB", "-xs", "-std=c99", "-tpl", "t.p_c", "-fi",
+                               "b.h", "-sub", "-op"},
+                              {"-i", "-op"});
+        QVERIFY2(generated.succeeded(), generated.output);
+        const QByteArray text = readTestFile(workshop.personality);
+        const QString elsewhere = workshop.folder.filePath("elsewhere");
+        QDir().mkdir(elsewhere);
+        QFile::rename(workshop.personality, elsewhere + "/moved.p_c");
+        QFile::remove(workshop.folder.filePath("compile.bat"));
+        const auto again = [&elsewhere](const QStringList &more) {
+            return platform::runProgram(QStringList {GENERATOR, "again", "moved.p_c"} + more,
+                                        elsewhere, 600'000);
+        };
+        const ProgramRun same = again({"--verify"});
+        QVERIFY2(same.succeeded() && same.output.endsWith("\nNothing has changed.\n"), same.output);
+        QVERIFY(!QFile::exists(workshop.folder.filePath("compile.bat")));
+
+        QByteArray changed = text;
+        changed.replace("\"-DBB=1\"\n", "").replace(" int, size 4", " int, size 5");
+        writeTestFile(elsewhere + "/moved.p_c", changed);
+        const ProgramRun differs = again({"--verify"});
+        QCOMPARE(differs.exitCode, 3);
+        QVERIFY2(differs.output.endsWith("\ntype: - int, size 5, alignment 4\n"
+                                         "type: + int, size 4, alignment 4\n"
+                                         "Predefined macros: + \"-DBB=1\"\n"),
+                 differs.output);
+        QCOMPARE(readTestFile(elsewhere + "/moved.p_c"), changed);
+
+        const ProgramRun once = again({});
+        QVERIFY2(once.succeeded(), once.output);
+        QCOMPARE(readTestFile(elsewhere + "/moved.p_c"), text);
+
+        writeTestFile(elsewhere + "/moved.p_c", "-DX=1\n");
+        QCOMPARE(again({}).exitCode, 1);
+        QCOMPARE(readTestFile(elsewhere + "/moved.p_c"), "-DX=1\n");
+    }
+
     void refusesFilesThatAreMissing_data()
     {
         QTest::addColumn<QString>("option");
