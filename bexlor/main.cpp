@@ -155,6 +155,14 @@ int run(const UsageError &error)
 int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
-    return std::visit([](const auto &request) { return run(request); },
-                      parseRequest(application.arguments().mid(1)));
+    const Request request = parseRequest(application.arguments().mid(1));
+    if (const auto *error = std::get_if<UsageError>(&request))
+        return run(*error);
+    if (const auto *arguments = std::get_if<Arguments>(&request))
+        return run(*arguments);
+    if (const auto *again = std::get_if<AgainRequest>(&request))
+        return run(*again);
+    if (const auto *help = std::get_if<HelpRequest>(&request))
+        return run(*help);
+    return run(VersionRequest());
 }
