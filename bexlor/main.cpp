@@ -7,11 +7,13 @@
 // to be verified has changed.
 
 #include "again.h"
+#include "check_steps.h"
 #include "process_tree.h"
 #include "request.h"
 #include "steps.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QTemporaryDir>
 #include <cstdio>
 #include <functional>
@@ -72,7 +74,10 @@ bool generate(Progress &progress, const Arguments &arguments, const QString &fol
 {
     removeLogs();
     const std::optional<QByteArray> text = makePersonality(progress, arguments, folder, u"."_s);
-    return text && writePersonality(progress, arguments.personality, *text);
+    if (!text || !writePersonality(progress, arguments.personality, *text))
+        return false;
+    checkHeaders(progress, arguments, folder);
+    return true;
 }
 
 /// Says what has changed since a personality was written, and returns the exit status.
@@ -131,6 +136,26 @@ int run(const AgainRequest &request)
     });
 }
 
+int run(CheckRequest request)
+{
+    for (QString *path : {&request.personality, &request.jsonFile}) {
+        if (!path->isEmpty())
+            *path = QDir::current().absoluteFilePath(*path);
+    }
+    for (QString &path : request.sources)
+        path = QDir::current().absoluteFilePath(path);
+    const auto read = readEarlierPersonality(request.personality);
+    if (const auto *problem = std::get_if<QString>(&read)) {
+        print(*problem + u'\n');
+        return 3;
+    }
+    const auto &earlier = std::get<EarlierPersonality>(read);
+    return inWorkshop([&](Progress &progress, const QString &folder) {
+        return checkWithPersonality(progress, request, earlier.arguments,
+                                    parsePersonality(earlier.text), folder);
+    });
+}
+
 int run(const HelpRequest &)
 {
     print(help() + u'\n');
@@ -162,6 +187,8 @@ int main(int argc, char *argv[])
         return run(*arguments);
     if (const auto *again = std::get_if<AgainRequest>(&request))
         return run(*again);
+    if (const auto *check = std::get_if<CheckRequest>(&request))
+        return run(*check);
     if (const auto *help = std::get_if<HelpRequest>(&request))
         return run(*help);
     return run(VersionRequest());

@@ -14,6 +14,24 @@ Request parseAgain(ArgumentReader &reader)
     return reader.isComplete() ? Request(request) : reader.error();
 }
 
+Request parseCheck(ArgumentReader &reader)
+{
+    CheckRequest request;
+    request.personality = reader.path();
+    request.preprocess = u"-E"_s;
+    do {
+        if (reader.flag("--json"_L1))
+            request.jsonFile = reader.path();
+        else if (reader.flag("--preprocess"_L1))
+            request.preprocess = reader.value();
+        else
+            request.sources << reader.path();
+    } while (!reader.isAtEnd());
+    if (request.sources.isEmpty())
+        request.sources << reader.path(); // which is missing
+    return reader.isComplete() ? Request(request) : reader.error();
+}
+
 template <typename Wanted>
 Request parseAlone(ArgumentReader &reader)
 {
@@ -27,11 +45,17 @@ const struct CommandWord
     Request (*parse)(ArgumentReader &reader);
 } commandWords[] = {
     {"again"_L1, &parseAgain},
+    {"check"_L1, &parseCheck},
     {"--help"_L1, &parseAlone<HelpRequest>},
     {"--version"_L1, &parseAlone<VersionRequest>},
 };
 
 } // namespace
+
+bool CheckRequest::isDatabase() const
+{
+    return sources.size() == 1 && sources.first().endsWith(".json"_L1);
+}
 
 QString usage()
 {
@@ -39,6 +63,8 @@ QString usage()
            "OBJECT-EXTENSION ORDER {-i DIRECTORY} -op PERSONALITY [-xd DEFINES] [-xs SWITCHES] "
            "[-tpl FILE] [-fi FILE] [-sub DIRECTORY] [-rfs]\n"
            "       Bexlor.exe again PERSONALITY [--verify]\n"
+           "       Bexlor.exe check PERSONALITY FILE...|DATABASE.json [--preprocess FLAG] "
+           "[--json FILE]\n"
            "       Bexlor.exe --help|--version"_s;
 }
 
@@ -66,7 +92,11 @@ QString help()
            "  -rfs              for a compiler with small buffers\n\n"
            "again generates PERSONALITY once more, from the answers that it holds. With --verify "
            "it "
-           "writes\nnothing, and lists what has changed since."_s;
+           "writes\nnothing, and lists what has changed since.\n\n"
+           "check tells whether clang, with PERSONALITY, accepts what the compiler accepts and "
+           "sees "
+           "the same\ncode. DATABASE.json is a compilation database; FLAG makes the compiler "
+           "preprocess, as -E does."_s;
 }
 
 Request parseRequest(const QStringList &list)

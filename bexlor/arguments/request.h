@@ -11,6 +11,17 @@ struct AgainRequest
     bool verifiesOnly = false; ///< and to write nothing, but tell what has changed
 };
 
+/// To check whether clang sees code as the compiler of a personality does.
+struct CheckRequest
+{
+    QString personality; ///< the host's path, like all others
+    QStringList sources; ///< files, or one compilation database
+    QString preprocess;  ///< the option that makes the compiler preprocess
+    QString jsonFile;    ///< to write the verdicts to, or empty
+
+    bool isDatabase() const;
+};
+
 /// To say how the generator is called.
 struct HelpRequest
 {
@@ -22,7 +33,8 @@ struct VersionRequest
 };
 
 /// What a command line asks for.
-using Request = std::variant<UsageError, Arguments, AgainRequest, HelpRequest, VersionRequest>;
+using Request =
+    std::variant<UsageError, Arguments, AgainRequest, CheckRequest, HelpRequest, VersionRequest>;
 
 /// The lines that say how the generator is called, without a line feed behind the last.
 QString usage();
