@@ -36,18 +36,6 @@ QStringList withOption(const CheckedSource &source, const QString &option)
     return command;
 }
 
-/// The headers that the compiler brings along and clang has its own of, by a personality that
-/// searches them behind all others.
-QStringList ownHeadersOf(const Personality &personality)
-{
-    QStringList folders;
-    for (const QString &directory : personality.facts.searchPath.directories) {
-        if (personality.searchPath.contains(Option {"-idirafter", directory.toUtf8()}))
-            folders << directory;
-    }
-    return folders;
-}
-
 /// Lets clang leave the keywords in the code that it would otherwise not understand.
 QStringList undefinedKeywords(const Personality &personality)
 {
@@ -119,6 +107,16 @@ std::optional<Clang> findClang()
     if (!found.hasMatch())
         return {};
     return clang;
+}
+
+QStringList ownHeadersOf(const Personality &personality)
+{
+    QStringList folders;
+    for (const QString &directory : personality.facts.searchPath.directories) {
+        if (personality.searchPath.contains(Option {"-idirafter", directory.toUtf8()}))
+            folders << directory;
+    }
+    return folders;
 }
 
 bool canCheckSyntaxOnly(const Compiler &compiler, const QString &folder)

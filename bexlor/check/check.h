@@ -40,7 +40,12 @@ struct Checking
     bool checksSyntaxOnly = false; ///< the compiler takes the GNU compilers' option for that
 };
 
-/// How \a compiler is best asked about many sources; \a folder is for a probe.
+/// The folders of headers that belong to the compiler of \a personality and that clang has its own
+/// of, which it finds first.
+QStringList ownHeadersOf(const Personality &personality);
+
+/// Whether \a compiler takes the GNU compilers' option to check a source and write nothing; \a
+/// folder is for probes.
 bool canCheckSyntaxOnly(const Compiler &compiler, const QString &folder);
 
 /// The verdicts on \a sources in their order, as many at a time as there are processors. \a done

@@ -5,6 +5,8 @@
 #include "text_file.h"
 
 #include <QDir>
+#include <algorithm>
+#include <random>
 
 using namespace Qt::StringLiterals;
 
@@ -44,23 +46,24 @@ QList<Verdict> checkWithProgress(Progress &progress, const QString &text, const 
     return checkSources(checking, sources, done, timeLimit);
 }
 
-/// The headers that can be included by their names alone, by folder; of too many, an evenly spread
-/// part.
-QStringList sampleOfHeaders(const QStringList &directories, bool isCpp)
+/// Some of the headers on the search path that can be included by their names alone. They are from
+/// all over it, so that a check that is cut short has not stayed in one corner, and the same ones
+/// each time. Those that clang has its own of tell nothing about the compiler's.
+QStringList sampleOfHeaders(const Personality &content, bool isCpp)
 {
+    const QStringList ownHeaders = ownHeadersOf(content);
     QStringList names;
-    for (const QString &directory : directories) {
+    for (const QString &directory : content.facts.searchPath.directories) {
+        if (ownHeaders.contains(directory))
+            continue;
         for (const QString &name : QDir(directory).entryList(QDir::Files)) {
             if (name.endsWith(".h"_L1) || (isCpp && !name.contains(u'.')))
                 names << name;
         }
     }
     names.removeDuplicates();
-    QStringList sample;
-    const qsizetype size = std::min<qsizetype>(names.size(), headersAtMost);
-    for (qsizetype i = 0; i < size; ++i)
-        sample << names[i * names.size() / size];
-    return sample;
+    std::shuffle(names.begin(), names.end(), std::minstd_rand());
+    return names.mid(0, headersAtMost);
 }
 
 } // namespace
@@ -112,8 +115,7 @@ void checkHeaders(Progress &progress, const Arguments &arguments, const QString 
     const Personality content = parsePersonality(written.bytes);
     const Compiler compiler = findCompiler(arguments);
     QList<CheckedSource> sources;
-    for (const QString &name :
-         sampleOfHeaders(content.facts.searchPath.directories, arguments.isCpp)) {
+    for (const QString &name : sampleOfHeaders(content, arguments.isCpp)) {
         const QString file =
             folder + u"/header_%1_"_s.arg(sources.size()) + probeName(arguments.isCpp);
         if (platform::writeScratchFile(file, "#include <" + QFile::encodeName(name) + ">\n"))

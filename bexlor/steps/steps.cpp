@@ -260,5 +260,9 @@ bool writePersonality(Progress &progress, const QString &path, const QByteArray 
         return false;
     }
     progress.say((isThere ? u"Replaced %1"_s : u"Wrote %1"_s).arg(path));
+    const QStringList option {u"--config"_s, QDir::current().absoluteFilePath(path)};
+    progress.say("  "_L1 + commandLine(QStringList {u"clang"_s} + option)
+                 + " -fsyntax-only FILE"_L1);
+    progress.say("  clang-tidy FILE -- "_L1 + commandLine(option));
     return true;
 }

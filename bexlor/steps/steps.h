@@ -54,5 +54,6 @@ bool worksStill(Progress &progress, const ProbeRunner &runner, const QString &lo
 QByteArray textOfPersonality(const Arguments &arguments, const Compiler &compiler,
                              const Facts &facts);
 
-/// Writes the personality \a text to \a path, over one that has been there before.
+/// Writes the personality \a text to \a path, over one that has been there before, and says how
+/// clang and clang-tidy take it.
 bool writePersonality(Progress &progress, const QString &path, const QByteArray &text);
