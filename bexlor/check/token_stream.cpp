@@ -16,6 +16,10 @@ const char *const pragmasOfThePreprocessor[] = {
     "once", "push_macro", "pop_macro", "GCC system_header", "GCC poison", "GCC warning",
 };
 
+// A declaration that a header of the C library leaves out behind the GNU compilers' <stdarg.h>, and
+// repeats behind clang's, which does not define the macro that it looks for.
+const char *const repeatedDeclaration[] = {"typedef", "__gnuc_va_list", "va_list", ";"};
+
 const char *const literalPrefixes[] = {"L", "u", "U", "u8", "R", "LR", "uR", "UR", "u8R"};
 
 bool isOfIdentifier(char character)
@@ -43,7 +47,7 @@ public:
         : m_text(source.text), m_ownHeaders(source.ownHeaders)
     { }
 
-    /// The next token, empty at the end.
+    /// The next token that counts, empty at the end.
     QByteArrayView next();
 
     QString file() const { return m_file; } ///< of the last token, like the next
@@ -55,6 +59,8 @@ private:
         return m_place + offset < m_text.size() ? m_text[m_place + offset] : '\0';
     }
 
+    QByteArrayView takeToken();
+    bool passRepeatedDeclaration();
     bool passSpace();
     bool passDirective();
     void readMarker(QByteArrayView directive);
@@ -65,8 +71,8 @@ private:
     qsizetype rawLiteralSize(qsizetype start) const;
     qsizetype punctuatorSize() const;
 
-    const QByteArrayView m_text;
-    const QStringList m_ownHeaders;
+    QByteArrayView m_text;
+    QStringList m_ownHeaders;
     qsizetype m_place = 0;
     bool m_atLineStart = true;
     bool m_isOwnHeader = false;
@@ -75,6 +81,23 @@ private:
 };
 
 QByteArrayView TokenStream::next()
+{
+    while (passRepeatedDeclaration()) { }
+    return takeToken();
+}
+
+bool TokenStream::passRepeatedDeclaration()
+{
+    TokenStream ahead = *this;
+    for (const char *expected : repeatedDeclaration) {
+        if (ahead.takeToken() != expected)
+            return false;
+    }
+    *this = ahead;
+    return true;
+}
+
+QByteArrayView TokenStream::takeToken()
 {
     QByteArrayView token;
     do {

@@ -47,6 +47,8 @@ private slots:
         row("option without a value", plain() + QStringList {"-xd"}, "last one: -xd$");
         row("wrong order", plain() + QStringList {"-rfs", "-xd", "A"}, "Argument 12 .*: -xd$");
         row("no personality", QStringList {"again"}, "last one: again$");
+        row("nothing to check", QStringList {"check", "x"}, "last one: x$");
+        row("no file", QStringList {"check", "x", "y", "--json"}, "last one: --json$");
         row("unknown flag", QStringList {"again", "x", "--x"}, "Argument 3 .*: --x$");
         row("more than a word", QStringList {"--help", "me"}, "Argument 2 .*: me$");
     }

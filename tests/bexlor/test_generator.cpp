@@ -210,6 +210,53 @@ private slots:
         QCOMPARE(readTestFile(elsewhere + "/moved.p_c"), "-DX=1\n");
     }
 
+    void checksWhetherClangSeesTheSame()
+    {
+        const Workshop workshop;
+        const ProgramRun generated = workshop.generate("kov", "gcc -I include");
+        QVERIFY2(generated.succeeded(), generated.output);
+        const QString says =
+            QString("/sub folder/mine.p_c\"? -fsyntax-only FILE\n  clang-tidy FILE -- --config "
+                    ".*\n(.*\n)?clang \\d+ accepts \\d+ of the \\d+ headers that the compiler "
+                    "accepts\\.\n");
+        QVERIFY2(QString(generated.output).contains(QRegularExpression(says)), generated.output);
+        workshop.write("same.c", "#include <stdarg.h>\n#include <stdio.h>\n#include \"x.h\"\n"
+                                 "int f(FILE *a, ...) { va_list b; va_start(b, a); return X; }\n");
+        workshop.write("include/x.h", "#define X Y\n");
+        workshop.write("other.c", "#ifdef __has_feature\nint a;\n#else\nint b;\n#endif\n");
+        workshop.write("nested.c", "void f(void) { void g(void) { } }\n");
+        workshop.write("wrong.c", "int int;\n");
+        const QString folder = QDir(workshop.folder.path()).canonicalPath();
+        workshop.write("all.json", ("[{\"directory\": \"" + folder
+                                    + "\", \"file\": \"same.c\", \"command\": "
+                                      "\"gcc -Iinclude -DY=1 -MD -o same.o -c same.c\"}]")
+                                       .toUtf8());
+        const QStringList before = QDir(folder).entryList();
+        const auto check = [&](const QStringList &sources) {
+            return workshop.run(QStringList {GENERATOR, "check", workshop.personality} + sources);
+        };
+
+        const ProgramRun all = check({"other.c", "nested.c", "wrong.c", "--json", "out.json"});
+        QCOMPARE(all.exitCode, 1);
+        for (const QByteArray line :
+             {"/other.c:4, where the compiler has \"b\" and clang has \"a\"\n",
+              "/nested.c: other: ", "/wrong.c: rejected by the compiler: ",
+              "clang 14 accepts 1 of the 2 sources", "Why clang rejects them:\n      1  other\n"})
+            QVERIFY2(all.output.contains(line), all.output);
+        QVERIFY(workshop.read("out.json").contains("\"rejected-by-clang\": 1"));
+        QFile::remove(workshop.folder.filePath("out.json"));
+
+        const ProgramRun listed = check({"all.json"});
+        QVERIFY2(listed.succeeded() && listed.output.contains("same.c: same\n"), listed.output);
+        QCOMPARE(QDir(folder).entryList(), before);
+        const ProgramRun blind = check({"other.c", "--preprocess", "--no-such"});
+        QVERIFY2(blind.succeeded() && blind.output.contains("not compared\n"), blind.output);
+        QCOMPARE(check({"nowhere.json"}).exitCode, 3);
+        QCOMPARE(workshop.run({"env", "PATH=", GENERATOR, "check", workshop.personality, "same.c"})
+                     .exitCode,
+                 3);
+    }
+
     void refusesFilesThatAreMissing_data()
     {
         QTest::addColumn<QString>("option");
