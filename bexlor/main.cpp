@@ -33,9 +33,9 @@ void print(const QString &text)
 std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const Arguments &arguments,
                            const QString &folder, const QString &logFolder)
 {
-    const ProbeRunner runner(compiler, folder, arguments.reduceFileSize);
+    ProbeRunner runner(compiler, folder, arguments.reduceFileSize);
     const std::optional<ProbeAnswer> first = compileFirstProbe(progress, runner, logFolder);
-    if (!first)
+    if (!first || !checkControls(progress, runner, *first))
         return {};
     const DialectAnswers listed = askForListings(progress, compiler, *first, folder);
     const HeaderScan scan = readDirectories(progress, arguments.headerDirectories);
@@ -51,7 +51,7 @@ std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const A
     facts.types = measureTypes(progress, questions);
     facts.keywords = findKeywords(progress, questions, scan, facts);
     facts.searchPath = findSearchPath(progress, questions, listed.searchPath, scan);
-    if (!worksStill(progress, runner, logFolder))
+    if (!worksStill(progress, runner, logFolder) || !checkCompleteness(progress, questions, facts))
         return {};
     progress.say(u"The compiler was started %1 times."_s.arg(runner.compilersStarted()));
     return facts;
@@ -61,13 +61,14 @@ std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const A
 std::optional<QByteArray> makePersonality(Progress &progress, const Arguments &arguments,
                                           const QString &folder, const QString &logFolder)
 {
-    if (!checkFiles(progress, arguments))
+    const std::optional<Arguments> usable = checkArguments(progress, arguments);
+    if (!usable)
         return {};
-    const Compiler compiler = findCompiler(arguments);
-    const std::optional<Facts> facts = learn(progress, compiler, arguments, folder, logFolder);
+    const Compiler compiler = findCompiler(*usable);
+    const std::optional<Facts> facts = learn(progress, compiler, *usable, folder, logFolder);
     if (!facts)
         return {};
-    return textOfPersonality(arguments, compiler, *facts);
+    return textOfPersonality(*usable, compiler, *facts);
 }
 
 bool generate(Progress &progress, const Arguments &arguments, const QString &folder)

@@ -1,6 +1,7 @@
 #include "compiler.h"
 
 #include "order_tokens.h"
+#include "probe_options.h"
 #include "program_search.h"
 
 #include <QFileInfo>
@@ -20,20 +21,6 @@ QString programPath(const QString &word)
 bool isProgram(const QString &word)
 {
     return !programPath(word).isEmpty();
-}
-
-/// \a words without the options that make errors of warnings. A probe asks what the compiler knows,
-/// and it would be refused for its style.
-QStringList withoutWarningsAsErrors(QStringList words)
-{
-    static const QRegularExpression option(u"^(-Werror(=.*)?|--Werror|-pedantic-errors|[-/]WX)$"_s);
-    words.removeIf([](const QString &word) { return option.match(word).hasMatch(); });
-    // cc65's is made of two words.
-    for (qsizetype i = words.size() - 1; i > 0; --i) {
-        if (words[i] == "error"_L1 && words[i - 1] == "-W"_L1)
-            words.remove(--i, 2);
-    }
-    return words;
 }
 
 /// Whether the word \a index of a command may be a path. The program is one already; a define, and
@@ -114,7 +101,7 @@ Compiler findCompiler(const Arguments &arguments)
     QStringList words = commandWords(arguments.command, &isProgram);
     for (const QString &item : arguments.switches)
         words << QProcess::splitCommand(item);
-    words = withoutWarningsAsErrors(words);
+    words = withoutOtherPurposes(words);
     for (qsizetype i = 0; i < words.size(); ++i) {
         const bool includes = words[i] == "-include"_L1 || words[i] == "-imacros"_L1;
         if (includes && i > 0 && i + 1 < words.size()) {

@@ -6,7 +6,7 @@
 /// asked.
 struct Compiler
 {
-    /// The program's path, its options, and the switches, without what makes errors of warnings.
+    /// The program's path, its options, and the switches; see withoutOtherPurposes().
     QStringList command;
     /// The GNU driver's options -include and -imacros, each followed by its file, which are kept
     /// out of the command: the macros of those files are not predefined.

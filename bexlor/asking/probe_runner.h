@@ -1,7 +1,7 @@
 #pragma once
 
 #include "compiler.h"
-#include "probe_answer.h"
+#include "control_probes.h"
 
 #include <atomic>
 
@@ -12,11 +12,20 @@ public:
     /// \a folder is where the probes are put; it must exist.
     ProbeRunner(const Compiler &compiler, const QString &folder, bool smallProbes);
 
+    /// Learns from control probes what the compiler's answers are worth; from then on an answer
+    /// that is unlike them is not taken for one. \a accepted is that to the accepted probe. False
+    /// when the compiler does not answer twice alike.
+    bool learnControls(const ProbeAnswer &accepted);
+    const Controls &controls() const { return m_controls; }
+
+    /// Compiles \a source. A program is run, too. What is unlike the control probes is asked again;
+    /// if it stays so that is a malfunction, and no compiler is started any more.
     ProbeAnswer ask(const QByteArray &source, CompileTo goal = CompileTo::Object) const;
-    /// The answers to \a sources in their order; asks as many at a time as there are processors.
+    /// The answers to \a sources in their order; asks as many at a time as there are processors,
+    /// but one alone what must be asked again.
     QList<ProbeAnswer> askAll(const QList<QByteArray> &sources) const;
-    /// Compiles \a source to a program, runs it, and has what it prints as the answer's bytes.
-    ProbeAnswer askByRunning(const QByteArray &source) const;
+    /// The answer that could not be understood, which all later ones repeat.
+    const std::optional<ProbeAnswer> &malfunction() const { return m_malfunction; }
 
     /// The command that ask() runs.
     QStringList command(CompileTo goal = CompileTo::Object) const;
@@ -26,12 +35,17 @@ public:
     int compilersStarted() const { return m_started; }
 
 private:
-    QString newFolder() const;
+    ProbeAnswer askOnce(const QByteArray &source, CompileTo goal) const;
     ProbeAnswer askIn(const QString &folder, const QByteArray &source, CompileTo goal) const;
+    ProbeAnswer askAgain(const QByteArray &source, CompileTo goal) const;
+    bool isExpected(const ProbeAnswer &answer) const;
 
     const Compiler m_compiler;
     const QString m_folder;
     const ProbeLimits m_limits;
+    Controls m_controls;
+    bool m_knowsControls = false;
+    mutable std::optional<ProbeAnswer> m_malfunction;
     mutable std::atomic<int> m_started = 0;
     mutable std::atomic<int> m_folders = 0;
 };

@@ -133,12 +133,19 @@ std::optional<QList<bool>> Questions::withoutMessage(const QByteArray &prelude,
                                                      const QList<QByteArray> &items,
                                                      const QByteArray &control) const
 {
+    if (!m_runner.controls().isQuiet)
+        return {};
     return itemsWithoutMessage(askProbes(), prelude, items, control, limits());
 }
 
 QList<ProbeAnswer> Questions::eachAlone(const QList<QByteArray> &sources) const
 {
     return m_runner.askAll(sources);
+}
+
+bool Questions::rejects(ErrorKind kind) const
+{
+    return m_runner.controls().rejects(kind);
 }
 
 QList<bool> Questions::acceptedAlone(const QList<QByteArray> &sources) const
@@ -162,7 +169,7 @@ QByteArray Questions::bytesOf(const QByteArray &source, const Batch &batch,
         const QByteArray array = arrayName(index);
         program += "for (i = 0; i < sizeof " + array + "; ++i) putchar(" + array + "[i]);\n";
     }
-    return m_runner.askByRunning(program + "return 0; }\n").bytes;
+    return m_runner.ask(program + "return 0; }\n", CompileTo::Program).bytes;
 }
 
 /// Reads the contents of the arrays \a items in \a batches into \a contents. Returns the batches

@@ -17,6 +17,9 @@ public:
     bool isCpp() const { return m_runner.compiler().isCpp; }
     ProbeLimits limits() const { return m_runner.limits(); }
 
+    /// Whether an error of \a kind is rejected, so that what compiles has none.
+    bool rejects(ErrorKind kind) const;
+
     /// Which of \a items, one or more whole lines each, are accepted behind \a prelude; see
     /// acceptedItems().
     QList<bool> accepted(const QByteArray &prelude, const QList<QByteArray> &items,

@@ -126,6 +126,9 @@ void addForms(const Questions &questions, const QList<QByteArray> &keywords,
         if (!forms[i].isEmpty())
             continue;
         for (const Use &use : tried) {
+            // An unknown name must not pass for a type.
+            if (use.form == Keyword::TypeName && !questions.rejects(ErrorKind::UnknownName))
+                continue;
             lines << lineOf(use, keywords[i], lines.size());
             asked << std::pair(i, int(use.form));
         }
@@ -134,6 +137,27 @@ void addForms(const Questions &questions, const QList<QByteArray> &keywords,
         isAlone ? questions.acceptedAlone(lines) : questions.accepted({}, lines);
     for (const auto &[keyword, form] : selected(asked, isAccepted))
         forms[keyword] << form;
+}
+
+/// Leaves those of \a keywords that have a size alone, and none together with char, only the form
+/// of a type: a compiler that lets a name be declared again takes "char size_t x;" too.
+void keepTypesApart(const Questions &questions, const QList<QByteArray> &keywords,
+                    QList<QSet<int>> &forms)
+{
+    QList<qsizetype> doubtful;
+    QList<QByteArray> expressions;
+    for (qsizetype i = 0; i < keywords.size(); ++i) {
+        if (!forms[i].contains(Keyword::TypeName) || forms[i].size() == 1)
+            continue;
+        doubtful << i;
+        expressions << "sizeof(" + keywords[i] + ')' << "sizeof(" + keywords[i] + " char)"
+                    << "sizeof(char " + keywords[i] + ')';
+    }
+    const QList<std::optional<int>> sizes = questions.numbers({}, expressions);
+    for (qsizetype i = 0; i < doubtful.size(); ++i) {
+        if (sizes[3 * i] && !sizes[3 * i + 1] && !sizes[3 * i + 2])
+            forms[doubtful[i]] = {Keyword::TypeName};
+    }
 }
 
 /// The form in which a keyword is used that may be used in \a forms; \a isCalled if headers use it
@@ -169,8 +193,6 @@ void measureTypes(const Questions &questions, QList<Keyword> &keywords, const Ty
         value += 3;
         if (size)
             keyword.standIn = typeLike(types, *size, isFloating == 1, isUnsigned == 2);
-        else // C++ never has an int that is left out
-            keyword.form = questions.isCpp() ? Keyword::Undetermined : Keyword::Qualifier;
     }
 }
 
@@ -184,6 +206,8 @@ QList<Keyword> learnKeywords(const Questions &questions, const QList<ScannedName
     QList<QSet<int>> forms(found.size());
     addForms(questions, found, uses, false, forms);
     addForms(questions, found, usesBehindFunctions, true, forms);
+    if (!questions.rejects(ErrorKind::ConflictingDeclaration))
+        keepTypesApart(questions, found, forms);
     QSet<QByteArray> called;
     for (const ScannedName &name : names) {
         if (name.uses & CalledInHeader)

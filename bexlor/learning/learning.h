@@ -26,3 +26,6 @@ QList<Keyword> learnKeywords(const Questions &questions, const QList<ScannedName
 
 /// Which directories with \a headers the compiler searches by itself, in its order.
 QStringList learnSearchPath(const Questions &questions, const QList<HeaderFile> &headers);
+
+/// Whether the compiler finds standard headers, so that it does search directories.
+bool includesStandardHeaders(const Questions &questions);

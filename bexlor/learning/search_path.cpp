@@ -30,6 +30,8 @@ QSet<QString> foundHeaders(const Questions &questions, const QStringList &names)
             conditions << "__has_include(" + inBrackets(name) + ')';
         return setOf(selected(names, questions.conditions(conditions)));
     }
+    if (!questions.rejects(ErrorKind::MissingHeader))
+        return {};
     QList<QByteArray> sources;
     for (const QString &name : names)
         sources << "#include " + inBrackets(name) + "\nint calyx_object;\n";
@@ -198,4 +200,15 @@ QStringList learnSearchPath(const Questions &questions, const QList<HeaderFile> 
         path.insert(place, directory);
     }
     return path;
+}
+
+bool includesStandardHeaders(const Questions &questions)
+{
+    // That the directive is accepted says little; what it defines can be read back.
+    const std::pair<QByteArray, QByteArray> definedIn[] = {
+        {"limits.h", "CHAR_BIT"}, {"stddef.h", "NULL"}, {"stdio.h", "EOF"}};
+    return std::any_of(std::begin(definedIn), std::end(definedIn), [&questions](const auto &row) {
+        return questions.conditions({"defined " + row.second}, "#include <" + row.first + ">\n")
+            .first();
+    });
 }

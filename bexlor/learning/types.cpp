@@ -15,28 +15,64 @@ QByteArray declared(const QByteArray &type, const QByteArray &name)
     return type.endsWith("(*)(void)") ? "void (*" + name + ")(void)" : type + ' ' + name;
 }
 
-/// The one of the integer types that the standard headers' \a name stands for: an object can be
-/// declared again only with the same type. Empty when it is none of them, or when the compiler
-/// does not mind.
-QByteArray typeBehind(const Questions &questions, const QByteArray &name)
+/// What has been read back of an integer type.
+struct Shape
 {
-    QList<QByteArray> sources;
-    for (const QByteArray &type : integerTypes) {
-        sources << "#include <stddef.h>\nextern " + name + " calyx_object;\nextern " + type
-                       + " calyx_object;\n";
+    std::optional<int> size; ///< in bytes
+    std::optional<bool> isUnsigned;
+};
+
+/// The shapes of \a names behind \a prelude.
+QList<Shape> shapesOf(const Questions &questions, const QByteArray &prelude,
+                      const QList<QByteArray> &names)
+{
+    QList<QByteArray> expressions;
+    for (const QByteArray &name : names)
+        expressions << "sizeof(" + name + ')' << '(' + name + ")-1<0?1:2";
+    const QList<std::optional<int>> values = questions.numbers(prelude, expressions);
+    QList<Shape> shapes;
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        const std::optional<int> sign = values[2 * i + 1];
+        shapes.append({values[2 * i], sign ? std::optional(*sign == 2) : std::nullopt});
     }
-    const QList<bool> isSame = questions.acceptedAlone(sources);
-    return isSame.count(true) == 1 ? integerTypes[isSame.indexOf(true)] : QByteArray();
+    return shapes;
 }
 
-QByteArray wideCharacterType(const Questions &questions, const TypeFacts &types)
+/// The integer type that the standard headers' \a name of \a shape stands for: an object can be
+/// declared again only with the same type. Empty when that is none of those with the same shape, or
+/// when the compiler does not mind and there are several of them.
+QByteArray typeBehind(const Questions &questions, const QByteArray &name, const Shape &shape,
+                      const QList<Shape> &shapesOfTypes)
 {
+    QList<QByteArray> types, sources;
+    for (qsizetype i = 0; i < integerTypes.size(); ++i) {
+        const Shape &other = shapesOfTypes[i];
+        if (!shape.size || other.size != shape.size || other.isUnsigned != shape.isUnsigned)
+            continue;
+        types << integerTypes[i];
+        sources << "#include <stddef.h>\nextern " + name + " calyx_object;\nextern "
+                       + integerTypes[i] + " calyx_object;\n";
+    }
+    if (!questions.rejects(ErrorKind::ConflictingDeclaration))
+        return types.size() == 1 ? types.first() : QByteArray();
+    const QList<QByteArray> same = selected(types, questions.acceptedAlone(sources));
+    return same.size() == 1 ? same.first() : QByteArray();
+}
+
+/// The types behind the names of the standard headers. In C++ wchar_t is a type of its own.
+void learnNamedTypes(const Questions &questions, TypeFacts &types)
+{
+    const Shape wide =
+        shapesOf(questions, questions.isCpp() ? "" : "#include <stddef.h>\n", {"wchar_t"}).first();
+    const QList<Shape> named =
+        shapesOf(questions, "#include <stddef.h>\n", {"size_t", "ptrdiff_t"});
+    const QList<Shape> known = shapesOf(questions, {}, integerTypes);
+    types.sizeType = typeBehind(questions, "size_t", named[0], known);
+    types.pointerDifferenceType = typeBehind(questions, "ptrdiff_t", named[1], known);
     if (!questions.isCpp())
-        return typeBehind(questions, "wchar_t");
-    // In C++ it is a type of its own.
-    const QList<std::optional<int>> values =
-        questions.numbers({}, {"sizeof(wchar_t)", "(wchar_t)-1<0?1:2"});
-    return values[0] ? typeLike(types, *values[0], false, values[1] == 2) : QByteArray();
+        types.wideCharacterType = typeBehind(questions, "wchar_t", wide, known);
+    else if (wide.size && wide.isUnsigned)
+        types.wideCharacterType = typeLike(types, *wide.size, false, *wide.isUnsigned);
 }
 
 ByteOrder byteOrder(const Questions &questions)
@@ -54,16 +90,36 @@ ByteOrder byteOrder(const Questions &questions)
     return bytes.contains("CalyxBou") ? ByteOrder::BigEndian : ByteOrder::Unknown;
 }
 
-/// Whether char has no sign. Some compilers take it for the very type that has its range, others
-/// know that it differs from both and can be asked for a value.
-bool charIsUnsigned(const Questions &questions)
+/// Whether char has no sign: by its value or, where that cannot be read back, by the type that the
+/// compiler takes it for; some do, though it differs from both.
+std::optional<bool> charIsUnsigned(const Questions &questions)
 {
+    if (const auto isUnsigned = shapesOf(questions, {}, {"char"}).first().isUnsigned)
+        return isUnsigned;
+    if (!questions.rejects(ErrorKind::ConflictingDeclaration))
+        return {};
     const QList<bool> isSame =
         questions.accepted({}, {"extern char calyx_u; extern unsigned char calyx_u;\n",
                                 "extern char calyx_s; extern signed char calyx_s;\n"});
-    if (isSame[0] != isSame[1])
-        return isSame[0];
-    return questions.numbers({}, {"(char)-1<0?1:2"}).first() == 2;
+    return isSame[0] != isSame[1] ? std::optional(isSame[0]) : std::nullopt;
+}
+
+/// Those of \a types of which the compiler knows the same as has been read back: it rejects an
+/// array of negative size.
+QList<Type> confirmed(const Questions &questions, const QByteArray &prelude,
+                      const QList<Type> &types)
+{
+    if (!questions.rejects(ErrorKind::NegativeArraySize))
+        return types;
+    QList<QByteArray> assertions;
+    for (const Type &type : types) {
+        const QByteArray number = QByteArray::number(assertions.size());
+        assertions << "extern char calyx_" + number + "a[1-2*(sizeof(" + type.name
+                          + ")!=" + QByteArray::number(type.size) + ")];\n";
+    }
+    const QList<bool> isConfirmed = questions.accepted(prelude, assertions);
+    // That a char has one byte is true everywhere; what rejects it tells nothing of the others.
+    return isConfirmed.value(0) ? selected(types, isConfirmed) : types;
 }
 
 /// Those of the basic types that the compiler has, with their sizes and alignments.
@@ -92,7 +148,7 @@ QList<Type> measuredTypes(const Questions &questions)
         if (values[2 * i] && values[2 * i + 1])
             types.append({names[i], *values[2 * i], *values[2 * i + 1]});
     }
-    return types;
+    return confirmed(questions, prelude, types);
 }
 
 } // namespace
@@ -107,8 +163,6 @@ TypeFacts learnTypes(const Questions &questions)
             .first()
             .value_or(0);
     types.byteOrder = byteOrder(questions);
-    types.sizeType = typeBehind(questions, "size_t");
-    types.pointerDifferenceType = typeBehind(questions, "ptrdiff_t");
-    types.wideCharacterType = wideCharacterType(questions, types);
+    learnNamedTypes(questions, types);
     return types;
 }

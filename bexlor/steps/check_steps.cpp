@@ -1,5 +1,6 @@
 #include "check_steps.h"
 
+#include "refusal.h"
 #include "report.h"
 #include "steps.h"
 #include "text_file.h"
@@ -72,6 +73,11 @@ int checkWithPersonality(Progress &progress, const CheckRequest &request,
                          const Arguments &arguments, const Personality &content,
                          const QString &folder)
 {
+    // The answers may be somebody else's, and name what is started.
+    if (const QString reason = refusalReason(arguments); !reason.isEmpty()) {
+        progress.say(reason);
+        return 3;
+    }
     const std::optional<Clang> clang = findClang();
     if (!clang) {
         progress.say(u"There is no clang on the PATH."_s);

@@ -2,7 +2,10 @@
 
 #include "generator_interface.h"
 #include "personality.h"
+#include "probe_options.h"
+#include "refusal.h"
 #include "text_file.h"
+#include "visible_text.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -13,14 +16,14 @@ namespace {
 
 const int listingTimeLimit = 30'000; // milliseconds
 
-const char *const firstProbe = "int calyx_probe;\n";
-
 // Set for tests and measurements: the compiler is asked by probes alone.
 const char *const learnOnly = "BEXLOR_LEARN_ONLY";
 
-QString howItEnded(const platform::ProgramRun &run)
+QString howItEnded(const ProbeAnswer &answer)
 {
-    switch (run.ending) {
+    if (!answer.isAsked)
+        return u"the probe could not be written to the temporary folder"_s;
+    switch (answer.run.ending) {
     case platform::ProgramRun::NotStarted:
         return u"the compiler could not be started"_s;
     case platform::ProgramRun::Crashed:
@@ -30,7 +33,9 @@ QString howItEnded(const platform::ProgramRun &run)
     case platform::ProgramRun::Exited:
         break;
     }
-    return u"the compiler returned %1"_s.arg(run.exitCode);
+    const QString end = u"the compiler returned %1"_s.arg(answer.run.exitCode);
+    return answer.run.exitCode == 0 && answer.leftNothing ? end + " and left no object file"_L1
+                                                          : end;
 }
 
 /// Leaves \a command and what it wrote in \a folder.
@@ -43,9 +48,11 @@ void leaveLogs(const QString &folder, const QStringList &command, const platform
     platform::writeFile(logs.filePath(generator::standardError), run.errors);
 }
 
-/// Why the files that the user names cannot be used, or an empty text.
+/// Why \a arguments are refused, or the files that they name cannot be used, or an empty text.
 QString problemWith(const Arguments &arguments)
 {
+    if (const QString reason = refusalReason(arguments); !reason.isEmpty())
+        return reason;
     const QFileInfo destination(QFileInfo(arguments.personality).absolutePath());
     if (!destination.isDir())
         return u"The folder of the personality does not exist: %1"_s.arg(destination.filePath());
@@ -60,6 +67,18 @@ QString problemWith(const Arguments &arguments)
             arguments.substituteHeaders);
     }
     return QString();
+}
+
+/// Leaves those of \a directories out that a line of a personality cannot hold.
+void leaveOutOddDirectories(Progress &progress, QStringList &directories)
+{
+    directories.removeIf([&progress](const QString &directory) {
+        const bool isOdd = !mayStandInPersonality(directory);
+        if (isOdd)
+            progress.say(u"Passed over, since it has a control character in its name: %1"_s.arg(
+                visibleText(directory)));
+        return isOdd;
+    });
 }
 
 /// Whether \a directory should not be given whole.
@@ -110,24 +129,64 @@ void removeLogs()
         QFile::remove(file);
 }
 
-bool checkFiles(Progress &progress, const Arguments &arguments)
+std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arguments)
 {
     const QString problem = problemWith(arguments);
-    if (!problem.isEmpty())
+    if (!problem.isEmpty()) {
         progress.say(problem);
-    return problem.isEmpty();
+        return {};
+    }
+    const std::pair<QLatin1StringView, QString> unseen[] = {
+        {"Template"_L1, arguments.templateFile},
+        {"Force-include file"_L1, arguments.forceIncludeFile},
+        {"Substitute headers"_L1, arguments.substituteHeaders},
+    };
+    for (const auto &[name, path] : unseen) {
+        if (!path.isEmpty())
+            progress.say(name + ": "_L1 + visibleText(path));
+    }
+    Arguments usable = arguments;
+    leaveOutOddDirectories(progress, usable.headerDirectories);
+    return usable;
 }
 
 std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner,
                                              const QString &logFolder)
 {
+    const QString against = optionAgainstObjects(runner.compiler().command);
+    if (!against.isEmpty()) {
+        leaveLogs(logFolder, runner.command(), {});
+        progress.say(u"With the option %1 the compiler makes no object file. Take it out of the "
+                     "command on the page Compiler Command."_s.arg(against));
+        return {};
+    }
     const ProgressStep step(progress, u"Compiling a first probe ..."_s, &nothing);
-    const ProbeAnswer answer = runner.ask(firstProbe);
+    const ProbeAnswer answer = runner.ask(acceptedProbe);
     leaveLogs(logFolder, runner.command(), answer.run);
     if (answer.compiled())
         return answer;
-    progress.say(u"Compiling the first probe failed: %1."_s.arg(howItEnded(answer.run)));
+    progress.say(u"Compiling the first probe failed: %1."_s.arg(howItEnded(answer)));
     return {};
+}
+
+bool checkControls(Progress &progress, ProbeRunner &runner, const ProbeAnswer &first)
+{
+    const ProgressStep step(progress, u"Compiling control probes ..."_s, &nothing);
+    if (!runner.learnControls(first)) {
+        progress.say(u"The compiler answers the same probe otherwise each time."_s);
+        return false;
+    }
+    const Controls &controls = runner.controls();
+    if (!controls.rejects(ErrorKind::Syntax)) {
+        progress.say(
+            u"The compiler accepts %1, so nothing can be learned from what it accepts."_s.arg(
+                nameOf(ErrorKind::Syntax)));
+        return false;
+    }
+    for (const ErrorKind kind : controls.overlooked)
+        progress.say(u"The compiler accepts %1; what only that would tell is left open."_s.arg(
+            nameOf(kind)));
+    return true;
 }
 
 DialectAnswers askForListings(Progress &progress, const Compiler &compiler,
@@ -227,6 +286,8 @@ SearchPath findSearchPath(Progress &progress, const Questions &questions, const 
                                 probesOf(questions.runner()));
         path.directories = learnSearchPath(questions, scan.headers);
     }
+    leaveOutOddDirectories(progress, path.directories);
+    leaveOutOddDirectories(progress, path.forQuotedNames);
     progress.say(u"Found %1 on the search path."_s.arg(
         counted(path.directories.size(), "directory"_L1, "directories"_L1)));
     return path;
@@ -235,12 +296,28 @@ SearchPath findSearchPath(Progress &progress, const Questions &questions, const 
 bool worksStill(Progress &progress, const ProbeRunner &runner, const QString &logFolder)
 {
     const ProgressStep step(progress, u"Compiling the first probe again ..."_s, &nothing);
-    const ProbeAnswer again = runner.ask(firstProbe);
+    const ProbeAnswer again = runner.ask(acceptedProbe);
     if (again.compiled())
         return true;
     leaveLogs(logFolder, runner.command(), again.run);
-    progress.say(u"The first probe no longer compiles: %1."_s.arg(howItEnded(again.run)));
+    progress.say(u"The compiler no longer answers as it did: %1."_s.arg(howItEnded(again)));
     return false;
+}
+
+bool checkCompleteness(Progress &progress, const Questions &questions, const Facts &facts)
+{
+    const bool hasTypes = !facts.types.basic.isEmpty();
+    const bool hasSearchPath =
+        !facts.searchPath.directories.isEmpty() || !includesStandardHeaders(questions);
+    if (!hasTypes) {
+        progress.say(u"The sizes of the types have not been found: constants cannot be read back. "
+                     "Look at the flags and the extension on the page Compiler Command."_s);
+    }
+    if (!hasSearchPath) {
+        progress.say(u"The directories that the compiler searches have not been found, though it "
+                     "finds its headers. Name them on the page Search Directories."_s);
+    }
+    return hasTypes && hasSearchPath;
 }
 
 QByteArray textOfPersonality(const Arguments &arguments, const Compiler &compiler,

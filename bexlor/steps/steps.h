@@ -12,12 +12,17 @@
 /// Removes what an earlier run has left, which would be taken for this one's.
 void removeLogs();
 
-/// Whether the files that the user names can be used.
-bool checkFiles(Progress &progress, const Arguments &arguments);
+/// \a arguments without the header directories that cannot be used. Nothing when they are refused
+/// or the files that they name cannot be used. Says first which files are used that no page shows.
+std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arguments);
 
 /// What the compiler says to a probe that any compiler accepts. Leaves the logs in \a logFolder.
 std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner,
                                              const QString &logFolder);
+
+/// Whether the answers of \a runner's compiler, \a first being that to the first probe, can be
+/// trusted as far as is needed: it must reject what is no C.
+bool checkControls(Progress &progress, ProbeRunner &runner, const ProbeAnswer &first);
 
 /// What the compiler lists of itself; \a first may have told its version. \a folder is for the
 /// source that it is given.
@@ -49,6 +54,10 @@ SearchPath findSearchPath(Progress &progress, const Questions &questions, const 
 /// license or of room on the disk, would be taken for one that rejects everything. Leaves the logs
 /// in \a logFolder then.
 bool worksStill(Progress &progress, const ProbeRunner &runner, const QString &logFolder);
+
+/// Whether \a facts hold the types, and the search path unless the compiler has none: without them
+/// clang would read code as if it were for another compiler.
+bool checkCompleteness(Progress &progress, const Questions &questions, const Facts &facts);
 
 /// The text of the personality of the compiler of \a facts.
 QByteArray textOfPersonality(const Arguments &arguments, const Compiler &compiler,

@@ -47,6 +47,15 @@ private:
             writeTestFile(folder.filePath(name), content);
         }
 
+        /// A compiler that the shell runs.
+        QString compiler(const QByteArray &script) const
+        {
+            write("odd compiler", "#!/bin/sh\n" + script + '\n');
+            const QString path = folder.filePath("odd compiler");
+            QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+            return path;
+        }
+
         /// Whether clang and the compiler both take \a source; says what they say.
         void checkBothTake(const QString &source, const QString &command,
                            const QStringList &options) const
@@ -95,6 +104,8 @@ private slots:
                                "template.p_c", "-fi", "first.h", "-sub", "stand-ins"},
                               {"-i", "headers"});
         QVERIFY2(generated.succeeded(), generated.output);
+        QVERIFY(generated.output.startsWith("Template: template.p_c\nForce-include file: first.h\n"
+                                            "Substitute headers: stand-ins\n"));
         workshop.checkBothTake("x.c", "gcc -include stdint.h -iquote quoted -x c -DMODE=c -std=c99",
                                {"-DFOO=1"});
         workshop.write("y.c", "#include <time.h>\n#include <mine.h>\n"
@@ -153,7 +164,7 @@ private slots:
         QString texts[2];
         for (QString &text : texts) {
             const ProgramRun generated =
-                workshop.generate("kov", "tcc", {"-xd", "AA=1,CC=2"}, {"-i", "headers"});
+                workshop.generate("kov", "tcc -nostdinc", {"-xd", "AA=1,CC=2"}, {"-i", "headers"});
             QVERIFY2(generated.succeeded(), generated.output);
             text = workshop.read("sub folder/mine.p_c");
             for (const QByteArray &said :
@@ -302,7 +313,7 @@ private slots:
             QTest::newRow(name) << script << says << timeLimit;
         };
         row("waits for input, leaves a program behind and its object somewhere",
-            "cat >/dev/null; sleep 600 & tcc \"$@\" && mkdir -p made && "
+            "cat >/dev/null; sleep 600 & tcc -nostdinc \"$@\" && mkdir -p made && "
             "{ [ ! -f probe.o ] || mv probe.o made/thing.xyz; }",
             "");
         row("prints without end", "yes >&2 & yes & wait", "did not end within its time", "300");
@@ -311,9 +322,9 @@ private slots:
         row("stops working",
             "if grep -q calyx_probe probe.c; then\n"
             "[ ! -f \"$0 called\" ] || exit 9\n : >\"$0 called\"\nfi\nexec tcc \"$@\"",
-            "no longer compiles: the compiler returned 9");
-        row("leaves nothing", "exit 0", "leaves no file that holds the bytes");
-        row("leaves something else", "echo nothing >probe.o",
+            "no longer answers as it did: the compiler returned 9");
+        row("leaves nothing", "exit 0", "returned 0 and left no object file");
+        row("leaves something else", "tcc -nostdinc \"$@\" && rm probe.* && echo nothing >probe.o",
             "leaves no file that holds the bytes");
     }
     void putsUpWithOddCompilers()
@@ -322,9 +333,7 @@ private slots:
         QFETCH(QByteArray, says);
         QFETCH(QByteArray, timeLimit);
         const Workshop workshop;
-        const QString compiler = workshop.folder.filePath("odd compiler");
-        workshop.write("odd compiler", "#!/bin/sh\n" + script + '\n');
-        QFile::setPermissions(compiler, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        const QString compiler = workshop.compiler(script);
         const QString temporary =
             workshop.folder.filePath(QString::fromUtf8("tempor\303\244r ' \"x\""));
         QDir().mkdir(temporary);
@@ -339,17 +348,152 @@ private slots:
         QCOMPARE(QDir(temporary).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
     }
 
+    void keepsControlCharactersOutOfThePersonality()
+    {
+        const Workshop workshop;
+        const QString compiler =
+            workshop.compiler("case \"$*\" in\n"
+                              "*--version*) printf 'odd \\033[31mcc\\000 1.2\\n'; exit ;;\n"
+                              "*-dM*) printf '#define ODD a\\001b\\n#define EVEN 1\\n'; exit ;;\n"
+                              "esac\nexec tcc \"$@\"");
+        workshop.write("one\n-DEVIL=1/x.h", "__one\n");
+        workshop.write("headers/two\n-DEVIL=2/y.h", "__two\n");
+        workshop.write("headers/z\n-DEVIL=3.h", "__three\n");
+        const ProgramRun run =
+            workshop.generate("kov", compiler, {}, {"-i", "one\n-DEVIL=1", "-i", "headers"});
+        QVERIFY2(run.succeeded(), run.output);
+        QCOMPARE(run.output.count("it has a control character in its name"), 3);
+        const QString text = workshop.read("sub folder/mine.p_c");
+        QVERIFY2(!text.contains("EVIL") && text.contains("\"-DEVEN=1\""), qPrintable(text));
+        QVERIFY(text.contains("\n#: macro ODD undetermined\n"));
+        QVERIFY(text.contains("\n#: version odd [31mcc 1.2\n"));
+        for (const QChar character : text)
+            QVERIFY(character >= ' ' || character == '\n');
+    }
+
+    void neverSucceedsWithWrongFacts_data()
+    {
+        QTest::addColumn<QByteArray>("script"); // "n" is how often it has been started
+        QTest::addColumn<QByteArray>("says");
+        QTest::addColumn<QString>("open"); // what then is not known, though else it would be
+        const auto row = [](const char *name, const QByteArray &script, const QByteArray &says,
+                            const QString &open = "$^") {
+            QTest::newRow(name) << script << says << open;
+        };
+        const QByteArray good = "tcc -nostdinc \"$@\"";
+        row("has one licence",
+            "mkdir \"$0 seat\" || exit 1\n" + good + "\nstatus=$?\nrmdir \"$0 seat\"\nexit $status",
+            "Wrote ");
+        row("has no licence once in a while",
+            "[ $((n % 20)) != 0 ] || { echo no licence >&2; exit 1; }\n" + good, "Wrote ");
+        row("crashes once in a while", "[ $((n % 20)) != 0 ] || kill -SEGV $$\n" + good, "Wrote ");
+        row("loses the status", good + " 2>&1 | cat", "Wrote ");
+        row("has much to say",
+            "awk '{ print \"probe.c:\" NR \": warning: seen\" }' probe.c\n" + good, "Wrote ",
+            "^\"-D__BYTE_ORDER__="); // its value is known, not how it is written
+        row("takes everything", good + "\necho >>probe.o; exit 0", "accepts a syntax error");
+        row("takes conflicting declarations",
+            good
+                + " 2>errors\nstatus=$?\ncat errors >&2\n[ $status = 0 ] && exit\n"
+                  "grep -q 'incompatible types' errors || exit 1\n"
+                  "echo | tcc -c -o probe.o -xc -",
+            "accepts a conflicting declaration", "^#: (size_t|ptrdiff_t|wchar_t) ");
+        row("answers otherwise each time", "[ $n -lt 2 ] || exit $n\n" + good,
+            "otherwise each time");
+        row("loses its licence",
+            "[ $n -lt 60 ] || { echo \"probe.c: no licence\" >&2; exit 1; }\n" + good,
+            "no longer answers as it did: the compiler returned 1.");
+        row("breaks down", "[ $n -lt 60 ] || kill -KILL $$\n" + good,
+            "no longer answers as it did: the compiler crashed.");
+        row("stops midway", "[ $n -lt 60 ] || exit 0\n" + good,
+            "no longer answers as it did: the compiler returned 0 and left no object file.");
+        row("takes the temporary folder away", "[ $n -lt 60 ] || rm -r \"$TMPDIR\"/*\n" + good,
+            "the probe could not be written to the temporary folder.");
+    }
+    void neverSucceedsWithWrongFacts()
+    {
+        QFETCH(QByteArray, script);
+        QFETCH(QByteArray, says);
+        QFETCH(QString, open);
+        const Workshop workshop;
+        QDir(workshop.folder.path()).mkdir("temporary");
+        qputenv("TMPDIR", workshop.folder.filePath("temporary").toLocal8Bit());
+        qputenv("BEXLOR_LEARN_ONLY", "1");
+        const QRegularExpression mayDiffer("^#: command|" + open);
+        QVERIFY(workshop.generate("kov", "tcc -nostdinc").succeeded());
+        const QStringList right = workshop.read("sub folder/mine.p_c").split('\n');
+        QVERIFY(QFile::remove(workshop.personality));
+
+        const ProgramRun run = workshop.generate(
+            "kov", workshop.compiler("echo >>\"$0 count\"; n=$(wc -l <\"$0 count\")\n" + script));
+        QVERIFY2(run.output.contains(says), run.output);
+        for (const char *log : {"compile.bat", "stdout.log", "stderr.log"})
+            QVERIFY2(QFile::exists(workshop.folder.filePath(log)), log);
+        QCOMPARE(run.succeeded(), QFile::exists(workshop.personality));
+        if (!run.succeeded())
+            return;
+        QStringList lines = workshop.read("sub folder/mine.p_c").split('\n'), expected = right;
+        for (QStringList *list : {&lines, &expected})
+            list->removeIf([&](const QString &line) { return mayDiffer.match(line).hasMatch(); });
+        QCOMPARE(lines, expected);
+    }
+
+    void saysWhatIsMissing_data()
+    {
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<QByteArray>("says");
+        row("preprocesses", "-E", QByteArray("With the option -E "));
+        row("checks", "-fsyntax-only", QByteArray("With the option -fsyntax-only "));
+        row("searches what is not known", "-g",
+            QByteArray("Name them on the page Search Directories."));
+    }
+    void saysWhatIsMissing()
+    {
+        QFETCH(QString, options);
+        QFETCH(QByteArray, says);
+        const Workshop workshop;
+        qputenv("BEXLOR_LEARN_ONLY", "1");
+        const ProgramRun run = workshop.generate("kov", "tcc " + options);
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY2(run.output.contains(says), run.output);
+        QVERIFY(!QFile::exists(workshop.personality));
+        QVERIFY(workshop.read("compile.bat").contains(options));
+    }
+
+    void writesNothingOfTheUsers()
+    {
+        const Workshop workshop;
+        const QStringList mine {"a.d", "b.d", "c.i", "d.map", "e.lst", "f.o", "g.o", "probe.d"};
+        for (const QString &name : mine)
+            workshop.write(name, "mine");
+        const ProgramRun run = workshop.generate(
+            "kov",
+            "gcc -MD -MF a.d -Wp,-MMD,b.d -aux-info c.i -Wl,-Map,d.map -Wa,-adhln=e.lst -o f.o "
+            "-og.o -save-temps -flto -fshort-enums -Wfatal-errors");
+        QVERIFY2(run.succeeded(), run.output);
+        for (const QString &name : mine)
+            QCOMPARE(workshop.read(name), "mine");
+        const QStringList written {"compile.bat", "stderr.log", "stdout.log"};
+        const auto files = [&workshop](const char *folder) {
+            const QStringList all = QDir(workshop.folder.filePath(folder)).entryList(QDir::Files);
+            return QSet<QString>(all.begin(), all.end());
+        };
+        QStringList all = mine + written;
+        QCOMPARE(files("."), QSet<QString>(all.begin(), all.end()));
+        QCOMPARE(files("sub folder"), QSet<QString> {"mine.p_c"});
+        QVERIFY(workshop.read("sub folder/mine.p_c").contains("\n#: small-enum 1\n"));
+    }
+
     void letsTheLineOfAStepGrow()
     {
         // Each probe is compiled only after the line of its step has grown.
         const Workshop workshop;
-        const QString compiler = workshop.folder.filePath("slow");
-        workshop.write("slow", "#!/bin/sh\nsize() { wc -c <'" + workshop.folder.path().toLocal8Bit()
-                                   + "/said'; }\nold=$(size)\nuntil [ $(size) -gt $old ]; do "
-                                     "sleep 0.1; done\nexec false\n");
-        QFile::setPermissions(compiler, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        workshop.run({"sh", "-c", "exec \"$@\" >said", "sh", GENERATOR, "kov", "cmp", compiler,
-                      "-o", "-c", "-D", ".o", "%c %o%e %d%j %s ", "-op", "mine.p_c"});
+        const QString compiler = workshop.compiler(
+            "size() { wc -c <'" + workshop.folder.path().toLocal8Bit()
+            + "/said'; }\nold=$(size)\nuntil [ $(size) -gt $old ]; do sleep 0.1; done\nexec false");
+        workshop.run({"sh", "-c", "exec \"$@\" >said", "sh", GENERATOR, "kov", "cmp",
+                      '"' + compiler + '"', "-o", "-c", "-D", ".o", "%c %o%e %d%j %s ", "-op",
+                      "mine.p_c"});
         const QString said = workshop.read("said");
         QVERIFY2(
             QRegularExpression("^Compiling a first probe \\.\\.\\.( \\.\\.\\.)+\nCompiling the "
