@@ -51,7 +51,10 @@ std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const A
     facts.types = measureTypes(progress, questions);
     facts.keywords = findKeywords(progress, questions, scan, facts);
     facts.searchPath = findSearchPath(progress, questions, listed.searchPath, scan);
-    if (!worksStill(progress, runner, logFolder) || !checkCompleteness(progress, questions, facts))
+    const bool lacksSearchPath =
+        facts.searchPath.directories.isEmpty() && includesStandardHeaders(questions);
+    if (!worksStill(progress, runner, logFolder)
+        || !checkCompleteness(progress, facts, lacksSearchPath))
         return {};
     progress.say(u"The compiler was started %1 times."_s.arg(runner.compilersStarted()));
     return facts;

@@ -76,6 +76,22 @@ QByteArray withChanges(QByteArray file, const CompilerCatalogue &before,
     return file;
 }
 
+QByteArray withShipped(QByteArray file, CompilerCatalogue before, const CompilerCatalogue &shipped)
+{
+    QList<CompilerRecord> own = parseCatalogue(file).compilers;
+    for (const CompilerRecord &record : shipped.compilers) {
+        const CompilerRecord *const mine = findRecord(own, record.Family, record.Name);
+        const CompilerRecord *const old = findRecord(before.compilers, record.Family, record.Name);
+        const bool isNew = !mine && !old;
+        const bool isUntouched = mine && old && *mine == *old && *mine != record;
+        if (!isNew && !isUntouched)
+            continue;
+        putFamily(file, record.Family);
+        putRecord(file, record);
+    }
+    return file;
+}
+
 CatalogueFile::CatalogueFile(const QString &path) : m_path(path) { }
 
 CompilerCatalogue CatalogueFile::load()
@@ -84,16 +100,32 @@ CompilerCatalogue CatalogueFile::load()
     return m_loaded;
 }
 
-CatalogueFile::Result CatalogueFile::save(const CompilerCatalogue &catalogue)
+CatalogueFile::Result CatalogueFile::update(const QByteArray &whole,
+                                            const std::function<QByteArray(QByteArray)> &change)
 {
     platform::FileReplacement replacement(m_path);
     const platform::FileContent content = replacement.read();
     QByteArray file;
     if (content.state == platform::FileContent::Missing)
-        file = catalogueText(catalogue);
+        file = whole;
     else if (isWholeText(content))
-        file = withChanges(content.bytes, m_loaded, catalogue);
+        file = change(content.bytes);
     else
         return Result::NotWhole;
     return replacement.write(file) ? Result::Saved : Result::NotWritten;
+}
+
+CatalogueFile::Result CatalogueFile::save(const CompilerCatalogue &catalogue)
+{
+    return update(catalogueText(catalogue), [this, &catalogue](const QByteArray &file) {
+        return withChanges(file, m_loaded, catalogue);
+    });
+}
+
+CatalogueFile::Result CatalogueFile::bringShipped(const QByteArray &shipped,
+                                                  const QByteArray &before)
+{
+    return update(shipped, [&shipped, &before](const QByteArray &file) {
+        return withShipped(file, parseCatalogue(before), parseCatalogue(shipped));
+    });
 }

@@ -2,6 +2,8 @@
 
 #include "compiler_catalogue.h"
 
+#include <functional>
+
 /// The file of the catalogue, which others may change as well: a second wizard, or a text editor.
 class CatalogueFile
 {
@@ -19,8 +21,14 @@ public:
     /// Brings what has changed in \a catalogue since it was loaded into the file as it is now. The
     /// rest of the file stays, byte for byte.
     Result save(const CompilerCatalogue &catalogue);
+    /// Brings what is new in \a shipped, the bytes of the catalogue that comes with the wizard,
+    /// into the file; a missing one becomes the same. \a before came with the last version.
+    Result bringShipped(const QByteArray &shipped, const QByteArray &before);
 
 private:
+    /// Makes of the file what \a change makes of its bytes; a missing one becomes \a whole.
+    Result update(const QByteArray &whole, const std::function<QByteArray(QByteArray)> &change);
+
     const QString m_path;
     CompilerCatalogue m_loaded;
 };
@@ -30,3 +38,8 @@ private:
 /// there is none.
 QByteArray withChanges(QByteArray file, const CompilerCatalogue &before,
                        const CompilerCatalogue &now);
+
+/// \a file, the bytes of a catalogue file, with the records of \a shipped that are new since
+/// \a before, and with those that have changed and that the user has left as they were. What the
+/// user has changed, added or removed stays so.
+QByteArray withShipped(QByteArray file, CompilerCatalogue before, const CompilerCatalogue &shipped);

@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QStyleOptionComboBox>
+#include <QStylePainter>
 #include <QToolTip>
 
 using namespace Qt::StringLiterals;
@@ -55,4 +56,17 @@ void ElidedComboBox::initStyleOption(QStyleOptionComboBox *option) const
     // The style leaves a pixel free at either side.
     option->currentText =
         fontMetrics().elidedText(option->currentText, Qt::ElideRight, field.width() - 2);
+}
+
+void WholeTitleGroupBox::paintEvent(QPaintEvent *)
+{
+    QStyleOptionGroupBox option;
+    initStyleOption(&option);
+    const QRect place =
+        style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, this);
+    option.subControls &= ~QStyle::SC_GroupBoxLabel;
+    QStylePainter painter(this);
+    painter.drawComplexControl(QStyle::CC_GroupBox, option);
+    painter.setPen(palette().color(foregroundRole()));
+    painter.drawText(place, Qt::AlignCenter | Qt::TextDontClip, title());
 }

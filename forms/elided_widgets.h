@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 
 /// A label of one line whose text ends in an ellipsis where it is too long; all of it is the tool
@@ -33,4 +34,17 @@ public:
 
 protected:
     void initStyleOption(QStyleOptionComboBox *option) const override;
+};
+
+/// A group box whose title is drawn whole in every script. The style reckons with the height of the
+/// form's face, and cuts off what is taller, as the faces of Chinese and Japanese are.
+class WholeTitleGroupBox : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    using QGroupBox::QGroupBox;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 };

@@ -18,13 +18,14 @@ namespace {
 
 #define ROW(member) FORM_WIDGET(SaveCompilerDetailsBase, member)
 #define LIST(member) FORM_WIDGET_AS(SaveCompilerDetailsBase, member, ElidedComboBox)
+#define GROUP(member) FORM_WIDGET_AS(SaveCompilerDetailsBase, member, WholeTitleGroupBox)
 
 const WidgetRow<SaveCompilerDetailsBase> widgets[] = {
     {ROW(pixmapLabel3),
      {{5, 20, 532, 36}, SetUp::Plain, &SaveCompilerDetailsBase::bannerLeftImage}},
     {ROW(buttonOk), {{350, 380, 82, 26}, SetUp::WhiteBackground}},
     {ROW(buttonCancel), {{438, 380, 82, 26}, SetUp::WhiteBackground}},
-    {ROW(SaveNewGrpBox), {{20, 250, 500, 120}}},
+    {GROUP(SaveNewGrpBox), {{20, 250, 500, 120}}},
     {ROW(textLabel1_3), {{10, 20, 90, 20}}, "SaveNewGrpBox"},
     {ROW(textLabel1_2_2), {{10, 60, 90, 20}}, "SaveNewGrpBox"},
     {ROW(textLabel1_2_2_2), {{10, 90, 90, 20}}, "SaveNewGrpBox"},
@@ -37,7 +38,7 @@ const WidgetRow<SaveCompilerDetailsBase> widgets[] = {
     {ROW(CRadioButton), {{10, 0, 40, 20}, SetUp::Checked}, "buttonGroup1"},
     {ROW(CPPRadioButton), {{70, 0, 50, 20}}, "buttonGroup1"},
     {ROW(BothRadioButton), {{140, 0, 50, 20}}, "buttonGroup1"},
-    {ROW(SaveExstGrpBox), {{20, 160, 500, 80}}},
+    {GROUP(SaveExstGrpBox), {{20, 160, 500, 80}}},
     {ROW(textLabel1), {{10, 20, 90, 20}}, "SaveExstGrpBox"},
     {ROW(textLabel1_2), {{10, 50, 90, 20}}, "SaveExstGrpBox"},
     {LIST(ExstCmpNameComboBox), {{110, 50, 150, 21}}, "SaveExstGrpBox"},

@@ -1,6 +1,6 @@
 // Draws every picture of the wizard and writes it where the program expects it:
 // forms/images (compiled into the program), images (loaded from the program folder), and
-// packaging/windows (the icon of the executable file).
+// packaging (the icons of the installed program).
 //
 // Usage: draw_images SOURCE_ROOT
 //
@@ -73,19 +73,36 @@ QPainterPath sepal(const QPointF &foot, qreal length, qreal degrees)
     return QTransform().translate(foot.x(), foot.y()).rotate(degrees).map(leaf);
 }
 
-/// The five sepals on their foot; the outermost are drawn first, so that the middle one lies on
-/// top. \a outer to \a middle are the colours from the outside in.
+struct Sepal
+{
+    QPainterPath path;
+    QColor colour;
+};
+
+/// The five sepals on their foot; the outermost come first, so that the middle one lies on top.
+/// \a outerToMiddle are the colours from the outside in.
+std::vector<Sepal> sepals(const QPointF &foot, qreal length,
+                          const std::array<QColor, 3> &outerToMiddle)
+{
+    const qreal spread[] = {68, 34, 0};
+    const qreal share[] = {0.80, 0.92, 1.0};
+    std::vector<Sepal> list;
+    for (std::size_t ring = 0; ring < 3; ++ring) {
+        for (const qreal side : {-1.0, 1.0})
+            list.push_back(
+                {sepal(foot, length * share[ring], side * spread[ring]), outerToMiddle[ring]});
+    }
+    return list;
+}
+
 void drawSepals(QPainter &painter, const QPointF &foot, qreal length,
                 const std::array<QColor, 3> &outerToMiddle)
 {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    const qreal spread[] = {68, 34, 0};
-    const qreal share[] = {0.80, 0.92, 1.0};
-    for (int ring = 0; ring < 3; ++ring) {
-        painter.setBrush(outerToMiddle[ring]);
-        for (const qreal side : {-1.0, 1.0})
-            painter.drawPath(sepal(foot, length * share[ring], side * spread[ring]));
+    for (const Sepal &leaf : sepals(foot, length, outerToMiddle)) {
+        painter.setBrush(leaf.colour);
+        painter.drawPath(leaf.path);
     }
 }
 
@@ -106,17 +123,47 @@ void drawBar(QPainter &painter, const QRectF &bar, const QColor &left, const QCo
     }
 }
 
+// The icon, which is drawn on a square of 32 by 32.
+const qreal iconSide = 32;
+const qreal iconCorner = 6;
+const QPointF iconFoot(16, 26);
+const qreal iconSepal = 21;
+const std::array<QColor, 3> iconColours {slate, mist, green};
+
 QImage icon(int size)
 {
     QImage image = blank(1, size, size, Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(size / 32.0, size / 32.0);
+    painter.scale(size / iconSide, size / iconSide);
     painter.setPen(Qt::NoPen);
     painter.setBrush(ink);
-    painter.drawRoundedRect(QRectF(0, 0, 32, 32), 6, 6);
-    drawSepals(painter, QPointF(16, 26), 21, {slate, mist, green});
+    painter.drawRoundedRect(QRectF(0, 0, iconSide, iconSide), iconCorner, iconCorner);
+    drawSepals(painter, iconFoot, iconSepal, iconColours);
     return image.convertToFormat(QImage::Format_RGBA8888);
+}
+
+/// The icon as a scalable picture. The curves of a path come as a control point each, and two more
+/// points.
+QByteArray scalableIcon()
+{
+    QString text;
+    QTextStream stream(&text);
+    stream << "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 " << iconSide << ' '
+           << iconSide << "\">\n<rect width=\"" << iconSide << "\" height=\"" << iconSide
+           << "\" rx=\"" << iconCorner << "\" fill=\"" << ink.name() << "\"/>\n";
+    stream << Qt::fixed << qSetRealNumberPrecision(3);
+    for (const Sepal &leaf : sepals(iconFoot, iconSepal, iconColours)) {
+        stream << "<path fill=\"" << leaf.colour.name() << "\" d=\"";
+        for (int i = 0; i < leaf.path.elementCount(); ++i) {
+            const QPainterPath::Element point = leaf.path.elementAt(i);
+            const bool isCurve = point.type == QPainterPath::CurveToElement;
+            stream << (i == 0 ? "M" : isCurve ? " C" : " ") << point.x << ',' << point.y;
+        }
+        stream << "Z\"/>\n";
+    }
+    stream << "</svg>\n";
+    return text.toLatin1();
 }
 
 /// The icon in several sizes as one file in Windows' format: a header of 6 bytes, 16 bytes for each
@@ -404,6 +451,15 @@ bool write(const QImage &image, const QString &path)
     return false;
 }
 
+bool write(const QByteArray &content, const QString &path)
+{
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size())
+        return true;
+    QTextStream(stderr) << "draw_images: cannot write " << path << '\n';
+    return false;
+}
+
 bool drawAll(const QString &root)
 {
     bool written = true;
@@ -413,8 +469,10 @@ bool drawAll(const QString &root)
         written &= write(picture.image, root + picture.path.chopped(4) + "@2x.png");
     written &= write(icon(32), root + "forms/images/icon.png");
     written &= write(icon(64), root + "forms/images/icon@2x.png");
-    QFile windows(root + "packaging/windows/calyx.ico");
-    written &= windows.open(QIODevice::WriteOnly) && windows.write(windowsIcon()) > 0;
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256, 512})
+        written &= write(icon(size), u"%1packaging/debian/icons/%2.png"_s.arg(root).arg(size));
+    written &= write(scalableIcon(), root + "packaging/debian/icons/scalable.svg");
+    written &= write(windowsIcon(), root + "packaging/windows/calyx.ico");
     return written;
 }
 

@@ -49,6 +49,10 @@ oder nennt eine bestimmte Sprache, obwohl „Beide“ gewählt ist.
 
 Der Name sollte die Sprache wiedergeben. Möchten Sie diesen Namen wirklich verwenden?</translation>
     </message>
+    <message>
+        <source>The compiler has not been saved: the catalogue compilers.txt cannot be read whole, and saving would lose what it holds.</source>
+        <translation>Der Compiler wurde nicht gesichert: Der Katalog compilers.txt lässt sich nicht ganz lesen, und beim Sichern ginge sein Inhalt verloren.</translation>
+    </message>
 </context>
 <context>
     <name>CalyxBase</name>

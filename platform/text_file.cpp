@@ -13,25 +13,24 @@ namespace platform {
 
 namespace {
 
-const QLatin1StringView lockExtension(".lock");
-const int longestWait = 5000; // milliseconds, for another program's save, which takes a few
+// Milliseconds for another program's save, which takes a few of them.
+const int usualWait = 500;
+const int longestWait = 5000;
 
-const int longestSigning = 1000; // milliseconds, which takes none where nobody is killed
-
-/// Removes the lock \a path if nobody has signed it, and nobody does now: whoever made it was
-/// killed before that. \a lock tells a signed one by itself.
-void removeUnsignedLock(const QString &path, QLockFile &lock)
+/// Waits for \a lock and takes it. False when others keep it, or it cannot be made.
+bool acquire(QLockFile &lock)
 {
-    const QFileInfo before(path);
-    if (!before.exists() || before.size() > 0)
-        return;
-    if (lock.tryLock(longestSigning)) {
-        lock.unlock();
-        return;
-    }
-    const QFileInfo after(path);
-    if (after.size() == 0 && after.lastModified() == before.lastModified())
-        QFile::remove(path);
+    if (lock.tryLock(usualWait))
+        return true;
+    const QDateTime made = QFileInfo(lock.fileName()).lastModified();
+    qint64 process = 0;
+    QString host, program;
+    const bool isSigned = lock.getLockInfo(&process, &host, &program);
+    // Whoever made a lock and has not signed it at once was killed before that; from one who lives
+    // the system does not let it be taken away.
+    if (!isSigned && made.isValid() && made.msecsTo(QDateTime::currentDateTime()) > usualWait)
+        lock.removeStaleLockFile();
+    return lock.tryLock(longestWait);
 }
 
 /// What \a path leads to, whether or not that exists.
@@ -82,10 +81,9 @@ std::optional<QString> readTextFile(const QString &path, qint64 sizeLimit)
 }
 
 FileReplacement::FileReplacement(const QString &path)
-    : m_path(withoutLinks(path)), m_lock(std::make_unique<QLockFile>(m_path + lockExtension))
+    : m_path(withoutLinks(path)), m_lock(std::make_unique<QLockFile>(m_path + ".lock"_L1))
 {
-    removeUnsignedLock(m_path + lockExtension, *m_lock);
-    m_isLocked = m_lock->tryLock(longestWait);
+    m_isLocked = acquire(*m_lock);
 }
 
 FileReplacement::~FileReplacement() = default;

@@ -24,11 +24,15 @@ bool isProgram(const QString &word)
 }
 
 /// Whether the word \a index of a command may be a path. The program is one already; a define, and
-/// the language behind the GNU driver's "-x", are paths by chance only.
-bool mayBePath(const QStringList &words, qsizetype index, const QString &defineFlag)
+/// the language behind the GNU driver's "-x", are paths by chance only. What the compiler writes
+/// stays in the folder of the probe.
+bool mayBePath(const QStringList &words, qsizetype index, const CommandLayout &layout)
 {
-    const bool isDefine = !defineFlag.isEmpty() && words[index].startsWith(defineFlag);
-    return index > 0 && !isDefine && words[index - 1] != "-x"_L1;
+    const auto isBehind = [&word = words[index]](const QString &flag) {
+        return !flag.isEmpty() && word.startsWith(flag);
+    };
+    return index > 0 && !isBehind(layout.defineFlag) && !isBehind(layout.outputFlag)
+        && words[index - 1] != "-x"_L1;
 }
 
 /// The defines that the command can name. Without a flag each would be taken for a file.
@@ -108,9 +112,8 @@ Compiler findCompiler(const Arguments &arguments)
             compiler.includedFirst << words[i] << withAbsolutePath(words[i + 1]);
             ++i;
         } else {
-            compiler.command << (mayBePath(words, i, arguments.layout.defineFlag)
-                                     ? withAbsolutePath(words[i])
-                                     : words[i]);
+            compiler.command << (mayBePath(words, i, arguments.layout) ? withAbsolutePath(words[i])
+                                                                       : words[i]);
         }
     }
     const QString program = words.isEmpty() ? QString() : programPath(words.first());

@@ -304,20 +304,18 @@ bool worksStill(Progress &progress, const ProbeRunner &runner, const QString &lo
     return false;
 }
 
-bool checkCompleteness(Progress &progress, const Questions &questions, const Facts &facts)
+bool checkCompleteness(Progress &progress, const Facts &facts, bool lacksSearchPath)
 {
     const bool hasTypes = !facts.types.basic.isEmpty();
-    const bool hasSearchPath =
-        !facts.searchPath.directories.isEmpty() || !includesStandardHeaders(questions);
     if (!hasTypes) {
         progress.say(u"The sizes of the types have not been found: constants cannot be read back. "
                      "Look at the flags and the extension on the page Compiler Command."_s);
     }
-    if (!hasSearchPath) {
+    if (lacksSearchPath) {
         progress.say(u"The directories that the compiler searches have not been found, though it "
                      "finds its headers. Name them on the page Search Directories."_s);
     }
-    return hasTypes && hasSearchPath;
+    return hasTypes && !lacksSearchPath;
 }
 
 QByteArray textOfPersonality(const Arguments &arguments, const Compiler &compiler,

@@ -55,9 +55,9 @@ SearchPath findSearchPath(Progress &progress, const Questions &questions, const 
 /// in \a logFolder then.
 bool worksStill(Progress &progress, const ProbeRunner &runner, const QString &logFolder);
 
-/// Whether \a facts hold the types, and the search path unless the compiler has none: without them
-/// clang would read code as if it were for another compiler.
-bool checkCompleteness(Progress &progress, const Questions &questions, const Facts &facts);
+/// Whether \a facts hold the types, and the search path is not one that the compiler has and that
+/// is lacking: without them clang would read code as if it were for another compiler.
+bool checkCompleteness(Progress &progress, const Facts &facts, bool lacksSearchPath);
 
 /// The text of the personality of the compiler of \a facts.
 QByteArray textOfPersonality(const Arguments &arguments, const Compiler &compiler,

@@ -59,6 +59,20 @@ private slots:
         QDir::setCurrent(QDir::rootPath());
     }
 
+    void leavesOutputsInTheFolderOfTheProbe()
+    {
+        const QTemporaryDir folder;
+        writeTestFile(folder.filePath("mine"));
+        QDir::setCurrent(folder.path());
+        Arguments arguments;
+        arguments.command = "cc";
+        arguments.layout.outputFlag = "-o";
+        arguments.switches = QStringList {"-omine", "mine"};
+        QCOMPARE(findCompiler(arguments).command.mid(1),
+                 QStringList({"-omine", QDir::currentPath() + "/mine"}));
+        QDir::setCurrent(QDir::rootPath());
+    }
+
     void keepsWhatIsIncludedFirstApart()
     {
         Arguments arguments;

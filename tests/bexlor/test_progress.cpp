@@ -2,6 +2,7 @@
 
 #include <QRegularExpression>
 #include <QTest>
+#include <atomic>
 #include <vector>
 
 class TestProgress : public QObject
@@ -10,7 +11,17 @@ class TestProgress : public QObject
 
 private:
     QString m_said;
-    Progress m_progress {[this](const QString &text) { m_said += text; }};
+    std::atomic<bool> m_isWriting = false;
+    std::atomic<bool> m_overlaps = false;
+    Progress m_progress {[this](const QString &text) {
+        if (m_isWriting.exchange(true)) {
+            m_overlaps = true;
+            return;
+        }
+        std::this_thread::yield();
+        m_said += text;
+        m_isWriting = false;
+    }};
 
 private slots:
     void init() { m_said.clear(); }
@@ -44,9 +55,9 @@ private slots:
     void keepsTheLinesOfSeveralThreadsWhole()
     {
         {
-            std::vector<std::jthread> threads;
-            for (int thread = 0; thread < 4; ++thread) {
-                threads.emplace_back([this] {
+            std::vector<std::jthread> threads(4);
+            for (std::jthread &thread : threads) {
+                thread = std::jthread([this] {
                     for (int i = 0; i < 500; ++i) {
                         m_progress.begin("Step ...", [] { return QString("7"); });
                         m_progress.grow();
@@ -55,6 +66,7 @@ private slots:
                 });
             }
         }
+        QVERIFY(!m_overlaps);
         QCOMPARE(m_said.count("Step ..."), 2000);
         m_said.remove("Found.\n").remove(QRegularExpression("Step \\.\\.\\.( (7|\\.\\.\\.))*\n"));
         QCOMPARE(m_said, QString());

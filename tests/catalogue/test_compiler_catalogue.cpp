@@ -130,6 +130,38 @@ private slots:
                  saved.replace("@", block));
     }
 
+    void bringsWhatIsShipped_data()
+    {
+        // A record's command, or "" where it is missing.
+        QTest::addColumn<QString>("own");
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QString>("shipped");
+        QTest::addColumn<QString>("result");
+        row("new", "", "", "new", "new");
+        row("new, and the user's own", "own", "", "new", "own");
+        row("newer", "old", "old", "new", "new");
+        row("changed by both", "own", "old", "new", "own");
+        row("removed by the user", "", "old", "new", "");
+        row("no longer shipped", "old", "old", "", "old");
+    }
+    void bringsWhatIsShipped()
+    {
+        const auto catalogue = [](const char *column) {
+            const QString command =
+                *static_cast<QString *>(QTest::qData(column, QMetaType::QString));
+            CompilerRecord record;
+            record.Name = "n";
+            record.Family = "F";
+            record.ExeCommand = command;
+            return command.isEmpty() ? CompilerCatalogue() : CompilerCatalogue {{"F"}, {record}};
+        };
+        const QByteArray file = "# kept\n" + catalogueText(catalogue("own"));
+        const QByteArray made = withShipped(file, catalogue("before"), catalogue("shipped"));
+        QCOMPARE(parseCatalogue(made), catalogue("result"));
+        QVERIFY(made.contains("# kept\n"));
+        QCOMPARE(withShipped(made, catalogue("shipped"), catalogue("shipped")), made);
+    }
+
     void keepsWhatItCannotRead_data()
     {
         QTest::addColumn<QByteArray>("file");

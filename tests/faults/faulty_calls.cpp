@@ -13,6 +13,7 @@
 #include <cstring>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -50,6 +51,15 @@ bool fails(Change change)
         kill(getpid(), SIGKILL);
     errno = fault.error;
     return fault.error > 0 && (change == Change::OfDisk || !lasts(fault.error));
+}
+
+/// Pipes and terminals know no full disk.
+bool isFile(int file)
+{
+    struct stat status
+    {
+    };
+    return fstat(file, &status) == 0 && S_ISREG(status.st_mode);
 }
 
 template <typename Function>
@@ -116,13 +126,13 @@ FAULTY_OPEN(openat, (int folder, const char *path, int flags, ...), folder, path
 
 extern "C" ssize_t read(int file, void *bytes, std::size_t size)
 {
-    return fails(Change::None) ? -1 : real(&read, "read")(file, bytes, size);
+    return isFile(file) && fails(Change::None) ? -1 : real(&read, "read")(file, bytes, size);
 }
 
 extern "C" ssize_t write(int file, const void *bytes, std::size_t size)
 {
     const bool wasWhole = calls < fault.call;
-    if (fails(Change::OfDisk))
+    if (isFile(file) && fails(Change::OfDisk))
         return -1;
     const bool isShort = isOn && fault.error == writeLess && wasWhole && calls >= fault.call;
     return real(&write, "write")(file, bytes, isShort && size > 1 ? size / 2 : size);

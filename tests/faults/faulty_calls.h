@@ -1,7 +1,7 @@
 #pragma once
 
-/// Calls of the system that fail when they are told to: write, read, open, fsync, rename, unlink,
-/// fchmod and ftruncate, and the other names that the same calls have.
+/// Calls of the system that fail when they are told to, those that open, read, write, name and
+/// remove files.
 struct Fault
 {
     int call = 0;  ///< which of the calls fails, from 1 on; 0 for none

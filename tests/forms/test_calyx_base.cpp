@@ -15,11 +15,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyleOptionButton>
 #include <QTest>
+#include <QTextBoundaryFinder>
 #include <QToolTip>
 #include <cmath>
 
@@ -44,6 +46,18 @@ QString cutOff(const QWidget *widget, const QSize &needed, const QSize &availabl
         .arg(available.height());
 }
 
+/// The width of the widest piece of \a text that no line break may divide: a word, or a character
+/// of a script without spaces.
+int widestPiece(const QString &text, const QFontMetrics &metrics)
+{
+    int widest = 0;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
+    for (int begin = 0, end = 0; (end = int(finder.toNextBoundary())) > 0; begin = end)
+        widest =
+            std::max(widest, metrics.horizontalAdvance(text.mid(begin, end - begin).trimmed()));
+    return widest;
+}
+
 /// Adds to \a problems if \a label cuts its text off. Whether it has one.
 bool checkRoom(const QLabel *label, QString &problems)
 {
@@ -52,11 +66,9 @@ bool checkRoom(const QLabel *label, QString &problems)
         return false;
     QSize needed = label->sizeHint();
     if (label->wordWrap()) {
-        int widestWord = 0;
-        for (const QString &word : label->text().split(' '))
-            widestWord = std::max(widestWord, label->fontMetrics().horizontalAdvance(word));
         const bool isMarkup = label->text().contains('<');
-        needed = QSize(isMarkup ? 0 : widestWord, label->heightForWidth(label->width()));
+        needed = QSize(isMarkup ? 0 : widestPiece(label->text(), label->fontMetrics()),
+                       label->heightForWidth(label->width()));
     }
     problems += cutOff(label, needed, label->size());
     return true;
@@ -77,6 +89,19 @@ bool checkRoom(const QAbstractButton *button, QString &problems)
     problems += cutOff(button, button->fontMetrics().size(Qt::TextShowMnemonic, button->text()),
                        button->style()->subElementRect(contents, &option, button).size());
     return true;
+}
+
+/// How many lines of \a image have something dark in them.
+int darkLines(const QImage &image)
+{
+    int lines = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        bool isDark = false;
+        for (int x = 0; x < image.width(); ++x)
+            isDark |= image.pixelColor(x, y).lightness() < 140;
+        lines += isDark ? 1 : 0;
+    }
+    return lines;
 }
 
 /// How far two colours are apart, from 1 for none to 21: the contrast ratio of the Web Content
@@ -194,6 +219,24 @@ private slots:
             texts += checkRoom(button, problems);
         QVERIFY2(problems.isEmpty(), qPrintable(problems));
         QVERIFY2(texts >= 44, qPrintable(QString::number(texts)));
+    }
+
+    void drawsTallTitlesWhole()
+    {
+        const Language spoken("ja");
+        const Forms forms;
+        const QString sign(QChar(0x56fd)); // is as tall as any of its script
+        QImage alone(60, 60, QImage::Format_RGB32);
+        alone.fill(Qt::white);
+        QPainter painter(&alone);
+        painter.setFont(forms.dialog.font());
+        painter.drawText(20, 40, sign);
+        painter.end();
+        QGroupBox *box = forms.dialog.SaveNewGrpBox;
+        box->setTitle("       " + sign + "   ");
+        const QImage title = box->grab(QRect(27, 0, 30, 19)).toImage();
+        QVERIFY(darkLines(alone) > 8);
+        QCOMPARE(darkLines(title), darkLines(alone));
     }
 
     void canBeReadUnderEveryPalette_data()

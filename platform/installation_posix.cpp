@@ -1,0 +1,36 @@
+#include "installation.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QStandardPaths>
+#include <unistd.h>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+Installation installation()
+{
+    const QString prefix = QDir::cleanPath(QCoreApplication::applicationDirPath() + "/.."_L1);
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return {prefix + "/lib/calyx/calyx"_L1, prefix + "/share/calyx"_L1, data + "/calyx"_L1};
+}
+
+std::optional<int> continueAs(const QString &program, const QStringList &arguments,
+                              const QString &workingDirectory)
+{
+    QList<QByteArray> words {QFile::encodeName(program)};
+    for (const QString &argument : arguments)
+        words << argument.toLocal8Bit();
+    std::vector<char *> pointers;
+    for (QByteArray &word : words)
+        pointers.push_back(word.data());
+    pointers.push_back(nullptr);
+    // The same process, so that signals, the session and the exit status are the wizard's.
+    if (QDir::setCurrent(workingDirectory))
+        execv(pointers.front(), pointers.data());
+    return {};
+}
+
+} // namespace platform
