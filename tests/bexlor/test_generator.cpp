@@ -397,7 +397,7 @@ private slots:
         QDir(workshop.folder.path()).mkdir("temporary");
         qputenv("TMPDIR", workshop.folder.filePath("temporary").toLocal8Bit());
         qputenv("BEXLOR_LEARN_ONLY", "1");
-        const QRegularExpression mayDiffer("^#: command|" + open);
+        const QRegularExpression mayDiffer("^#: (command|answers) |" + open);
         static QStringList right; // of the same compiler when nothing ails it
         if (right.isEmpty()) {
             QVERIFY(workshop.generate("kov", "tcc -nostdinc").succeeded());
@@ -480,7 +480,7 @@ private slots:
         QVERIFY2(run.succeeded(), run.output);
         QCOMPARE(run.output.count("it has a control character in its name"), 3);
         const QString text = workshop.read("sub folder/mine.p_c");
-        QVERIFY2(!text.contains("EVIL") && text.contains("\"-DEVEN=1\""), qPrintable(text));
+        QVERIFY2(!text.contains("\n-DEVIL") && text.contains("\"-DEVEN=1\""), qPrintable(text));
         QVERIFY(text.contains("\n#: macro ODD undetermined\n"));
         QVERIFY(text.contains("\n#: version odd [31mcc 1.2\n"));
         for (const QChar character : text)
