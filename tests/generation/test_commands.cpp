@@ -1,6 +1,6 @@
+#include "argument_texts.h"
 #include "command_check.h"
 #include "command_order.h"
-#include "generator_arguments.h"
 #include "row.h"
 
 #include <QTest>
