@@ -18,7 +18,7 @@ const char *const pragmasOfThePreprocessor[] = {
 
 // A declaration that a header of the C library leaves out behind the GNU compilers' <stdarg.h>, and
 // repeats behind clang's, which does not define the macro that it looks for.
-const char *const repeatedDeclaration[] = {"typedef", "__gnuc_va_list", "va_list", ";"};
+const char *const repeatedDeclaration[] = {"__gnuc_va_list", "va_list", ";"}; // behind "typedef"
 
 const char *const literalPrefixes[] = {"L", "u", "U", "u8", "R", "LR", "uR", "UR", "u8R"};
 
@@ -82,10 +82,13 @@ private:
 
 QByteArrayView TokenStream::next()
 {
-    while (passRepeatedDeclaration()) { }
-    return takeToken();
+    QByteArrayView token = takeToken();
+    while (token == "typedef" && passRepeatedDeclaration())
+        token = takeToken();
+    return token;
 }
 
+/// Passes what stands behind "typedef" if it is the declaration.
 bool TokenStream::passRepeatedDeclaration()
 {
     TokenStream ahead = *this;
