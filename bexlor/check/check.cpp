@@ -23,36 +23,51 @@ int timeLeft(const Checking &checking)
                                 patience));
 }
 
-/// \a command with \a option in the place of the object flag or, if there is none, behind the
-/// program's name.
-QStringList withOption(QStringList command, const QString &option, const QString &objectFlag)
+// Operators whose answers are each compiler's own. Those on headers tell about the search path.
+const char *const abilityOperators[] = {
+    "__has_attribute",          "__has_builtin",   "__has_c_attribute", "__has_cpp_attribute",
+    "__has_declspec_attribute", "__has_extension", "__has_feature",     "__has_warning",
+};
+
+/// Definitions, each behind \a flag, under which these operators answer no.
+QStringList withoutAbilities(const QString &flag)
 {
-    const qsizetype place = objectFlag.isEmpty() ? -1 : command.indexOf(objectFlag, 1);
-    if (place < 0)
-        command.insert(1, option);
-    else
-        command[place] = option;
-    return command;
+    QStringList options;
+    for (const char *name : abilityOperators)
+        options << flag + QLatin1StringView(name) + "(...)=0"_L1;
+    return options;
+}
+
+/// \a command with \a options in the place of the object flag or, if there is none, behind the
+/// program's name.
+QStringList withOptions(const QStringList &command, const QStringList &options,
+                        const QString &objectFlag)
+{
+    const qsizetype flag = objectFlag.isEmpty() ? -1 : command.indexOf(objectFlag, 1);
+    const qsizetype place = std::max<qsizetype>(flag, 1);
+    return command.first(place) + options + command.sliced(flag < 0 ? place : place + 1);
 }
 
 platform::ProgramRun compile(const Checking &checking, const CheckedSource &source)
 {
-    const QStringList command = checking.checksSyntaxOnly
-                                  ? withOption(source.command, syntaxOnly, checking.objectFlag)
-                                  : source.command;
+    const QStringList command =
+        checking.checksSyntaxOnly
+            ? withOptions(source.command, {syntaxOnly}, checking.layout.objectFlag)
+            : source.command;
     const platform::ProgramRun run =
         platform::runProgram(command, source.directory, timeLeft(checking));
     QFile::remove(source.output);
     return run;
 }
 
-/// What the compiler makes of \a source when it preprocesses it, be it printed or written where it
-/// writes objects to. Empty if it fails.
-QByteArray preprocess(const Checking &checking, const CheckedSource &source)
+/// What the compiler makes of \a source when it preprocesses it under \a definitions, be it printed
+/// or written where it writes objects to. Empty if it fails.
+QByteArray preprocess(const Checking &checking, const CheckedSource &source,
+                      const QStringList &definitions)
 {
-    const platform::ProgramRun run =
-        platform::runProgram(withOption(source.command, checking.preprocess, checking.objectFlag),
-                             source.directory, timeLeft(checking), largestSource);
+    const platform::ProgramRun run = platform::runProgram(
+        withOptions(source.command, checking.preprocess + definitions, checking.layout.objectFlag),
+        source.directory, timeLeft(checking), largestSource);
     const QByteArray text =
         run.output.isEmpty() ? platform::readFile(source.output, largestSource).bytes : run.output;
     QFile::remove(source.output);
@@ -78,22 +93,44 @@ QStringList undefinedKeywords(const Personality &personality)
     return options;
 }
 
+/// What comparing \a source under definitions for both has come to; nothing if that was not
+/// possible.
+struct Comparison
+{
+    std::optional<TokenDifference> difference;
+};
+
+std::optional<Comparison> compare(const Checking &checking, const CheckedSource &source,
+                                  const QStringList &ownDefinitions,
+                                  const QStringList &clangDefinitions)
+{
+    const QByteArray own = preprocess(checking, source, ownDefinitions);
+    const platform::ProgramRun clang =
+        runClang(checking, source,
+                 QStringList {u"-E"_s} + undefinedKeywords(checking.content) + clangDefinitions);
+    if (own.isEmpty() || !clang.succeeded())
+        return {};
+    const QStringList ownHeaders = ownHeadersOf(checking.content);
+    return Comparison {
+        firstDifference({own, ownHeaders}, {clang.output, {checking.clang.headers}})};
+}
+
 /// Compares the code that both see in a source that both accept.
 void compare(const Checking &checking, const CheckedSource &source, Verdict &verdict)
 {
     verdict.result = Verdict::NotCompared;
     if (checking.preprocess.isEmpty())
         return;
-    const QByteArray own = preprocess(checking, source);
-    const platform::ProgramRun clang =
-        runClang(checking, source, QStringList {u"-E"_s} + undefinedKeywords(checking.content));
-    if (own.isEmpty() || !clang.succeeded())
+    std::optional<Comparison> comparison = compare(checking, source, {}, {});
+    if (!comparison)
         return;
-    const QStringList ownHeaders = ownHeadersOf(checking.content);
-    const std::optional<TokenDifference> difference =
-        firstDifference({own, ownHeaders}, {clang.output, {checking.clang.headers}});
-    verdict.result = difference ? Verdict::Different : Verdict::Same;
-    verdict.difference = difference.value_or(TokenDifference());
+    if (comparison->difference && !checking.layout.defineFlag.isEmpty()) {
+        const auto alike = compare(checking, source, withoutAbilities(checking.layout.defineFlag),
+                                   withoutAbilities(u"-D"_s));
+        comparison = alike ? alike : comparison;
+    }
+    verdict.result = comparison->difference ? Verdict::Different : Verdict::Same;
+    verdict.difference = comparison->difference.value_or(TokenDifference());
 }
 
 QString firstLine(const platform::ProgramRun &run)
@@ -143,8 +180,8 @@ bool canCheckSyntaxOnly(const Compiler &compiler, const QString &folder)
         const QString file = folder + u'/' + name + probeName(compiler.isCpp);
         if (!platform::writeScratchFile(file, code))
             return false;
-        const QStringList command = withOption(sourceOfFile(compiler, file, folder, 0).command,
-                                               syntaxOnly, compiler.layout.objectFlag);
+        const QStringList command = withOptions(sourceOfFile(compiler, file, folder, 0).command,
+                                                {syntaxOnly}, compiler.layout.objectFlag);
         return platform::runProgram(command, folder, patience).succeeded();
     };
     return accepts(u"right_"_s, "int right;\n") && !accepts(u"wrong_"_s, "int wrong wrong;\n");

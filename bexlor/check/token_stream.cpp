@@ -11,9 +11,10 @@ const char *const punctuators[] = {
     "<=",   ">=",  "==",  "!=",  "&&",  "||",  "*=", "/=", "%=", "+=", "-=",
     "&=",   "^=",  "|=",  "##",  "::",  ".*",  "<:", ":>", "<%", "%>", "%:"};
 
-// Pragmas that a preprocessor obeys, and may then write or not.
-const char *const pragmasOfThePreprocessor[] = {
-    "once", "push_macro", "pop_macro", "GCC system_header", "GCC poison", "GCC warning",
+// Pragmas that a preprocessor obeys or that are about messages: it may write them or not.
+const char *const pragmasSetAside[] = {
+    "once",       "push_macro",  "pop_macro",      "GCC system_header",
+    "GCC poison", "GCC warning", "GCC diagnostic",
 };
 
 // A declaration that a header of the C library leaves out behind the GNU compilers' <stdarg.h>, and
@@ -136,7 +137,7 @@ bool TokenStream::passDirective()
     if (directive.startsWith("pragma ")) {
         const QByteArrayView pragma = directive.sliced(7).trimmed();
         const bool isSetAside =
-            std::any_of(std::begin(pragmasOfThePreprocessor), std::end(pragmasOfThePreprocessor),
+            std::any_of(std::begin(pragmasSetAside), std::end(pragmasSetAside),
                         [pragma](const char *start) { return pragma.startsWith(start); });
         m_place += isSetAside ? line.size() : 0;
         return isSetAside;

@@ -109,12 +109,9 @@ ExitStatus checkWithPersonality(Progress &progress, const CheckRequest &request,
     const auto &sources = std::get<Sources>(read);
     if (sources.passedOver > 0)
         progress.say(u"Passed over, being in another language: %1."_s.arg(sources.passedOver));
-    const Checking checking {*clang,
-                             request.personality,
-                             content,
-                             compiler.layout.objectFlag,
-                             request.preprocess,
-                             canCheckSyntaxOnly(compiler, folder)};
+    const Checking checking {
+        *clang,          request.personality,  content,
+        compiler.layout, {request.preprocess}, canCheckSyntaxOnly(compiler, folder)};
     QList<Verdict> verdicts;
     checkSources(checking, sources.list, [&](const Verdict &verdict) {
         verdicts << verdict;
@@ -151,7 +148,7 @@ void checkHeaders(Progress &progress, const Arguments &arguments, const QByteArr
     const Checking checking {*clang,
                              QDir::current().absoluteFilePath(arguments.personality),
                              content,
-                             compiler.layout.objectFlag,
+                             compiler.layout,
                              {},
                              canCheckSyntaxOnly(compiler, folder),
                              QDeadlineTimer(headerTimeLimit)};

@@ -6,7 +6,6 @@
 #include "row.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 
 class TestCheck : public QObject
 {
@@ -15,13 +14,8 @@ class TestCheck : public QObject
 private slots:
     void comparesTokens_data()
     {
-        QTest::addColumn<QByteArray>("ofCompiler");
-        QTest::addColumn<QByteArray>("ofClang");
-        QTest::addColumn<QString>("difference"); // FILE:LINE and both tokens, or empty
-        const auto row = [](const char *name, const QByteArray &ofCompiler,
-                            const QByteArray &ofClang, const QString &difference) {
-            QTest::newRow(name) << ofCompiler << ofClang << difference;
-        };
+        // The last is FILE:LINE and both tokens, or empty.
+        const Columns<QByteArray, QByteArray, QString> row("ofCompiler", "ofClang", "difference");
         row("white space and markers", "# 1 \"x.c\"\nint  a;\n# 9 \"y.h\" 2\n b", "int a ;\n\nb\n",
             "");
         row("place", "# 1 \"x.c\"\na\n#line 7 \"odd \\\\ y.h\"\nb\nc\n", "a b d",
@@ -34,7 +28,8 @@ private slots:
         row("space in a literal", "# 1 \"x.c\"\n\"a  b\"", "\"a b\"", "x.c:1 \"a  b\" \"a b\"");
         row("raw literal", "# 1 \"x.c\"\nR\"(\"\n#)\" a\nb", "R\"(\"\n#)\"  a c", "x.c:3 b c");
         row("literals that do not end", "'\na R\"x \\", "'\na R\"x \\", "");
-        row("pragmas", "#pragma GCC system_header\n#pragma pack(1)\na", "#pragma pack(1)\na", "");
+        row("pragmas", "#pragma GCC system_header\n#pragma pack(1)\na",
+            "#pragma pack(1)\n#pragma GCC diagnostic pop\na", "");
         row("a pragma for the compiler", "# 1 \"x.c\"\n#pragma pack(1)\na", "a", "x.c:1 # a");
         row("a repeated declaration", "a typedef int va_list; b",
             "a typedef __gnuc_va_list va_list; typedef int va_list; b", "");

@@ -7,7 +7,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTemporaryDir>
-#include <QTest>
 
 using platform::ProgramRun;
 
@@ -110,12 +109,11 @@ private slots:
 
     void refusesWhatItCannotDo_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("exitCode");
-        row("missing database", QStringList {"compile-commands", "x.json"}, 3);
-        row("no database", QStringList {"clangd", "arm.p_c"}, 3);
-        row("no clang", QStringList {"clangd", "--clang", "no-clang"}, 3);
-        row("no folder", QStringList {"json", "-o", "no/x.json"}, 1);
+        const Columns<QStringList, int> row("arguments", "exitCode");
+        row("missing database", {"compile-commands", "x.json"}, 3);
+        row("no database", {"clangd", "arm.p_c"}, 3);
+        row("no clang", {"clangd", "--clang", "no-clang"}, 3);
+        row("no folder", {"json", "-o", "no/x.json"}, 1);
     }
     void refusesWhatItCannotDo()
     {
