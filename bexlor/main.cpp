@@ -200,11 +200,23 @@ ExitStatus run(const UsageError &error)
     return ExitStatus::Usage;
 }
 
+/// Does the one of several things that \a request asks for.
+template <typename... Wanted>
+ExitStatus runRequest(const std::variant<Wanted...> &request)
+{
+    ExitStatus status = ExitStatus::Usage;
+    const auto runIf = [&status](const auto *wanted) {
+        if (wanted)
+            status = run(*wanted);
+    };
+    (runIf(std::get_if<Wanted>(&request)), ...);
+    return status;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
-    const Request request = parseRequest(application.arguments().mid(1));
-    return int(std::visit([](const auto &wanted) { return run(wanted); }, request));
+    return int(runRequest(parseRequest(application.arguments().mid(1))));
 }

@@ -133,7 +133,7 @@ QString usage()
         "OBJECT-EXTENSION ORDER {-i DIRECTORY} -op PERSONALITY [-xd DEFINES] [-xs SWITCHES] "
         "[-tpl FILE] [-fi FILE] [-sub DIRECTORY] [-rfs]"_s;
     for (const CommandWord &row : commandWords)
-        lines += u"\n       Bexlor.exe %1 %2"_s.arg(row.word, row.usage).trimmed();
+        lines += "\n       "_L1 + u"Bexlor.exe %1 %2"_s.arg(row.word, row.usage).trimmed();
     return lines;
 }
 

@@ -26,7 +26,8 @@ std::optional<QList<CompileCommand>> parseDatabase(const QByteArray &json, const
     if (!document.isArray())
         return {};
     QList<CompileCommand> commands;
-    for (const QJsonValue &value : document.array()) {
+    const QJsonArray array = document.array();
+    for (const QJsonValueConstRef value : array) {
         CompileCommand command {QDir(folder).absoluteFilePath(value[directoryKey].toString()),
                                 value[fileKey].toString(),
                                 value[argumentsKey].toVariant().toStringList()};

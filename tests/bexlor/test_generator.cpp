@@ -551,7 +551,8 @@ private slots:
         QTest::addColumn<QByteArray>("reports");
         const QByteArray usage = "\nusage: Bexlor.exe kov|kovpp ";
         row("a wrong list", "kov", 2, QByteArray(), "last one: kov" + usage);
-        row("help", "--help", 0, usage, QByteArray());
+        row("help", "--help", 0, QByteArray("\n       Bexlor.exe again PERSONALITY [--verify]\n"),
+            QByteArray());
         row("version", "--version", 0, QByteArray("Bexlor 2."), QByteArray());
     }
     void saysHowItIsCalled()
