@@ -13,6 +13,7 @@
 #include "steps.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QTemporaryDir>
 #include <cstdio>
 #include <functional>
@@ -105,7 +106,8 @@ using Work = std::function<ExitStatus(Progress &progress, const QString &folder)
 ExitStatus inWorkshop(const Work &work)
 {
     Progress progress(&print);
-    QTemporaryDir workshop;
+    // Not after the program's name: sdcc breaks down at a path with ".exe" in it.
+    QTemporaryDir workshop(QDir::temp().filePath(u"Bexlor-XXXXXX"_s));
     if (!workshop.isValid()) {
         progress.say(u"No temporary folder can be made: %1"_s.arg(workshop.errorString()));
         return ExitStatus::Failed;

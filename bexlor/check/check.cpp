@@ -23,18 +23,26 @@ int timeLeft(const Checking &checking)
                                 patience));
 }
 
-// Operators whose answers are each compiler's own. Those on headers tell about the search path.
-const char *const abilityOperators[] = {
-    "__has_attribute",          "__has_builtin",   "__has_c_attribute", "__has_cpp_attribute",
-    "__has_declspec_attribute", "__has_extension", "__has_feature",     "__has_warning",
+// Operators whose answers are each compiler's own, defined to answer that it has nothing. Those on
+// headers tell about the search path instead.
+const char *const withoutAbilities[] = {
+    "__has_attribute(...)=0",
+    "__has_builtin(...)=0",
+    "__has_c_attribute(...)=0",
+    "__has_cpp_attribute(...)=0",
+    "__has_declspec_attribute(...)=0",
+    "__has_extension(...)=0",
+    "__has_feature(...)=0",
+    "__has_warning(...)=0",
+    "__is_identifier(...)=1",
 };
 
-/// Definitions, each behind \a flag, under which these operators answer no.
-QStringList withoutAbilities(const QString &flag)
+/// These definitions, each behind \a flag.
+QStringList abilityOptions(const QString &flag)
 {
     QStringList options;
-    for (const char *name : abilityOperators)
-        options << flag + QLatin1StringView(name) + "(...)=0"_L1;
+    for (const char *definition : withoutAbilities)
+        options << flag + QLatin1StringView(definition);
     return options;
 }
 
@@ -125,8 +133,8 @@ void compare(const Checking &checking, const CheckedSource &source, Verdict &ver
     if (!comparison)
         return;
     if (comparison->difference && !checking.layout.defineFlag.isEmpty()) {
-        const auto alike = compare(checking, source, withoutAbilities(checking.layout.defineFlag),
-                                   withoutAbilities(u"-D"_s));
+        const auto alike = compare(checking, source, abilityOptions(checking.layout.defineFlag),
+                                   abilityOptions(u"-D"_s));
         comparison = alike ? alike : comparison;
     }
     verdict.result = comparison->difference ? Verdict::Different : Verdict::Same;

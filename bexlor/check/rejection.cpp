@@ -15,7 +15,7 @@ const struct Kind
 } kinds[] = {
     {"option"_L1, "^(clang\\S*: |.*unknown target|.*\\(in '.*\\.p_c'\\))"_L1},
     {"header not found"_L1, "file not found$"_L1},
-    {"inline assembler"_L1, "\\basm\\b|in inline asm|constraint"_L1},
+    {"inline assembler"_L1, "\\basm\\b|in inline asm|constraint|expected 'volatile'"_L1},
     {"attribute"_L1, "\\battribute"_L1},
     {"builtin"_L1, "'__builtin_|'__(atomic|sync)_|\\bbuiltin\\b"_L1},
     {"keyword"_L1, "unknown type name|: expected |undeclared identifier '_"_L1},

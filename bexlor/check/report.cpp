@@ -30,12 +30,6 @@ qsizetype countOf(const QList<Verdict> &verdicts, Verdict::Result result)
                          [result](const Verdict &verdict) { return verdict.result == result; });
 }
 
-qsizetype acceptedByCompiler(const QList<Verdict> &verdicts)
-{
-    return verdicts.size() - countOf(verdicts, Verdict::RejectedByCompiler)
-         - countOf(verdicts, Verdict::NotStarted);
-}
-
 QString shown(const QByteArray &token)
 {
     return token.isEmpty() ? u"the end"_s : u'"' + QString::fromUtf8(token) + u'"';
@@ -69,6 +63,12 @@ QJsonObject json(const Verdict &verdict)
 }
 
 } // namespace
+
+qsizetype acceptedByCompiler(const QList<Verdict> &verdicts)
+{
+    return verdicts.size() - countOf(verdicts, Verdict::RejectedByCompiler)
+         - countOf(verdicts, Verdict::NotStarted);
+}
 
 QString verdictLine(const Verdict &verdict)
 {

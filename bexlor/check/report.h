@@ -3,6 +3,9 @@
 #include "check.h"
 #include "exit_status.h"
 
+/// How many of the sources the compiler accepts.
+qsizetype acceptedByCompiler(const QList<Verdict> &verdicts);
+
 /// One line on \a verdict: the file, a colon, and what came out.
 QString verdictLine(const Verdict &verdict);
 

@@ -25,6 +25,14 @@ QList<Macro> keywordDefinitions(const Facts &facts)
     const Macro *gnuVersion = findMacro(facts.macros, "__GNUC__");
     if (gnuVersion && gnuVersion->value.toInt() >= 11)
         definitions << Macro {"__malloc__(...)", "__malloc__"};
+    // GCC 7 has functions that only tell whether there is an overflow ("Built-in Functions to
+    // Perform Arithmetic with Overflow Checking"); clang has those that compute as well.
+    if (gnuVersion && gnuVersion->value.toInt() >= 7) {
+        for (const QByteArray operation : {"add", "sub", "mul"}) {
+            definitions << Macro {"__builtin_" + operation + "_overflow_p(a,b,c)",
+                                  "__builtin_" + operation + "_overflow(a,b,&(__typeof__(c)){0})"};
+        }
+    }
     for (const Keyword &keyword : facts.keywords) {
         if (known.contains(keyword.name))
             continue;

@@ -159,6 +159,8 @@ void checkHeaders(Progress &progress, const Arguments &arguments, const QByteArr
         checkSources(checking, sources,
                      [&verdicts](const Verdict &verdict) { verdicts << verdict; });
     }
+    if (acceptedByCompiler(verdicts) == 0)
+        return;
     progress.say(acceptanceSentence(clang->version, verdicts, u"headers"_s));
     const auto rejected =
         std::find_if(verdicts.begin(), verdicts.end(), [](const Verdict &verdict) {

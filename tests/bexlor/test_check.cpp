@@ -57,6 +57,7 @@ private slots:
                  {"x.c:1:2: fatal error: 'a.h' file not found", "header not found"},
                  {"x.c:1:9: error: unknown type name '__far'", "keyword"},
                  {"x.c:1:9: error: invalid output constraint '=z' in asm", "inline assembler"},
+                 {"x.c:1:2: error: expected 'volatile', 'goto', or '('", "inline assembler"},
                  {"x.c:1:9: error: 'weak' attribute only applies to", "attribute"},
                  {"x.c:1:9: error: use of undeclared identifier '__builtin_x'", "builtin"},
                  {"x.h:1:2: error: \"own words\"", "other"},

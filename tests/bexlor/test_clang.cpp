@@ -127,6 +127,8 @@ private slots:
         facts.macros.known = macros("__GNUC__=11");
         row("an attribute with arguments", false,
             "void f(void *); __attribute__((__malloc__(f, 1))) void *g(void);");
+        row("overflow alone", false,
+            "int f(int a) { return __builtin_mul_overflow_p(a, a, (short)0); }");
     }
     void takesTheSameCode()
     {

@@ -264,10 +264,10 @@ private slots:
         QVERIFY2(QString(generated.output).contains(QRegularExpression(says)), generated.output);
         workshop.write("same.c", "#include <stdarg.h>\n#include <stdio.h>\n#include \"x.h\"\n"
                                  "int f(FILE *a, ...) { va_list b; va_start(b, a); return X; }\n"
-                                 "#if __has_attribute(optimize) && !defined __has_feature\n"
+                                 "#if __has_attribute(optimize) && !defined __is_identifier\n"
                                  "int g;\n#endif\n");
         workshop.write("include/x.h", "#define X Y\n");
-        workshop.write("other.c", "#ifdef __is_identifier\nint a;\n#else\nint b;\n#endif\n");
+        workshop.write("other.c", "#ifdef __building_module\nint a;\n#else\nint b;\n#endif\n");
         workshop.write("nested.c", "void f(void) { void g(void) { } }\n");
         workshop.write("wrong.c", "int int;\n");
         const QString folder = QDir(workshop.folder.path()).canonicalPath();

@@ -123,7 +123,9 @@ private slots:
             personalityText(composePersonality(arguments, facts, {}, "-DTEMPLATE=1")), source);
         QCOMPARE(seen.errors, QByteArray());
         QList<Macro> macros = macrosIn(seen.output);
-        macros.removeIf([](const Macro &macro) { return macro.name == "__malloc__(...)"; });
+        macros.removeIf([](const Macro &macro) {
+            return macro.name == "__malloc__(...)" || macro.name.contains("_overflow_p(");
+        });
         facts.macros.known << Macro {"TEMPLATE", "1"};
         QCOMPARE(sorted(macros), sorted(facts.macros.known));
     }
