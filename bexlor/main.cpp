@@ -23,15 +23,15 @@ void print(const QString &text)
     std::fflush(stdout);
 }
 
-/// Asks \a compiler for all facts. Nothing when a step fails.
-std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const Arguments &arguments,
+/// Asks \a runner's compiler for all facts. Nothing when a step fails.
+std::optional<Facts> learn(Progress &progress, ProbeRunner &runner, const Arguments &arguments,
                            const QString &folder)
 {
-    const ProbeRunner runner(compiler, folder, arguments.reduceFileSize);
     const std::optional<ProbeAnswer> first = compileFirstProbe(progress, runner);
     if (!first)
         return {};
-    const DialectAnswers listed = askForListings(progress, compiler, *first, folder);
+    runner.judgeBy(askControls(progress, runner, *first));
+    const DialectAnswers listed = askForListings(progress, runner.compiler(), *first, folder);
     const HeaderScan scan = readDirectories(progress, arguments.headerDirectories);
     const Questions questions = findHowToAsk(progress, runner);
     const std::optional<MacroFacts> macros =
@@ -51,13 +51,26 @@ std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const A
     return facts;
 }
 
+/// The same. Nothing either when the compiler fails on the way.
+std::optional<Facts> learnUnlessItFails(Progress &progress, ProbeRunner &runner,
+                                        const Arguments &arguments, const QString &folder)
+{
+    try {
+        return learn(progress, runner, arguments, folder);
+    } catch (const Malfunction &malfunction) {
+        reportMalfunction(progress, runner, malfunction);
+        return {};
+    }
+}
+
 bool generate(Progress &progress, const Arguments &arguments, const QString &folder)
 {
     removeLogs();
     if (!checkFiles(progress, arguments))
         return false;
     const Compiler compiler = findCompiler(arguments);
-    const std::optional<Facts> facts = learn(progress, compiler, arguments, folder);
+    ProbeRunner runner(compiler, folder, arguments.reduceFileSize);
+    const std::optional<Facts> facts = learnUnlessItFails(progress, runner, arguments, folder);
     return facts && writePersonality(progress, arguments, compiler, *facts);
 }
 

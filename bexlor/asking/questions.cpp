@@ -1,5 +1,9 @@
 #include "questions.h"
 
+#include "malfunction.h"
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Control characters mark what is read back: a listing that a compiler leaves beside the object
@@ -85,7 +89,8 @@ Questions::Questions(const ProbeRunner &runner) : m_runner(runner)
         sources << ConstantSource::RunningProgram;
     for (const ConstantSource source : sources) {
         m_source = source;
-        if (readsTexts() || (learnCharacterSet() && readsTexts()))
+        m_isReliable = readsTexts() || (learnCharacterSet() && readsTexts());
+        if (m_isReliable)
             return;
         m_characters.clear();
     }
@@ -133,6 +138,8 @@ std::optional<QList<bool>> Questions::withoutMessage(const QByteArray &prelude,
                                                      const QList<QByteArray> &items,
                                                      const QByteArray &control) const
 {
+    if (!controls().namesTheRightLines())
+        return {};
     return itemsWithoutMessage(askProbes(), prelude, items, control, limits());
 }
 
@@ -165,6 +172,28 @@ QByteArray Questions::bytesOf(const QByteArray &source, const Batch &batch,
     return m_runner.askByRunning(program + "return 0; }\n").bytes;
 }
 
+/// Reads the contents of the arrays in \a batch, with which \a source has been compiled with the
+/// answer \a first. A compiler that leaves some of them out has failed.
+void Questions::readContents(const QByteArray &source, const Batch &batch, const ProbeAnswer &first,
+                             const QByteArray &characters,
+                             QList<std::optional<QByteArray>> &contents) const
+{
+    ProbeAnswer answer = first;
+    for (int i = 0; i <= triesAfter(first); ++i) {
+        if (i > 0)
+            answer = m_runner.ask(source);
+        const QByteArray bytes = decoded(bytesOf(source, batch, answer), characters);
+        bool isWhole = true;
+        for (const int index : batch) {
+            contents[index] = contentOf(bytes, index);
+            isWhole &= contents[index].has_value();
+        }
+        if (isWhole || !m_isReliable)
+            return;
+    }
+    throw Malfunction {u"The compiler has left out constants of a probe."_s, answer.run};
+}
+
 /// Reads the contents of the arrays \a items in \a batches into \a contents. Returns the batches
 /// that do not compile.
 QList<Batch> Questions::readBatches(const QByteArray &prelude, const QList<QByteArray> &items,
@@ -181,9 +210,7 @@ QList<Batch> Questions::readBatches(const QByteArray &prelude, const QList<QByte
             failed << batches[i];
             continue;
         }
-        const QByteArray bytes = decoded(bytesOf(sources[i], batches[i], answers[i]), characters);
-        for (const int index : batches[i])
-            contents[index] = contentOf(bytes, index);
+        readContents(sources[i], batches[i], answers[i], characters, contents);
     }
     return failed;
 }

@@ -8,12 +8,14 @@ class Questions
 {
 public:
     /// Finds out how constants can be read back: from the object file or, from a native compiler,
-    /// by running a program; and which character set their texts are in.
+    /// by running a program; and which character set their texts are in. \a runner must have
+    /// controls.
     explicit Questions(const ProbeRunner &runner);
 
     /// Whether constants can be read back at all.
     bool readsConstants() const { return m_source != ConstantSource::None; }
     const ProbeRunner &runner() const { return m_runner; }
+    const Controls &controls() const { return m_runner.controls(); }
     bool isCpp() const { return m_runner.compiler().isCpp; }
     ProbeLimits limits() const { return m_runner.limits(); }
 
@@ -23,7 +25,7 @@ public:
                          bool confirmsAlone = false) const;
 
     /// Which of \a items draw no message behind \a prelude, though \a control does; see
-    /// itemsWithoutMessage().
+    /// itemsWithoutMessage(). Nothing of a compiler that has something to say of every line.
     std::optional<QList<bool>> withoutMessage(const QByteArray &prelude,
                                               const QList<QByteArray> &items,
                                               const QByteArray &control) const;
@@ -55,6 +57,9 @@ private:
     QList<std::optional<QByteArray>> arrays(const QByteArray &prelude,
                                             const QList<QByteArray> &elements,
                                             const QByteArray &characters) const;
+    void readContents(const QByteArray &source, const Batch &batch, const ProbeAnswer &first,
+                      const QByteArray &characters,
+                      QList<std::optional<QByteArray>> &contents) const;
     QList<Batch> readBatches(const QByteArray &prelude, const QList<QByteArray> &items,
                              const QList<Batch> &batches, const QByteArray &characters,
                              QList<std::optional<QByteArray>> &contents) const;
@@ -64,5 +69,6 @@ private:
 
     const ProbeRunner &m_runner;
     ConstantSource m_source = ConstantSource::None;
-    QByteArray m_characters; ///< that the compiler's 256 codes stand for; empty if for themselves
+    bool m_isReliable = false; ///< has been seen to tell constants
+    QByteArray m_characters;   ///< that the compiler's 256 codes stand for; empty if for themselves
 };

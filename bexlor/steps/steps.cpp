@@ -12,8 +12,6 @@ namespace {
 
 const int listingTimeLimit = 30'000; // milliseconds
 
-const char *const firstProbe = "int calyx_probe;\n";
-
 // Set for tests and measurements: the compiler is asked by probes alone.
 const char *const learnOnly = "BEXLOR_LEARN_ONLY";
 
@@ -31,6 +29,25 @@ QString howItEnded(const platform::ProgramRun &run)
     }
     return u"the compiler returned %1"_s.arg(run.exitCode);
 }
+
+/// What a compiler that accepts something wrong cannot tell.
+struct FaultRemark
+{
+    Fault fault;
+    const char *text;
+};
+
+const FaultRemark faultRemarks[] = {
+    {Fault::UnknownName,
+     "The compiler accepts unknown types: which keywords are types stays undetermined."},
+    {Fault::ConflictingDeclarations,
+     "The compiler accepts conflicting declarations: which types size_t and ptrdiff_t are stays "
+     "undetermined."},
+    {Fault::NegativeSize,
+     "The compiler accepts arrays of negative size: the sizes of types are measured once only."},
+    {Fault::MissingHeader,
+     "The compiler accepts includes of missing headers: what it searches is not found that way."},
+};
 
 /// Leaves \a command and what it wrote in the working directory.
 void leaveLogs(const QStringList &command, const platform::ProgramRun &run)
@@ -118,12 +135,28 @@ bool checkFiles(Progress &progress, const Arguments &arguments)
 std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner)
 {
     const ProgressStep step(progress, u"Compiling a first probe ..."_s, &nothing);
-    const ProbeAnswer answer = runner.ask(firstProbe);
+    ProbeAnswer answer = runner.ask(acceptedSource);
+    for (int i = 0; i < triesAfter(answer) && !answer.compiled(); ++i)
+        answer = runner.ask(acceptedSource);
     leaveLogs(runner.command(), answer.run);
     if (answer.compiled())
         return answer;
-    progress.say(u"Compiling the first probe failed: %1."_s.arg(howItEnded(answer.run)));
+    progress.say(u"Compiling the first probe failed: %1."_s.arg(
+        answer.isWritten ? howItEnded(answer.run) : u"it could not be written"_s));
     return {};
+}
+
+Controls askControls(Progress &progress, const ProbeRunner &runner, const ProbeAnswer &first)
+{
+    const ProgressStep step(progress, u"Compiling probes that must be rejected ..."_s,
+                            probesOf(runner));
+    const Controls controls(first,
+                            [&runner](const QByteArray &source) { return runner.ask(source); });
+    for (const FaultRemark &remark : faultRemarks) {
+        if (!controls.rejects(remark.fault))
+            progress.say(QString::fromLatin1(remark.text));
+    }
+    return controls;
 }
 
 DialectAnswers askForListings(Progress &progress, const Compiler &compiler,
@@ -230,12 +263,22 @@ SearchPath findSearchPath(Progress &progress, const Questions &questions, const 
 bool worksStill(Progress &progress, const ProbeRunner &runner)
 {
     const ProgressStep step(progress, u"Compiling the first probe again ..."_s, &nothing);
-    const ProbeAnswer again = runner.ask(firstProbe);
+    const ProbeAnswer again = runner.ask(acceptedSource);
     if (again.compiled())
         return true;
     leaveLogs(runner.command(), again.run);
     progress.say(u"The first probe no longer compiles: %1."_s.arg(howItEnded(again.run)));
     return false;
+}
+
+void reportMalfunction(Progress &progress, const ProbeRunner &runner,
+                       const Malfunction &malfunction)
+{
+    leaveLogs(runner.command(), malfunction.run);
+    progress.say(malfunction.reason.isEmpty()
+                     ? u"A probe was answered as none of the first ones, and again: %1."_s.arg(
+                         howItEnded(malfunction.run))
+                     : malfunction.reason);
 }
 
 bool writePersonality(Progress &progress, const Arguments &arguments, const Compiler &compiler,

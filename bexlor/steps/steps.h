@@ -2,6 +2,7 @@
 
 #include "dialects.h"
 #include "learning.h"
+#include "malfunction.h"
 #include "progress.h"
 
 #include <optional>
@@ -17,6 +18,10 @@ bool checkFiles(Progress &progress, const Arguments &arguments);
 
 /// What the compiler says to a probe that any compiler accepts. Leaves the logs.
 std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner);
+
+/// What \a runner's compiler, which has answered its first probe with \a first, says to sources
+/// that must be rejected. Throws a Malfunction when that tells nothing.
+Controls askControls(Progress &progress, const ProbeRunner &runner, const ProbeAnswer &first);
 
 /// What the compiler lists of itself; \a first may have told its version. \a folder is for the
 /// source that it is given.
@@ -46,6 +51,10 @@ SearchPath findSearchPath(Progress &progress, const Questions &questions, const 
 /// Whether the first probe still compiles: a compiler that has stopped working, for want of a
 /// license or of room on the disk, would be taken for one that rejects everything.
 bool worksStill(Progress &progress, const ProbeRunner &runner);
+
+/// Says why \a malfunction ends the run, and leaves the logs.
+void reportMalfunction(Progress &progress, const ProbeRunner &runner,
+                       const Malfunction &malfunction);
 
 /// Writes the personality of the compiler of \a facts to where the user wants it, over one that has
 /// been there before.

@@ -10,6 +10,13 @@
 
 using platform::ProgramRun;
 
+namespace {
+
+// For compilers made of the shell's commands: counts the starts.
+const QByteArray countsStarts = "echo >>\"$0 starts\"; starts() { wc -l <\"$0 starts\"; }\n";
+
+} // namespace
+
 // Whole runs of the generator.
 class TestGenerator : public QObject
 {
@@ -35,6 +42,22 @@ private:
             return run(QStringList {GENERATOR, product, "cmp", '"' + command + '"', "-o", "-c",
                                     "-D", ".o", "%c %o%e %d%j %s "}
                        + directories + QStringList {"-op", "sub folder\\mine.p_c"} + more);
+        }
+
+        /// The path of a compiler made of the shell's commands \a script.
+        QString writeCompiler(const QByteArray &script) const
+        {
+            const QString compiler = folder.filePath("odd compiler");
+            write("odd compiler", "#!/bin/sh\n" + script + '\n');
+            QFile::setPermissions(compiler, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+            return compiler;
+        }
+
+        /// Generates with a header directory that the compiler searches.
+        ProgramRun generateFromHeaders(const QString &compiler) const
+        {
+            write("headers/only_here.h", "#if AA\n#endif\nextern __cc dd;\n");
+            return generate("kov", compiler, {"-xs", "-Iheaders"}, {"-i", "headers"});
         }
 
         QString read(const QString &name) const
@@ -192,10 +215,26 @@ private slots:
         row("stops working",
             "if grep -q calyx_probe probe.c; then\n"
             "[ ! -f \"$0 called\" ] || exit 9\n : >\"$0 called\"\nfi\nexec tcc \"$@\"",
-            "no longer compiles: the compiler returned 9");
-        row("leaves nothing", "exit 0", "leaves no file that holds the bytes");
-        row("leaves something else", "echo nothing >probe.o",
+            "as none of the first ones, and again: the compiler returned 9");
+        row("stops midway, with a message",
+            countsStarts + "[ $(starts) -lt 40 ] || { echo no license; exit 1; }; exec tcc \"$@\"",
+            "and again: the compiler returned 1");
+        row("stops midway and says that all is well",
+            countsStarts + "[ $(starts) -lt 40 ] || exit 0; exec tcc \"$@\"",
+            "and again: the compiler returned 0");
+        row("crashes on keywords", "! grep -q near probe.c || kill -SEGV $$; exec tcc \"$@\"",
+            "and again: the compiler crashed");
+        row("drops constants",
+            countsStarts + "tcc \"$@\" || exit; [ $(starts) -lt 40 ] || echo >probe.o",
+            "has left out constants");
+        row("accepts everything", "exit 0", "answers tell nothing");
+        row("accepts everything and leaves something", "echo nothing >probe.o",
+            "answers tell nothing");
+        row("leaves nothing of use", "tcc \"$@\" && { echo nothing >probe.o; rm -f probe.exe; }",
             "leaves no file that holds the bytes");
+        row("answers at random",
+            countsStarts + "[ $(starts) -gt 1 ] || exec tcc \"$@\"; exit $(starts)",
+            "in another way each time");
     }
     void putsUpWithOddCompilers()
     {
@@ -203,16 +242,14 @@ private slots:
         QFETCH(QByteArray, says);
         QFETCH(QByteArray, timeLimit);
         const Workshop workshop;
-        const QString compiler = workshop.folder.filePath("odd compiler");
-        workshop.write("odd compiler", "#!/bin/sh\n" + script + '\n');
-        QFile::setPermissions(compiler, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        const QString compiler = workshop.writeCompiler(script);
         const QString temporary =
             workshop.folder.filePath(QString::fromUtf8("tempor\303\244r ' \"x\""));
         QDir().mkdir(temporary);
         qputenv("TMPDIR", temporary.toLocal8Bit());
         qputenv("BEXLOR_LEARN_ONLY", "1");
         qputenv("BEXLOR_TIME_LIMIT", timeLimit);
-        const ProgramRun run = workshop.generate("kov", compiler);
+        const ProgramRun run = workshop.generateFromHeaders(compiler);
         QVERIFY2(run.exitCode == (says.isEmpty() ? 0 : 1), run.output);
         QVERIFY2(run.output.contains(says), run.output);
         QCOMPARE(QFile::exists(workshop.personality), says.isEmpty());
@@ -220,17 +257,72 @@ private slots:
         QCOMPARE(QDir(temporary).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
     }
 
+    void learnsTheSameOfACompilerThatFailsNowAndThen_data()
+    {
+        QTest::addColumn<QByteArray>("script");
+        QTest::addColumn<QByteArray>("differs"); // lines that may, a pattern
+        const auto row = [](const char *name, const QByteArray &script,
+                            const QByteArray &differs = "^$") {
+            QTest::newRow(name) << script << differs;
+        };
+        row("works once at a time", "mkdir \"$0 busy\" || exit 1; tcc \"$@\"; status=$?\n"
+                                    "rmdir \"$0 busy\"; exit $status");
+        row("crashes at one start in twenty",
+            countsStarts + "[ $(($(starts) % 20)) -ne 7 ] || kill -KILL $$; exec tcc \"$@\"");
+        row("has no license at one start in twenty",
+            countsStarts
+                + "[ $(($(starts) % 20)) -ne 3 ] || { echo no license >&2; exit 1; }\n"
+                  "exec tcc \"$@\"");
+        row("loses its exit status", "tcc \"$@\" | cat");
+        row("has something to say of each line",
+            "awk '{ print FILENAME \":\" NR \": warning: seen\" }' probe.c; exec tcc \"$@\"",
+            "^.-D__BYTE_ORDER__=.*\n");
+        row("accepts conflicting declarations",
+            "sed -i 's/extern char .calyx_object;$//; s/ extern [a-z]* char calyx_[us];//\n"
+            "/^extern .* calyx_object;$/d' probe.c; exec tcc \"$@\"",
+            "^#: (size_t|ptrdiff_t|wchar_t) .*\n");
+    }
+    void learnsTheSameOfACompilerThatFailsNowAndThen()
+    {
+        QFETCH(QByteArray, script);
+        QFETCH(QByteArray, differs);
+        const Workshop workshop;
+        qputenv("BEXLOR_LEARN_ONLY", "1");
+        QString texts[2];
+        const QByteArray scripts[] {"exec tcc \"$@\"", script};
+        for (int i = 0; i < 2; ++i) {
+            const ProgramRun run = workshop.generateFromHeaders(workshop.writeCompiler(scripts[i]));
+            QVERIFY2(run.succeeded(), run.output);
+            texts[i] = workshop.read("sub folder/mine.p_c");
+        }
+        for (QString &text : texts)
+            text.remove(QRegularExpression(differs, QRegularExpression::MultilineOption));
+        QCOMPARE(texts[1], texts[0]);
+        QVERIFY(texts[0].contains("#: search-path ") && texts[0].contains("#: char signed"));
+    }
+
+    void endsWhenThereIsNoRoomForAProbe()
+    {
+        const Workshop workshop;
+        qputenv("BEXLOR_LEARN_ONLY", "1");
+        const ProgramRun run = workshop.run({"sh", "-c", "trap '' XFSZ; ulimit -f 8; exec \"$@\"",
+                                             "sh", GENERATOR, "kov", "cmp", "tcc", "-o", "-c", "-D",
+                                             ".o", "%c %o%e %d%j %s ", "-op", "mine.p_c"});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY2(run.output.contains("There is no room for a probe"), run.output);
+        QVERIFY(!QFile::exists(workshop.folder.filePath("mine.p_c")));
+    }
+
     void letsTheLineOfAStepGrow()
     {
         // Each probe is compiled only after the line of its step has grown.
         const Workshop workshop;
-        const QString compiler = workshop.folder.filePath("slow");
-        workshop.write("slow", "#!/bin/sh\nsize() { wc -c <'" + workshop.folder.path().toLocal8Bit()
-                                   + "/said'; }\nold=$(size)\nuntil [ $(size) -gt $old ]; do "
-                                     "sleep 0.1; done\nexec false\n");
-        QFile::setPermissions(compiler, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        workshop.run({"sh", "-c", "exec \"$@\" >said", "sh", GENERATOR, "kov", "cmp", compiler,
-                      "-o", "-c", "-D", ".o", "%c %o%e %d%j %s ", "-op", "mine.p_c"});
+        const QString compiler = workshop.writeCompiler(
+            "size() { wc -c <'" + workshop.folder.path().toLocal8Bit()
+            + "/said'; }\nold=$(size)\nuntil [ $(size) -gt $old ]; do sleep 0.1; done\nexec false");
+        workshop.run({"sh", "-c", "exec \"$@\" >said", "sh", GENERATOR, "kov", "cmp",
+                      '"' + compiler + '"', "-o", "-c", "-D", ".o", "%c %o%e %d%j %s ", "-op",
+                      "mine.p_c"});
         const QString said = workshop.read("said");
         QVERIFY2(
             QRegularExpression("^Compiling a first probe \\.\\.\\.( \\.\\.\\.)+\nCompiling the "
