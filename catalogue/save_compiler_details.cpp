@@ -29,6 +29,13 @@ void selectLast(QComboBox *list, const QString &text, int firstItem)
     }
 }
 
+/// Copies what is chosen in \a list to \a edit; a long name shows its beginning.
+void showChosen(const QComboBox *list, QLineEdit *edit)
+{
+    edit->setText(list->currentText());
+    edit->home(false);
+}
+
 } // namespace
 
 SaveCompilerDetails::SaveCompilerDetails()
@@ -87,8 +94,8 @@ void SaveCompilerDetails::NewSaveRadioButton_clicked()
 {
     // A second click leaves what has been typed.
     if (!buttonGroup1->isEnabled()) {
-        NewCmpFamEdit->setText(NewCmpFamComboBox->currentText());
-        NewCmpNameEdit->setText(NewCmpNameComboBox->currentText());
+        showChosen(NewCmpFamComboBox, NewCmpFamEdit);
+        showChosen(NewCmpNameComboBox, NewCmpNameEdit);
     }
     choose(NewSaveRadioButton);
 }
@@ -113,16 +120,16 @@ void SaveCompilerDetails::ExstCmpFamComboBox_selected(int)
 
 void SaveCompilerDetails::NewCmpFamComboBox_selected(int)
 {
-    NewCmpFamEdit->setText(NewCmpFamComboBox->currentText());
+    showChosen(NewCmpFamComboBox, NewCmpFamEdit);
     NewCmpNameComboBox->clear();
     NewCmpNameComboBox->addItem(QString());
     NewCmpNameComboBox->addItems(namesOf(compilers, NewCmpFamComboBox->currentText()));
-    NewCmpNameEdit->setText(NewCmpNameComboBox->currentText());
+    showChosen(NewCmpNameComboBox, NewCmpNameEdit);
 }
 
 void SaveCompilerDetails::NewCmpNameComboBox_selected(int)
 {
-    NewCmpNameEdit->setText(NewCmpNameComboBox->currentText());
+    showChosen(NewCmpNameComboBox, NewCmpNameEdit);
 }
 
 bool SaveCompilerDetails::eventFilter(QObject *watched, QEvent *event)

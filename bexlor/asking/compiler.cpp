@@ -44,6 +44,12 @@ bool mayBePath(const QStringList &words, qsizetype index, const QString &defineF
     return index > 0 && !isDefine && words[index - 1] != "-x"_L1;
 }
 
+/// The defines that the command can name. Without a flag each would be taken for a file.
+QStringList passedDefines(const Compiler &compiler)
+{
+    return compiler.layout.defineFlag.isEmpty() ? QStringList() : compiler.defines;
+}
+
 /// What a token of the order stands for: a word, or the start of one.
 struct Piece
 {
@@ -144,7 +150,7 @@ QStringList probeCommand(const Compiler &compiler, const QString &source, const 
                 pieces.append({output});
             break;
         case CommandPart::DefineFlag:
-            for (const QString &define : compiler.defines)
+            for (const QString &define : passedDefines(compiler))
                 pieces << Piece {compiler.layout.defineFlag, token.spaceFollows} << Piece {define};
             break;
         case CommandPart::ObjectFlag:

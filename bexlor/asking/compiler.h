@@ -35,8 +35,8 @@ enum class CompileTo { Object, Program };
 
 /// The command that compiles \a source, in the compiler's order. Where it names an output, that is
 /// \a output. A token without a trailing space is joined to the next one: "-o" and "probe.o" become
-/// "-oprobe.o". An output flag that is empty leaves out the output's name too; for a program the
-/// object flag is left out.
+/// "-oprobe.o". An output flag that is empty leaves out the output's name too, and an empty define
+/// flag the defines; for a program the object flag is left out.
 QStringList probeCommand(const Compiler &compiler, const QString &source, const QString &output,
                          CompileTo goal = CompileTo::Object);
 

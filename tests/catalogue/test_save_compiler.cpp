@@ -201,6 +201,7 @@ private slots:
         QVERIFY(dialog.CRadioButton->isEnabled());
         QCOMPARE(dialog.NewCmpFamEdit->text(), "Beta");
         QCOMPARE(dialog.NewCmpNameEdit->text(), "C++");
+        QCOMPARE(dialog.NewCmpNameEdit->cursorPosition(), 0);
         choose(dialog.NewCmpFamComboBox, "Alpha");
         QCOMPARE(items(dialog.NewCmpNameComboBox), QStringList({"", "a - C"}));
         QCOMPARE(dialog.NewCmpNameEdit->text(), "");

@@ -225,6 +225,19 @@ private slots:
         }
     }
 
+    void looksAsItIsMeantTo()
+    {
+        const Forms forms;
+        QVERIFY(forms.user->CmpCmdOrder->font().italic()
+                && !forms.user->CmpExeEdit->font().italic());
+        QVERIFY(forms.user->DestErrorLabel->font().bold());
+        QCOMPARE(forms.user->textLabel1_3->font().pointSize(), 12);
+        for (const QPushButton *button :
+             {forms.dialog.buttonOk,
+              qobject_cast<QPushButton *>(forms.user->button(QWizard::NextButton))})
+            QCOMPARE(button->palette().color(QPalette::Button), QColor(Qt::white));
+    }
+
     void namesEveryStopOfTheFocus()
     {
         const Forms forms;
