@@ -45,7 +45,7 @@ std::optional<Facts> learn(Progress &progress, ProbeRunner &runner, const Argume
     facts.types = measureTypes(progress, questions);
     facts.keywords = findKeywords(progress, questions, scan, facts);
     facts.searchPath = findSearchPath(progress, questions, listed.searchPath, scan);
-    if (!worksStill(progress, runner))
+    if (!worksStill(progress, runner) || !knowsEnough(progress, questions, facts))
         return {};
     progress.say(u"The compiler was started %1 times."_s.arg(runner.compilersStarted()));
     return facts;

@@ -34,12 +34,13 @@ QSet<QString> foundHeaders(const Questions &questions, const QStringList &names)
     for (const QString &name : names)
         sources << "#include " + inBrackets(name) + "\nint calyx_object;\n";
     const QList<ProbeAnswer> answers = questions.eachAlone(sources);
+    const bool tellsMissing = questions.controls().rejects(Fault::MissingHeader);
     QList<bool> isFound;
     for (qsizetype i = 0; i < names.size(); ++i) {
         // A header that is found and cannot be compiled alone is named with its path.
         const QByteArray messages = answers[i].run.output + answers[i].run.errors;
         const QByteArray name = names[i].toLocal8Bit();
-        isFound << (answers[i].compiled() || messages.contains('/' + name)
+        isFound << ((tellsMissing && answers[i].compiled()) || messages.contains('/' + name)
                     || messages.contains('\\' + name));
     }
     return setOf(selected(names, isFound));
@@ -198,4 +199,11 @@ QStringList learnSearchPath(const Questions &questions, const QList<HeaderFile> 
         path.insert(place, directory);
     }
     return path;
+}
+
+bool findsStandardHeaders(const Questions &questions)
+{
+    const QStringList headers {u"stddef.h"_s, u"limits.h"_s, u"float.h"_s, u"stdarg.h"_s};
+    return !questions.controls().rejects(Fault::MissingHeader)
+        || !foundHeaders(questions, headers).isEmpty();
 }

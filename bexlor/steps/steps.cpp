@@ -260,6 +260,24 @@ SearchPath findSearchPath(Progress &progress, const Questions &questions, const 
     return path;
 }
 
+bool knowsEnough(Progress &progress, const Questions &questions, const Facts &facts)
+{
+    bool isEnough = true;
+    if (sizeOf(facts.types, "char") == 0 || sizeOf(facts.types, "int") == 0) {
+        progress.say(u"The types could not be measured: look at the output flag, the object flag "
+                     "and the object file extension on the page \"Compiler Command\"."_s);
+        isEnough = false;
+    }
+    if (facts.searchPath.directories.isEmpty() && findsStandardHeaders(questions)) {
+        progress.say(u"Where the compiler looks for headers was not found: name the directories of "
+                     "its headers on the page \"Search Directories\"."_s);
+        isEnough = false;
+    }
+    if (!isEnough)
+        progress.say(u"Without that there is no personality."_s);
+    return isEnough;
+}
+
 bool worksStill(Progress &progress, const ProbeRunner &runner)
 {
     const ProgressStep step(progress, u"Compiling the first probe again ..."_s, &nothing);

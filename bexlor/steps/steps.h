@@ -48,6 +48,10 @@ QList<Keyword> findKeywords(Progress &progress, const Questions &questions, cons
 SearchPath findSearchPath(Progress &progress, const Questions &questions, const SearchPath &listed,
                           const HeaderScan &scan);
 
+/// Whether \a facts are enough for a personality: it needs the types, and a search path unless the
+/// compiler has none. Says what is missing, and on which of the wizard's pages that can be mended.
+bool knowsEnough(Progress &progress, const Questions &questions, const Facts &facts);
+
 /// Whether the first probe still compiles: a compiler that has stopped working, for want of a
 /// license or of room on the disk, would be taken for one that rejects everything.
 bool worksStill(Progress &progress, const ProbeRunner &runner);

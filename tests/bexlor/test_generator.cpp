@@ -150,8 +150,8 @@ private slots:
         QByteArray last = "Wrote sub folder/mine.p_c\n";
         QString texts[2];
         for (QString &text : texts) {
-            const ProgramRun generated =
-                workshop.generate("kov", "tcc", {"-xd", "AA=1,CC=2"}, {"-i", "headers"});
+            const ProgramRun generated = workshop.generate(
+                "kov", "tcc", {"-xd", "AA=1,CC=2", "-xs", "-Iheaders"}, {"-i", "headers"});
             QVERIFY2(generated.succeeded(), generated.output);
             text = workshop.read("sub folder/mine.p_c");
             for (const QByteArray &said :
@@ -301,6 +301,30 @@ private slots:
             text.remove(QRegularExpression(differs, QRegularExpression::MultilineOption));
         QCOMPARE(texts[1], texts[0]);
         QVERIFY(texts[0].contains("#: search-path ") && texts[0].contains("#: char signed"));
+    }
+
+    void writesNoPersonalityOfTooFewFacts_data()
+    {
+        QTest::addColumn<QByteArray>("script");
+        QTest::addColumn<QByteArray>("says");
+        row("lists macros only, and leaves nothing of use",
+            QByteArray("case \"$*\" in *-dM*) exec tcc \"$@\";; *-E* | *print*) exit 1; esac\n"
+                       "tcc \"$@\" && echo nothing >probe.o && rm -f probe.exe"),
+            QByteArray("types could not be measured: .*\n.*Where the compiler looks"));
+        row("lists macros only",
+            QByteArray("case \"$*\" in *-dM*) ;; *-E* | *print*) exit 1; esac; exec tcc \"$@\""),
+            QByteArray("Where the compiler looks .*Search Directories"));
+        row("has no search path", QByteArray("exec tcc -nostdinc \"$@\""), QByteArray("Wrote"));
+    }
+    void writesNoPersonalityOfTooFewFacts()
+    {
+        QFETCH(QByteArray, script);
+        QFETCH(QByteArray, says);
+        const Workshop workshop;
+        const ProgramRun run = workshop.generate("kov", workshop.writeCompiler(script));
+        QCOMPARE(run.succeeded(), says == "Wrote");
+        QCOMPARE(QFile::exists(workshop.personality), says == "Wrote");
+        QVERIFY2(QRegularExpression(says).match(run.output).hasMatch(), run.output);
     }
 
     void endsWhenThereIsNoRoomForAProbe()
