@@ -69,6 +69,8 @@ bool generate(Progress &progress, const Arguments &arguments, const QString &fol
     if (!checkFiles(progress, arguments))
         return false;
     const Compiler compiler = findCompiler(arguments);
+    if (!checkCommand(progress, compiler))
+        return false;
     ProbeRunner runner(compiler, folder, arguments.reduceFileSize);
     const std::optional<Facts> facts = learnUnlessItFails(progress, runner, arguments, folder);
     return facts && writePersonality(progress, arguments, compiler, *facts);

@@ -1,6 +1,7 @@
 #include "compiler.h"
 
 #include "order_tokens.h"
+#include "probe_options.h"
 #include "program_search.h"
 
 #include <QFileInfo>
@@ -36,12 +37,25 @@ QStringList withoutWarningsAsErrors(QStringList words)
     return words;
 }
 
+// Options behind which, in the same word or the next, stands a file that the compiler reads.
+const QStringList inputOptions {
+    u"@"_s,          u"-T"_s,       u"-include"_s,     u"--include"_s,
+    u"-imacros"_s,   u"-specs"_s,   u"--specs"_s,      u"-config"_s,
+    u"--config"_s,   u"-fplugin"_s, u"--preinclude"_s, u"-ivfsoverlay"_s,
+    u"--cmd_file"_s, u"/FI"_s,
+};
+
 /// Whether the word \a index of a command may be a path. The program is one already; a define, and
-/// the language behind the GNU driver's "-x", are paths by chance only.
+/// the language behind the GNU driver's "-x", are paths by chance only. A file behind an option
+/// that is not known to read it may be one that it writes, which then comes to stand beside the
+/// probe.
 bool mayBePath(const QStringList &words, qsizetype index, const QString &defineFlag)
 {
     const bool isDefine = !defineFlag.isEmpty() && words[index].startsWith(defineFlag);
-    return index > 0 && !isDefine && words[index - 1] != "-x"_L1;
+    if (index == 0 || isDefine || words[index - 1] == "-x"_L1)
+        return false;
+    return !words[index - 1].startsWith(u'-') || inputOptions.contains(words[index - 1])
+        || !QFileInfo(words[index]).isFile();
 }
 
 /// The defines that the command can name. Without a flag each would be taken for a file.
@@ -101,7 +115,11 @@ QString withAbsolutePath(const QString &word)
     const QString option = start.match(word).captured();
     const QFileInfo file(word.mid(option.size()));
     const bool isRelative = !file.filePath().isEmpty() && file.isRelative() && file.exists();
-    return isRelative ? option + file.absoluteFilePath() : word;
+    QString name = option;
+    static const QRegularExpression sign(u"[=:,]$"_s);
+    const bool isRead =
+        option.isEmpty() || file.isDir() || inputOptions.contains(name.remove(sign));
+    return isRelative && isRead ? option + file.absoluteFilePath() : word;
 }
 
 Compiler findCompiler(const Arguments &arguments)
@@ -114,7 +132,7 @@ Compiler findCompiler(const Arguments &arguments)
     QStringList words = commandWords(arguments.command, &isProgram);
     for (const QString &item : arguments.switches)
         words << QProcess::splitCommand(item);
-    words = withoutWarningsAsErrors(words);
+    words = withoutOutputOptions(withoutWarningsAsErrors(words), arguments.layout);
     for (qsizetype i = 0; i < words.size(); ++i) {
         const bool includes = words[i] == "-include"_L1 || words[i] == "-imacros"_L1;
         if (includes && i > 0 && i + 1 < words.size()) {

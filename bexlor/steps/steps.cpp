@@ -2,6 +2,7 @@
 
 #include "generator_interface.h"
 #include "personality.h"
+#include "probe_options.h"
 #include "text_file.h"
 
 #include <QFileInfo>
@@ -130,6 +131,16 @@ bool checkFiles(Progress &progress, const Arguments &arguments)
     if (!problem.isEmpty())
         progress.say(problem);
     return problem.isEmpty();
+}
+
+bool checkCommand(Progress &progress, const Compiler &compiler)
+{
+    const QString option = optionAgainstCompiling(compiler.command);
+    if (!option.isEmpty()) {
+        progress.say(
+            u"The option %1 keeps the compiler from compiling; leave it out."_s.arg(option));
+    }
+    return option.isEmpty();
 }
 
 std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner)

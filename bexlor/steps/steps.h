@@ -16,6 +16,9 @@ void removeLogs();
 /// Whether the files that the user names can be used.
 bool checkFiles(Progress &progress, const Arguments &arguments);
 
+/// Whether \a compiler's command may compile at all.
+bool checkCommand(Progress &progress, const Compiler &compiler);
+
 /// What the compiler says to a probe that any compiler accepts. Leaves the logs.
 std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner);
 

@@ -1,4 +1,6 @@
 #include "compiler.h"
+#include "probe_options.h"
+
 #include "files.h"
 #include "row.h"
 
@@ -42,6 +44,8 @@ private slots:
         row("behind a letter", "-Iinc dir", "-I$/inc dir");
         row("response file", "@first.h", "@$/first.h");
         row("behind a sign", "--sysroot=inc dir", "--sysroot=$/inc dir");
+        row("a file that may be written", "-lfirst.h", "-lfirst.h");
+        row("the same behind a sign", "--listing=first.h", "--listing=first.h");
         row("no file", "-Inowhere", "-Inowhere");
         row("an option", "-O2", "-O2");
         row("absolute", "/usr", "/usr");
@@ -69,12 +73,43 @@ private slots:
                  QStringList({"-include", "stdio.h", "-imacros", "first.h"}));
     }
 
-    void leavesOutWhatMakesErrorsOfWarnings()
+    void leavesOutWhatIsNoQuestion_data()
     {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QString>("outputFlag");
+        QTest::addColumn<QString>("kept");
+        row("errors of warnings",
+            "cc -Wall -Werror=x -W error -Werror --Werror -pedantic-errors /WX", "-o", "-Wall");
+        row("dependencies", "cc -m32 -MMD -MF x.d -MTx -MP -MJ y -Wp,-MD,x -Wp,-DA", "-o",
+            "-m32 -Wp,-DA");
+        row("the same words of another compiler", "cl.exe -MD -MT /Fox /FA /Zp1", "/Fo",
+            "-MD -MT /Zp1");
+        row("outputs", "cc -o x.o -aux-info x -ox -dumpdir d/ -save-temps=obj --coverage -O2", "-o",
+            "-O2");
+        row("an output flag of its own", "cc -out x -outy -other", "-out", "-other");
+        row("for other programs",
+            "cc -Wl,-Map=x,-z -Wl,-z -Xlinker -Map -Xlinker x -Xlinker -z -Wa,-adhln=x -Wa,-m", "",
+            "-Wl,-z -Xlinker -z -Wa,-m");
+        row("nothing to read", "cc -flto=auto -fshort-enums -fwhole-program", "-o",
+            "-fshort-enums");
+        row("messages", "cc -Wfatal-errors -fdiagnostics-format=json -fmax-errors=1 -w", "-o",
+            "-w");
+        row("at the end", "cc -c -MF", "-o", "-c");
+    }
+    void leavesOutWhatIsNoQuestion()
+    {
+        QFETCH(QString, command);
+        QFETCH(QString, outputFlag);
         Arguments arguments;
-        arguments.command = "\"cc -Wall -Werror=x -W error -Werror --Werror -pedantic-errors\"";
-        arguments.switches = QStringList {"/WX", "-W error"};
-        QCOMPARE(findCompiler(arguments).command.mid(1), QStringList {"-Wall"});
+        arguments.command = command;
+        arguments.layout.outputFlag = outputFlag;
+        QTEST(findCompiler(arguments).command.mid(1).join(' '), "kept");
+    }
+
+    void findsWhatKeepsFromCompiling()
+    {
+        QCOMPARE(optionAgainstCompiling({"-E", "-Ex", "-fsyntax-only", "-E"}), "-fsyntax-only");
+        QCOMPARE(optionAgainstCompiling({"cc", "-EL"}), QString());
     }
 
     void ordersTheCommand_data()

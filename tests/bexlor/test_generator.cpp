@@ -193,6 +193,10 @@ private slots:
         QVERIFY(workshop.read("stderr.log").contains("no-such-option"));
         QVERIFY(!QFile::exists(workshop.personality));
 
+        const ProgramRun unable = workshop.generate("kov", "gcc -fsyntax-only");
+        QCOMPARE(unable.exitCode, 1);
+        QVERIFY(unable.output.contains("-fsyntax-only keeps the compiler from compiling"));
+
         const ProgramRun missing = workshop.generate("kov", "no-such-compiler");
         QCOMPARE(missing.exitCode, 1);
         QVERIFY(missing.output.contains("could not be started"));
@@ -325,6 +329,30 @@ private slots:
         QCOMPARE(run.succeeded(), says == "Wrote");
         QCOMPARE(QFile::exists(workshop.personality), says == "Wrote");
         QVERIFY2(QRegularExpression(says).match(run.output).hasMatch(), run.output);
+    }
+
+    void writesNothingElse()
+    {
+        // All of these files are there already, so that the words that name them are paths.
+        const Workshop workshop;
+        const QStringList files {"x.d", "x.o", "x.map", "x.lst", "x.i", "x.su"};
+        for (const QString &file : files)
+            workshop.write(file, "mine");
+        const ProgramRun run = workshop.generate(
+            "kov", "gcc -MMD -MF x.d -o x.o -aux-info x.i -Wl,-Map=x.map -Wa,-adhln=x.lst "
+                   "-save-temps -fstack-usage -Wp,-MD,x.d -flto -fshort-enums");
+        QVERIFY2(run.succeeded(), run.output);
+        for (const QString &file : files)
+            QCOMPARE(workshop.read(file), "mine");
+        QStringList expected = files;
+        expected << "compile.bat"
+                 << "stderr.log"
+                 << "stdout.log"
+                 << "sub folder";
+        expected.sort();
+        QCOMPARE(QDir(workshop.folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+                 expected);
+        QVERIFY(workshop.read("sub folder/mine.p_c").contains("\n-fshort-enums\n"));
     }
 
     void endsWhenThereIsNoRoomForAProbe()
