@@ -137,19 +137,21 @@ void addForms(const Questions &questions, const QList<QByteArray> &keywords,
 }
 
 /// The form in which a keyword is used that may be used in \a forms; \a isCalled if headers use it
-/// with a parenthesis behind it.
-Keyword::Form formOf(const QSet<int> &forms, bool isCalled)
+/// with a parenthesis behind it. One that accepts any name for a type does not
+/// tell which keywords are types.
+Keyword::Form formOf(const QSet<int> &forms, bool isCalled, bool acceptsAnyType)
 {
     const bool standsAlone = forms.contains(Keyword::Qualifier);
     if (forms.contains(Keyword::QualifierWithArgument) && (!standsAlone || isCalled))
         return Keyword::QualifierWithArgument;
     if (standsAlone)
         return Keyword::Qualifier;
-    return forms.contains(Keyword::TypeName) ? Keyword::TypeName : Keyword::Undetermined;
+    const bool isType = forms.contains(Keyword::TypeName) && !acceptsAnyType;
+    return isType ? Keyword::TypeName : Keyword::Undetermined;
 }
 
 /// Gives each of \a keywords that stands for a type the standard type of the same kind and size for
-/// a stand-in. What has no size only qualifies the int that is left out.
+/// a stand-in; none where there is none or its size is not told.
 void measureTypes(const Questions &questions, QList<Keyword> &keywords, const TypeFacts &types)
 {
     const auto isType = [](const Keyword &keyword) { return keyword.form == Keyword::TypeName; };
@@ -169,8 +171,6 @@ void measureTypes(const Questions &questions, QList<Keyword> &keywords, const Ty
         value += 3;
         if (size)
             keyword.standIn = typeLike(types, *size, isFloating == 1, isUnsigned == 2);
-        else // C++ never has an int that is left out
-            keyword.form = questions.isCpp() ? Keyword::Undetermined : Keyword::Qualifier;
     }
 }
 
@@ -189,9 +189,12 @@ QList<Keyword> learnKeywords(const Questions &questions, const QList<ScannedName
         if (name.uses & CalledInHeader)
             called << name.text;
     }
+    const bool acceptsAnyType = !questions.controls().rejects(Fault::UnknownName);
     QList<Keyword> keywords;
-    for (qsizetype i = 0; i < found.size(); ++i)
-        keywords.append({found[i], formOf(forms[i], called.contains(found[i])), {}});
+    for (qsizetype i = 0; i < found.size(); ++i) {
+        const Keyword::Form form = formOf(forms[i], called.contains(found[i]), acceptsAnyType);
+        keywords.append({found[i], form, {}});
+    }
     measureTypes(questions, keywords, types);
     return keywords;
 }
