@@ -1,5 +1,6 @@
 #include "calyx.h"
 #include "form_font.h"
+#include "process_tree.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -9,6 +10,7 @@ using namespace Qt::StringLiterals;
 
 int main(int argc, char *argv[])
 {
+    const platform::ProgramGuard guard;
     QApplication::setStyle(u"windows"_s);
     QApplication application(argc, argv);
     QApplication::setFont(formFont());

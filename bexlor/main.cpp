@@ -23,15 +23,15 @@ void print(const QString &text)
     std::fflush(stdout);
 }
 
-/// Asks \a runner's compiler for all facts. Nothing when a step fails.
-std::optional<Facts> learn(Progress &progress, ProbeRunner &runner, const Arguments &arguments,
+/// Asks \a compiler for all facts. Nothing when a step fails.
+std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const Arguments &arguments,
                            const QString &folder)
 {
+    ProbeRunner runner(compiler, folder, arguments.reduceFileSize);
     const std::optional<ProbeAnswer> first = compileFirstProbe(progress, runner);
-    if (!first)
+    if (!first || !checkControls(progress, runner, *first))
         return {};
-    runner.judgeBy(askControls(progress, runner, *first));
-    const DialectAnswers listed = askForListings(progress, runner.compiler(), *first, folder);
+    const DialectAnswers listed = askForListings(progress, compiler, *first, folder);
     const HeaderScan scan = readDirectories(progress, arguments.headerDirectories);
     const Questions questions = findHowToAsk(progress, runner);
     const std::optional<MacroFacts> macros =
@@ -45,35 +45,21 @@ std::optional<Facts> learn(Progress &progress, ProbeRunner &runner, const Argume
     facts.types = measureTypes(progress, questions);
     facts.keywords = findKeywords(progress, questions, scan, facts);
     facts.searchPath = findSearchPath(progress, questions, listed.searchPath, scan);
-    if (!worksStill(progress, runner) || !knowsEnough(progress, questions, facts))
+    if (!worksStill(progress, runner) || !checkCompleteness(progress, questions, facts))
         return {};
     progress.say(u"The compiler was started %1 times."_s.arg(runner.compilersStarted()));
     return facts;
 }
 
-/// The same. Nothing either when the compiler fails on the way.
-std::optional<Facts> learnUnlessItFails(Progress &progress, ProbeRunner &runner,
-                                        const Arguments &arguments, const QString &folder)
-{
-    try {
-        return learn(progress, runner, arguments, folder);
-    } catch (const Malfunction &malfunction) {
-        reportMalfunction(progress, runner, malfunction);
-        return {};
-    }
-}
-
 bool generate(Progress &progress, const Arguments &arguments, const QString &folder)
 {
     removeLogs();
-    if (!checkFiles(progress, arguments))
+    const std::optional<Arguments> usable = checkArguments(progress, arguments);
+    if (!usable)
         return false;
-    const Compiler compiler = findCompiler(arguments);
-    if (!checkCommand(progress, compiler))
-        return false;
-    ProbeRunner runner(compiler, folder, arguments.reduceFileSize);
-    const std::optional<Facts> facts = learnUnlessItFails(progress, runner, arguments, folder);
-    return facts && writePersonality(progress, arguments, compiler, *facts);
+    const Compiler compiler = findCompiler(*usable);
+    const std::optional<Facts> facts = learn(progress, compiler, *usable, folder);
+    return facts && writePersonality(progress, *usable, compiler, *facts);
 }
 
 } // namespace

@@ -315,28 +315,29 @@ const AnswerField table[] = {
          .argumentPlace = 13,
          .arguments =
              [](const Answers &answers) {
-                 return option(generator::templateFile, inFolder("TemplatePersonalities"_L1,
+                 return option(generator::templateFile, inFolder(generator::templateFolder,
                                                                  answers.templatePersonalityFile));
              }}),
-    unseen<&Answers::forceIncludeFile>({.key = "Force Include File:"_L1,
-                                        .roles = Recorded | Reset,
-                                        .record = &Record::ForceIncludeFile,
-                                        .argumentPlace = 14,
-                                        .arguments =
-                                            [](const Answers &answers) {
-                                                return option(generator::forceIncludeFile,
-                                                              inFolder("ForceIncludeFiles"_L1,
-                                                                       answers.forceIncludeFile));
-                                            }}),
+    unseen<&Answers::forceIncludeFile>(
+        {.key = "Force Include File:"_L1,
+         .roles = Recorded | Reset,
+         .record = &Record::ForceIncludeFile,
+         .argumentPlace = 14,
+         .arguments =
+             [](const Answers &answers) {
+                 return option(generator::forceIncludeFile,
+                               inFolder(generator::forceIncludeFolder, answers.forceIncludeFile));
+             }}),
     unseen<&Answers::substituteHeaders>({.key = "Substitute Headers:"_L1,
                                          .roles = Recorded | Reset,
                                          .record = &Record::SubHeaders,
                                          .argumentPlace = 15,
                                          .arguments =
                                              [](const Answers &answers) {
-                                                 return option(generator::substituteHeaders,
-                                                               inFolder("SubstituteHeaders"_L1,
-                                                                        answers.substituteHeaders));
+                                                 return option(
+                                                     generator::substituteHeaders,
+                                                     inFolder(generator::substituteHeadersFolder,
+                                                              answers.substituteHeaders));
                                              }}),
     unseen<&Answers::compilerFamilySet>({.key = "Compiler Family Set:*"_L1, .roles = ReadOnly}),
 };

@@ -2,13 +2,19 @@
 
 #include "program_search.h"
 
+#include <QProcess>
+
 using namespace Qt::StringLiterals;
 
 QString commandWord(const QString &commandLine)
 {
-    const bool quoted = commandLine.startsWith(u'"');
-    const QString line = quoted ? commandLine.mid(1) : commandLine;
-    return line.section(quoted ? u'"' : u' ', 0, 0);
+    if (!commandLine.startsWith(u'"'))
+        return commandLine.section(u' ', 0, 0);
+    const qsizetype end = commandLine.indexOf(u'"', 1);
+    // What follows the quotes without a space is a part of the program's name.
+    if (end >= 0 && end + 1 < commandLine.size() && commandLine[end + 1] != u' ')
+        return QProcess::splitCommand(commandLine).value(0);
+    return commandLine.mid(1, end < 0 ? -1 : end - 1);
 }
 
 CommandState checkCommand(const QString &commandLine)

@@ -4,7 +4,8 @@
 
 /// The word of a command line that names the program: the text between the quotes when the line
 /// begins with one (up to its end when there is no second quote), else the text before the first
-/// space.
+/// space. Text that follows the second quote without a space belongs to the word, as it does when
+/// the command is started.
 QString commandWord(const QString &commandLine);
 
 enum class CommandState {

@@ -1,6 +1,7 @@
 #include "command_order.h"
 
 #include "order_tokens.h"
+#include "visible_text.h"
 
 #include <algorithm>
 
@@ -62,7 +63,7 @@ QString commandPreview(const Answers &answers)
     QString preview;
     for (const QString &row : answers.order) {
         const OrderItem *item = itemCalled(row);
-        preview += item && item->value ? answers.*item->value : row;
+        preview += visibleText(item && item->value ? answers.*item->value : row);
         if (!item || spaceFollows(*item, answers))
             preview += u' ';
         if (item)

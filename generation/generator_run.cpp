@@ -9,6 +9,8 @@ GeneratorRun::GeneratorRun(QObject *parent) : QProcess(parent)
     // Nobody reads its standard error while it runs, and nobody answers it.
     setStandardErrorFile(nullDevice());
     setStandardInputFile(nullDevice());
+    // The number of a process that has ended is another's some day.
+    connect(this, &QProcess::finished, this, [this] { m_tree.end(); });
 }
 
 GeneratorRun::~GeneratorRun()
@@ -20,12 +22,12 @@ GeneratorRun::~GeneratorRun()
 
 void GeneratorRun::startProgram(const QStringList &arguments)
 {
-    start(platform::findProgram(arguments.first()), arguments.mid(1));
+    m_tree.start(QStringList(platform::findProgram(arguments.first())) + arguments.mid(1));
 }
 
 void GeneratorRun::end()
 {
-    kill();
+    m_tree.end();
     waitForFinished();
 }
 

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "process_tree.h"
+
 #include <QProcess>
 #include <QStringDecoder>
 
-/// One run of the generator. The program ends with this object at the latest.
+/// One run of the generator. The program and all that it starts end with this object at the latest
+/// and, while there is a ProgramGuard, with the wizard.
 class GeneratorRun : public QProcess
 {
     Q_OBJECT
@@ -27,6 +30,7 @@ public:
     QString readText();
 
 private:
+    platform::ProcessTree m_tree {*this};
     QStringDecoder m_decoder {QStringDecoder::System};
     bool m_carriageReturnWaits = false;
 };

@@ -1,8 +1,22 @@
 #include "review.h"
 
+#include "visible_text.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+QString visibleLines(const QString &text)
+{
+    QStringList lines = text.split(u'\n');
+    for (QString &line : lines)
+        line = visibleText(line);
+    return lines.join(u'\n');
+}
+
+} // namespace
 
 void tidy(Answers &answers)
 {
@@ -19,7 +33,7 @@ QString reviewText(const Answers &answers, AnswerField::Role role)
         if (field.roles & role)
             text += reviewBlock(field.key, field.lines(answers));
     }
-    return text;
+    return role == AnswerField::Shown ? visibleLines(text) : text;
 }
 
 QString shownOrder(const QString &preview)

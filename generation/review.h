@@ -5,7 +5,8 @@
 /// Simplifies the white space of the one-line answers about the compiler.
 void tidy(Answers &answers);
 
-/// The answers with that \a role as headings and values; ends with an empty line.
+/// The answers with that \a role as headings and values; ends with an empty line. What is shown has
+/// escapes for what would not be seen.
 QString reviewText(const Answers &answers, AnswerField::Role role);
 
 /// What the page shows behind that: the heading of the command order and the command's \a preview.

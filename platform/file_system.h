@@ -1,10 +1,11 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 class QFile;
 
-/// What the toolkit leaves open about replacing a file.
+/// What the toolkit leaves open about files.
 namespace platform {
 
 /// Gives the open file \a newFile the owner, group and mode of \a path. False when it may not.
@@ -15,5 +16,9 @@ bool reachDisk(QFile &file);
 
 /// Puts the file \a newPath in the place of \a path, in one step. False when neither has changed.
 bool replaceFile(const QString &newPath, const QString &path);
+
+/// A number for the file system on which \a path lies, links followed; nothing when the system does
+/// not tell.
+std::optional<quint64> fileSystemOf(const QString &path);
 
 } // namespace platform

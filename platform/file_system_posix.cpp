@@ -37,4 +37,14 @@ bool replaceFile(const QString &newPath, const QString &path)
         == 0;
 }
 
+std::optional<quint64> fileSystemOf(const QString &path)
+{
+    struct stat status
+    {
+    };
+    if (stat(QFile::encodeName(path).constData(), &status) != 0)
+        return {};
+    return quint64(status.st_dev);
+}
+
 } // namespace platform

@@ -16,9 +16,16 @@ std::wstring nativePath(const QString &path)
 
 } // namespace
 
-bool takeOverOwner(QFile &, const QString &)
+bool takeOverOwner(QFile &file, const QString &path)
 {
-    return true; // replaceFile() does
+    // A new file has the access rights of its folder; the old one may have others.
+    const std::wstring from = nativePath(path), to = nativePath(file.fileName());
+    const SECURITY_INFORMATION rights = DACL_SECURITY_INFORMATION;
+    DWORD size = 0;
+    GetFileSecurityW(from.c_str(), rights, nullptr, 0, &size);
+    QByteArray descriptor(qsizetype(size), '\0');
+    return GetFileSecurityW(from.c_str(), rights, descriptor.data(), size, &size)
+        && SetFileSecurityW(to.c_str(), rights, descriptor.data());
 }
 
 bool reachDisk(QFile &file)
@@ -28,12 +35,24 @@ bool reachDisk(QFile &file)
 
 bool replaceFile(const QString &newPath, const QString &path)
 {
-    const std::wstring from = nativePath(newPath), to = nativePath(path);
-    // Keeps the old file's owner, access rights and attributes.
-    if (ReplaceFileW(to.c_str(), from.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
-                     nullptr))
-        return true;
-    return !QFile::exists(path) && MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH);
+    // The call that would take the old file's rights over by itself leaves a file behind where the
+    // old one is open elsewhere.
+    return MoveFileExW(nativePath(newPath).c_str(), nativePath(path).c_str(),
+                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
+}
+
+std::optional<quint64> fileSystemOf(const QString &path)
+{
+    const DWORD all = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    // A directory is opened only with this flag.
+    const HANDLE file = CreateFileW(nativePath(path).c_str(), 0, all, nullptr, OPEN_EXISTING,
+                                    FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return {};
+    BY_HANDLE_FILE_INFORMATION information {};
+    const bool isKnown = GetFileInformationByHandle(file, &information);
+    CloseHandle(file);
+    return isKnown ? std::optional<quint64>(information.dwVolumeSerialNumber) : std::nullopt;
 }
 
 } // namespace platform

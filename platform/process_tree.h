@@ -7,17 +7,24 @@
 namespace platform {
 
 /// While it lives, every program started in a ProcessTree ends with this program at the latest,
-/// also when this program is killed, and a folder of temporary files is removed then. To be made
-/// before the first thread and the first program.
+/// also when this program is killed. To be made before the first thread and the first program.
 class ProgramGuard
 {
 public:
-    /// \a folder is removed with all that is in it. Where nothing can outlive a killed program its
-    /// folder is removed by the next one that has one beside it.
+    ProgramGuard();
+    /// The programs also put their temporary files into \a folder, which is removed with all that
+    /// is in it at the end. Where nothing can outlive a killed program its folder is removed by the
+    /// next one that has one beside it. What has detached itself from a ProcessTree ends then, too:
+    /// on Windows always; on Linux what has kept the environment that it was started with and
+    /// belongs to the same user; elsewhere it goes on.
     explicit ProgramGuard(const QString &folder);
     ~ProgramGuard();
     ProgramGuard(const ProgramGuard &) = delete;
     ProgramGuard &operator=(const ProgramGuard &) = delete;
+
+private:
+    /// \a folder may be empty.
+    static void begin(const QString &folder);
 };
 
 /// A program with all that it starts itself.

@@ -1,12 +1,18 @@
 #include "process_tree.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <csignal>
+#include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <set>
 #include <string>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace platform {
@@ -32,6 +38,32 @@ void report(pid_t group, bool begins)
         return; // the guardian is gone, and nothing is left to do about it
 }
 
+const int mostPasses = 100;
+constexpr std::chrono::milliseconds betweenPasses(10);
+
+/// Ends the programs that have a folder for temporary files below \a folder: those that have left
+/// their process group. Looks for them where Linux shows the environment of each process. False
+/// when there was one.
+bool endDetached(const std::string &folder)
+{
+    const std::string sought = "\nTMPDIR=" + folder + '/';
+    bool isFound = false;
+    std::error_code ignored;
+    for (const auto &process : std::filesystem::directory_iterator("/proc", ignored)) {
+        const pid_t number = std::atoi(process.path().filename().c_str());
+        if (number <= 0)
+            continue;
+        std::ifstream file(process.path() / "environ", std::ios::binary);
+        std::string environment = '\n' + std::string(std::istreambuf_iterator<char>(file), {});
+        std::replace(environment.begin(), environment.end(), '\0', '\n');
+        if (environment.find(sought) == environment.npos)
+            continue;
+        isFound = true;
+        kill(number, SIGKILL);
+    }
+    return !isFound;
+}
+
 [[noreturn]] void guard(int source, const std::string &folder)
 {
     std::set<pid_t> groups;
@@ -49,14 +81,21 @@ void report(pid_t group, bool begins)
     }
     for (const pid_t group : groups)
         kill(-group, SIGKILL);
-    std::error_code ignored;
-    std::filesystem::remove_all(folder, ignored);
+    // What has been killed takes a moment to end, and may write to the folder until then.
+    for (int i = 0; i < mostPasses && !folder.empty(); ++i) {
+        std::error_code error;
+        const bool hasEnded = endDetached(folder);
+        std::filesystem::remove_all(folder, error);
+        if (hasEnded && !error)
+            break;
+        std::this_thread::sleep_for(betweenPasses);
+    }
     _exit(0);
 }
 
 } // namespace
 
-ProgramGuard::ProgramGuard(const QString &folder)
+void ProgramGuard::begin(const QString &folder)
 {
     int ends[2];
     if (pipe2(ends, O_CLOEXEC) != 0)

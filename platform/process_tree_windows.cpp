@@ -98,11 +98,13 @@ QString quotedForInterpreter(const QString &argument)
 
 } // namespace
 
-ProgramGuard::ProgramGuard(const QString &folder)
+void ProgramGuard::begin(const QString &folder)
 {
-    removeAbandonedFolders(folder);
     // Compilers take this over: one that lacks a library must fail, not open a window that waits.
     SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX | SEM_NOOPENFILEERRORBOX);
+    if (folder.isEmpty())
+        return;
+    removeAbandonedFolders(folder);
     lock = openLock(folder, CREATE_NEW);
 }
 

@@ -48,7 +48,7 @@ QString findCommand(const QString &word, const QString &searchPath)
         const QString path = hostPath(word);
         return QFileInfo::exists(path) ? path : QString();
     }
-    for (const QString &candidate : programCandidates(word, searchPath)) {
+    for (const QString &candidate : inHostOrder(programCandidates(word, searchPath))) {
         if (opens(candidate))
             return candidate;
     }

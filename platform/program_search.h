@@ -15,9 +15,13 @@ QString searchPathVariable();
 /// included.
 QStringList programCandidates(const QString &word, const QString &searchPath);
 
+/// \a candidates in the order in which the host's command interpreter would take them: only that of
+/// Windows prefers the current folder to the PATH.
+QStringList inHostOrder(QStringList candidates);
+
 /// The host's path of the program that the first word of a command names: a word with a backslash
-/// is a path and need only exist, for any other the first of its candidates that opens for reading.
-/// Empty when there is none.
+/// is a path and need only exist, for any other the first of its candidates that opens for reading,
+/// in the host's order. Empty when there is none.
 QString findCommand(const QString &word, const QString &searchPath);
 
 /// The host's path of the program \a name, which is looked for along the PATH and then beside the

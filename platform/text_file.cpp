@@ -2,6 +2,7 @@
 
 #include "file_system.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
@@ -12,7 +13,26 @@ namespace platform {
 
 namespace {
 
+const QLatin1StringView lockExtension(".lock");
 const int longestWait = 5000; // milliseconds, for another program's save, which takes a few
+
+const int longestSigning = 1000; // milliseconds, which takes none where nobody is killed
+
+/// Removes the lock \a path if nobody has signed it, and nobody does now: whoever made it was
+/// killed before that. \a lock tells a signed one by itself.
+void removeUnsignedLock(const QString &path, QLockFile &lock)
+{
+    const QFileInfo before(path);
+    if (!before.exists() || before.size() > 0)
+        return;
+    if (lock.tryLock(longestSigning)) {
+        lock.unlock();
+        return;
+    }
+    const QFileInfo after(path);
+    if (after.size() == 0 && after.lastModified() == before.lastModified())
+        QFile::remove(path);
+}
 
 /// What \a path leads to, whether or not that exists.
 QString withoutLinks(QString path)
@@ -62,8 +82,9 @@ std::optional<QString> readTextFile(const QString &path, qint64 sizeLimit)
 }
 
 FileReplacement::FileReplacement(const QString &path)
-    : m_path(withoutLinks(path)), m_lock(std::make_unique<QLockFile>(m_path + ".lock"_L1))
+    : m_path(withoutLinks(path)), m_lock(std::make_unique<QLockFile>(m_path + lockExtension))
 {
+    removeUnsignedLock(m_path + lockExtension, *m_lock);
     m_isLocked = m_lock->tryLock(longestWait);
 }
 

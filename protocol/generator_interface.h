@@ -25,6 +25,11 @@ inline constexpr QLatin1StringView forceIncludeFile("-fi");
 inline constexpr QLatin1StringView substituteHeaders("-sub");
 inline constexpr QLatin1StringView reduceFileSize("-rfs");
 
+// Beside the working directory: where the files lie that are named without a folder.
+inline constexpr QLatin1StringView templateFolder("TemplatePersonalities");
+inline constexpr QLatin1StringView forceIncludeFolder("ForceIncludeFiles");
+inline constexpr QLatin1StringView substituteHeadersFolder("SubstituteHeaders");
+
 // What a run leaves in the working directory: the command it attempted, and what that wrote.
 inline constexpr QLatin1StringView attemptedCommand("compile.bat");
 inline constexpr QLatin1StringView standardOutput("stdout.log");

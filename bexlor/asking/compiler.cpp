@@ -23,39 +23,12 @@ bool isProgram(const QString &word)
     return !programPath(word).isEmpty();
 }
 
-/// \a words without the options that make errors of warnings. A probe asks what the compiler knows,
-/// and it would be refused for its style.
-QStringList withoutWarningsAsErrors(QStringList words)
-{
-    static const QRegularExpression option(u"^(-Werror(=.*)?|--Werror|-pedantic-errors|[-/]WX)$"_s);
-    words.removeIf([](const QString &word) { return option.match(word).hasMatch(); });
-    // cc65's is made of two words.
-    for (qsizetype i = words.size() - 1; i > 0; --i) {
-        if (words[i] == "error"_L1 && words[i - 1] == "-W"_L1)
-            words.remove(--i, 2);
-    }
-    return words;
-}
-
-// Options behind which, in the same word or the next, stands a file that the compiler reads.
-const QStringList inputOptions {
-    u"@"_s,          u"-T"_s,       u"-include"_s,     u"--include"_s,
-    u"-imacros"_s,   u"-specs"_s,   u"--specs"_s,      u"-config"_s,
-    u"--config"_s,   u"-fplugin"_s, u"--preinclude"_s, u"-ivfsoverlay"_s,
-    u"--cmd_file"_s, u"/FI"_s,
-};
-
 /// Whether the word \a index of a command may be a path. The program is one already; a define, and
-/// the language behind the GNU driver's "-x", are paths by chance only. A file behind an option
-/// that is not known to read it may be one that it writes, which then comes to stand beside the
-/// probe.
+/// the language behind the GNU driver's "-x", are paths by chance only.
 bool mayBePath(const QStringList &words, qsizetype index, const QString &defineFlag)
 {
     const bool isDefine = !defineFlag.isEmpty() && words[index].startsWith(defineFlag);
-    if (index == 0 || isDefine || words[index - 1] == "-x"_L1)
-        return false;
-    return !words[index - 1].startsWith(u'-') || inputOptions.contains(words[index - 1])
-        || !QFileInfo(words[index]).isFile();
+    return index > 0 && !isDefine && words[index - 1] != "-x"_L1;
 }
 
 /// The defines that the command can name. Without a flag each would be taken for a file.
@@ -115,11 +88,7 @@ QString withAbsolutePath(const QString &word)
     const QString option = start.match(word).captured();
     const QFileInfo file(word.mid(option.size()));
     const bool isRelative = !file.filePath().isEmpty() && file.isRelative() && file.exists();
-    QString name = option;
-    static const QRegularExpression sign(u"[=:,]$"_s);
-    const bool isRead =
-        option.isEmpty() || file.isDir() || inputOptions.contains(name.remove(sign));
-    return isRelative && isRead ? option + file.absoluteFilePath() : word;
+    return isRelative ? option + file.absoluteFilePath() : word;
 }
 
 Compiler findCompiler(const Arguments &arguments)
@@ -132,7 +101,7 @@ Compiler findCompiler(const Arguments &arguments)
     QStringList words = commandWords(arguments.command, &isProgram);
     for (const QString &item : arguments.switches)
         words << QProcess::splitCommand(item);
-    words = withoutOutputOptions(withoutWarningsAsErrors(words), arguments.layout);
+    words = withoutOtherPurposes(words);
     for (qsizetype i = 0; i < words.size(); ++i) {
         const bool includes = words[i] == "-include"_L1 || words[i] == "-imacros"_L1;
         if (includes && i > 0 && i + 1 < words.size()) {

@@ -6,7 +6,7 @@
 /// asked.
 struct Compiler
 {
-    /// The program's path, its options, and the switches, without what makes errors of warnings.
+    /// The program's path, its options, and the switches; see withoutOtherPurposes().
     QStringList command;
     /// The GNU driver's options -include and -imacros, each followed by its file, which are kept
     /// out of the command: the macros of those files are not predefined.
@@ -22,8 +22,8 @@ struct Compiler
 /// which of the two it is.
 QStringList commandWords(const QString &command, bool (*isProgram)(const QString &word));
 
-/// \a word with the relative path in it made absolute, if it is the name of a directory here, or of
-/// a file that is read, alone or behind an option, since probes are compiled elsewhere.
+/// \a word with the relative path in it made absolute, if it is the name of a file or directory
+/// here, alone or behind an option, since probes are compiled elsewhere.
 QString withAbsolutePath(const QString &word);
 
 /// The compiler of \a arguments, its program found where the wizard finds it too. When there is no

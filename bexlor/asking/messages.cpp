@@ -27,15 +27,3 @@ QSet<int> namedLines(const QByteArray &messages, const QByteArray &source, bool 
     }
     return lines;
 }
-
-bool namesIncludedHeader(const QByteArray &messages, const QByteArray &text)
-{
-    const QByteArray directive = "#include <";
-    for (qsizetype at = 0; (at = text.indexOf(directive, at)) >= 0;) {
-        at += directive.size();
-        const qsizetype end = text.indexOf('>', at);
-        if (end > at && messages.contains(text.sliced(at, end - at)))
-            return true;
-    }
-    return false;
-}

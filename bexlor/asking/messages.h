@@ -7,6 +7,3 @@
 /// "x.c:12", "x.c(12)", "\"x.c\", line 12", "line 12 of x.c". Those of errors only, if \a ofErrors
 /// is set.
 QSet<int> namedLines(const QByteArray &messages, const QByteArray &source, bool ofErrors = false);
-
-/// Whether \a messages name one of the headers that \a text includes, in angle brackets.
-bool namesIncludedHeader(const QByteArray &messages, const QByteArray &text);

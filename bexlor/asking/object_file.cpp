@@ -3,6 +3,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
+#include <QStringList>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -72,7 +73,7 @@ QByteArray objectBytes(const QByteArray &file)
     return match.hasMatch() ? fromAsxxxx(file, match.captured(1).toInt()) : file;
 }
 
-QStringList filesLeftIn(const QString &folder, const QString &source)
+QByteArray bytesLeftIn(const QString &folder, const QString &source, const QString &extension)
 {
     QStringList files;
     QDirIterator entries(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
@@ -82,11 +83,6 @@ QStringList filesLeftIn(const QString &folder, const QString &source)
             files << file;
     }
     std::sort(files.begin(), files.end());
-    return files;
-}
-
-QByteArray bytesOfFiles(QStringList files, const QString &extension)
-{
     if (!extension.isEmpty()) {
         std::stable_partition(files.begin(), files.end(), [&extension](const QString &file) {
             return file.endsWith(extension);

@@ -8,17 +8,17 @@
 /// What the compiler has said to one probe.
 struct ProbeAnswer
 {
+    bool isAsked = false; ///< not when the probe could not be written
     platform::ProgramRun run;
-    QSet<int> lines;          ///< of the probe that its errors name, or else its other messages
-    QSet<int> allLines;       ///< that any message names; the first line is 1
-    QByteArray bytes;         ///< of the object file, read from hexadecimal text where it is that
-    bool isWritten = true;    ///< not when there was no room for the source
-    bool namesSource = false; ///< a message names one of its lines, or a header that it includes
-    bool leftFiles = false;   ///< any, beside the source
-    bool leftObject = false;  ///< one with the object file extension
-    bool isContradicted = false; ///< that it compiled, by other signs than the exit status
+    QSet<int> lines;    ///< of the probe that its errors name, or else its other messages
+    QSet<int> allLines; ///< that any message names; the first line is 1
+    QByteArray bytes;   ///< of the object file, read from hexadecimal text where it is that; of a
+                        ///< program what it prints
 
-    bool compiled() const { return run.succeeded() && !isContradicted; }
+    bool leftNothing = false; ///< neither an object file nor anything else
+
+    /// Some compilers, and what they are started by, end alike whether there were errors or not.
+    bool compiled() const { return run.succeeded() && !leftNothing; }
 };
 
 /// How many declarations and bytes a probe may have.

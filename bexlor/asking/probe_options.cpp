@@ -1,124 +1,74 @@
 #include "probe_options.h"
 
-#include <QFileInfo>
 #include <QRegularExpression>
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// Options behind which a word of its own names a file, and the GNU ones that mean something else
-// to Microsoft's compiler.
-const QStringList withNextWord {
-    u"-o"_s,
-    u"--output"_s,
-    u"-aux-info"_s,
-    u"-dumpbase"_s,
-    u"-dumpbase-ext"_s,
-    u"-dumpdir"_s,
-    u"-auxbase"_s,
-    u"-auxbase-strip"_s,
-    u"-Map"_s,
-    u"--Map"_s,
-    u"--serialize-diagnostics"_s,
-    u"-serialize-diagnostics"_s,
-    u"-index-store-path"_s,
-    u"--create-dep"_s,
-    u"--create-full-dep"_s,
-    u"--mapfile"_s,
-    u"--listing"_s,
-};
-const QStringList dependenciesWithNextWord {u"-MF"_s, u"-MT"_s, u"-MQ"_s, u"-MJ"_s};
-const char *const dependencies = "^-(M(F|T|Q|J).+|MM?D|MP|MG)$";
-
-// The same in one word, and options that make files or change messages without naming any.
-const char *const wholeWords =
-    "^("
-    "--output=.*|-aux-info=.*|-dump(base|base-ext|dir)=.*|-fdump-.*|--?save-temps(=.*)?"
-    "|--(write-)?(user-)?dependencies.*|--?coverage|-ftest-coverage"
-    "|-fprofile-(arcs|generate|dir|instr-generate|note).*|-fstack-usage|-fcallgraph-info(=.*)?"
-    "|-fopt-info.*|-fsave-optimization-record.*|-foptimization-record-.*|-ftime-trace.*"
-    "|-gsplit-dwarf|-fmodule-output.*|-fmodules-cache-path=.*|--?Map=.*"
-    "|--serialize-diagnostics=.*"
-    "|-Wl,(.*,)?--?(Map|M|o|out-implib|dependency-file)\\b.*|-Wp,-(M|d|o).*"
-    "|-Wa,(.*,)?-(a|o|-MD|-listing).*"
-    "|-flto(=.*)?|-fuse-linker-plugin|-fwhole-program"
-    "|-Wfatal-errors|-fmax-errors=.*|-ferror-limit=.*|-fdiagnostics-.*|-f(no-)?color-diagnostics"
-    ")$";
-
-// Microsoft's options for outputs, in which a file follows. On other systems the word may as well
-// be a path.
-const char *const slashedOption = "^/(F[AadeimoprRx]|doc|sourceDependencies|ifcOutput).*$";
-
-const char *const againstCompiling = "^(-E|--preprocess|-fsyntax-only|-M|-MM|/E|/EP|/P|/Zs)$";
-
-QRegularExpression expression(const char *pattern)
+/// Options, as what matches a whole word, and the words that follow them.
+const struct
 {
-    return QRegularExpression(QString::fromLatin1(pattern));
+    QString pattern;
+    int following;
+} otherPurposes[] = {
+    // Files beside the object file, named in the next word or in the same.
+    {u"-o|--output|-MF|-MT|-MQ|-MJ|-aux-info|-Map|-dumpbase|-dumpbase-ext|-dumpdir|-Xlinker|"
+     "-serialize-diagnostics|--serialize-diagnostics|-l|--listing|-m|--mapfile|-Ln|--create-dep|"
+     "--create-full-dep|--depend|--depend_target"_s,
+     1},
+    {u"-o.*[./\\\\].*|--output=.*|-M[FTQJ].+|-M|-MM|-M?MD|-MG|-MP|-MV|-Wl,.*|-Wp,-M.*|-Wa,-a.*|"
+     "-aux-info=.*|-save-temps.*|--save-temps.*|-fdump-.*|-dumpdir.+|-fopt-info.*|"
+     "-f(no-)?save-optimization-record.*|-foptimization-record-file=.*|-fprofile-.*|--coverage|"
+     "-ftest-coverage|-fcallgraph-info.*|-fstack-usage|-fdiagnostics-add-output=.*|"
+     "-gsplit-dwarf|[-/]F[adeimoprR].*|[-/]FR.*|[-/]showIncludes|[-/]sourceDependencies.*|"
+     "--dependencies=.*|--preprocess=.*|--list(_dir)?(=.*)?|--map=.*|--depend=.*|"
+     "--depend_dir=.*"_s,
+     0},
+    // What makes rejections of remarks.
+    {u"-Werror(=.*)?|--Werror|-pedantic-errors|[-/]WX"_s, 0},
+    // What makes fewer messages of a rejection, or messages of another form.
+    {u"-Wfatal-errors|-fmax-errors=.*|-ferror-limit=.*|-fdiagnostics-.*|-fmessage-length=.*"_s, 0},
+    {u"-ferror-limit"_s, 1},
+    // Code that is made when programs are linked.
+    {u"-flto(=.*)?|-fuse-linker-plugin|-fwhole-program|[-/]GL"_s, 0},
+};
+
+QRegularExpression wholeWord(const QString &pattern)
+{
+    return QRegularExpression(QRegularExpression::anchoredPattern(pattern));
 }
 
-/// Finds the output options of one compiler.
-class OutputOptions
+/// How many words, from \a word on, are left out with it.
+int wordsLeftOut(const QString &word, const QString &next)
 {
-public:
-    explicit OutputOptions(const QString &program, const CommandLayout &layout)
-        : m_flag(layout.outputFlag)
-    {
-        static const QRegularExpression microsofts = expression("(^|[\\\\/])(clang-)?cl(\\.exe)?$");
-        m_isMicrosofts = microsofts.match(program).hasMatch() || m_flag.startsWith("/F"_L1);
+    if (word == "-W"_L1 && next == "error"_L1) // cc65's is made of two words
+        return 2;
+    for (const auto &row : otherPurposes) {
+        if (wholeWord(row.pattern).match(word).hasMatch())
+            return 1 + row.following;
     }
-
-    bool contain(const QString &word) const
-    {
-        static const QRegularExpression whole = expression(wholeWords);
-        static const QRegularExpression slashed = expression(slashedOption);
-        static const QRegularExpression gnus = expression(dependencies);
-        return whole.match(word).hasMatch() || (m_flag.size() > 1 && word.startsWith(m_flag))
-            || (!m_isMicrosofts && gnus.match(word).hasMatch())
-            || (slashed.match(word).hasMatch() && !QFileInfo::exists(word));
-    }
-
-    /// Whether the word behind \a word belongs to it and names a file.
-    bool takeNextWord(const QString &word) const
-    {
-        return withNextWord.contains(word) || (m_flag.size() > 1 && word == m_flag)
-            || (!m_isMicrosofts && dependenciesWithNextWord.contains(word));
-    }
-
-private:
-    const QString m_flag;
-    bool m_isMicrosofts = false;
-};
-
-/// Whether a word passes the next one on to the linker, assembler or preprocessor.
-bool passesOn(const QString &word)
-{
-    return word == "-Xlinker"_L1 || word == "-Xassembler"_L1 || word == "-Xpreprocessor"_L1;
+    return 0;
 }
 
 } // namespace
 
-QStringList withoutOutputOptions(const QStringList &words, const CommandLayout &layout)
+QStringList withoutOtherPurposes(const QStringList &words)
 {
-    const OutputOptions outputs(words.value(0), layout);
-    QStringList kept = words.mid(0, 1);
-    for (qsizetype i = 1; i < words.size(); ++i) {
-        const bool isPassedOn = passesOn(words[i]);
-        const qsizetype option = i + isPassedOn;
-        const QString word = words.value(option);
-        if (outputs.takeNextWord(word))
-            i = option + 1 + isPassedOn; // what is passed on is introduced word by word
-        else if (outputs.contain(word))
-            i = option;
-        else
+    QStringList kept = words.first(std::min<qsizetype>(words.size(), 1));
+    for (qsizetype i = 1; i < words.size();) {
+        const int leftOut = wordsLeftOut(words[i], words.value(i + 1));
+        if (leftOut == 0)
             kept << words[i];
+        i += std::max(leftOut, 1);
     }
     return kept;
 }
 
-QString optionAgainstCompiling(const QStringList &words)
+QString optionAgainstObjects(const QStringList &words)
 {
-    static const QRegularExpression option = expression(againstCompiling);
-    return words.mid(1).filter(option).value(0);
+    static const QRegularExpression option =
+        wholeWord(u"-E|-S|-fsyntax-only|--preprocess-only|[-/]EP|[-/]P|[-/]Zs|/E"_s);
+    const qsizetype index = words.indexOf(option, 1);
+    return index < 0 ? QString() : words[index];
 }

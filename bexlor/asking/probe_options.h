@@ -1,13 +1,16 @@
 #pragma once
 
-#include "arguments.h"
+#include <QStringList>
 
-/// The words \a words of a compiler command without the options that are no questions to the
-/// compiler: those that name or make other files than the object, which each probe would write
-/// over; those that leave nothing in the object to read (link-time optimisation); those that make
-/// each message cost a start (stopping at the first error) or unreadable (other formats). From the
-/// manuals of the GNU compilers, clang, cc65 and Microsoft's; \a layout has the output flag.
-QStringList withoutOutputOptions(const QStringList &words, const CommandLayout &layout);
+/// Options of a compile command that are no questions to the compiler.
 
-/// The first of \a words that keeps a compiler from compiling; empty when there is none.
-QString optionAgainstCompiling(const QStringList &words);
+/// \a words, a program and its options, without those that have the compiler write other files,
+/// which would be the user's; that make errors of warnings, or have it stop early or report in
+/// another form, so that its rejections would say less; or that put off the making of code, so that
+/// the object file would hold none. The options are those of the manuals of the GNU compilers,
+/// clang, cc65, sdcc, and the compilers of Microsoft, IAR and Arm.
+QStringList withoutOtherPurposes(const QStringList &words);
+
+/// The option in \a words that keeps the compiler from making an object file at all; empty if there
+/// is none.
+QString optionAgainstObjects(const QStringList &words);

@@ -1,6 +1,5 @@
 #include "probe_runner.h"
 
-#include "malfunction.h"
 #include "messages.h"
 #include "object_file.h"
 #include "text_file.h"
@@ -8,7 +7,6 @@
 #include <QDir>
 #include <QFile>
 #include <QThreadPool>
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -16,8 +14,7 @@ namespace {
 
 const int usualTimeLimit = 60'000; // milliseconds for one compilation
 
-// Behind that many a compiler is taken for one that does not work twice at a time.
-const int mostAnswersCured = 3;
+const int mostRepetitions = 2; // of a probe whose answer is unlike all others
 
 const ProbeLimits usualLimits {20'000, 500'000};
 const ProbeLimits smallLimits {99, 4000};
@@ -27,6 +24,18 @@ int timeLimit()
 {
     const int set = qEnvironmentVariableIntValue("BEXLOR_TIME_LIMIT");
     return set > 0 ? set : usualTimeLimit;
+}
+
+/// What the program that has been made in \a folder prints.
+QByteArray printedBy(const QString &folder)
+{
+    // A compiler that takes no name for its output leaves the one that is usual.
+    for (const QString &name : {u"probe.exe"_s, u"a.out"_s}) {
+        const QString program = folder + u'/' + name;
+        if (QFile::exists(program))
+            return platform::runProgram({program}, folder, timeLimit()).output;
+    }
+    return {};
 }
 
 } // namespace
@@ -42,49 +51,72 @@ QStringList ProbeRunner::command(CompileTo goal) const
     return probeCommand(m_compiler, probeName(m_compiler.isCpp), output, goal);
 }
 
-ProbeAnswer ProbeRunner::ask(const QByteArray &source) const
+bool ProbeRunner::learnControls(const ProbeAnswer &accepted)
 {
-    return confirmed(askOnce(source), source);
+    const auto ask = [this](const QByteArray &source) {
+        return askOnce(source, CompileTo::Object);
+    };
+    const std::optional<Controls> controls = askControls(ask, accepted);
+    m_knowsControls = controls.has_value();
+    m_controls = controls.value_or(Controls());
+    return m_knowsControls;
 }
 
-ProbeAnswer ProbeRunner::askOnce(const QByteArray &source) const
+ProbeAnswer ProbeRunner::ask(const QByteArray &source, CompileTo goal) const
 {
-    const QString folder = newFolder();
-    const ProbeAnswer answer = askIn(folder, source, CompileTo::Object);
-    QDir(folder).removeRecursively();
+    if (m_malfunction)
+        return *m_malfunction;
+    const ProbeAnswer answer = askOnce(source, goal);
+    return isExpected(answer) ? answer : askAgain(source, goal);
+}
+
+QList<ProbeAnswer> ProbeRunner::askAll(const QList<QByteArray> &sources) const
+{
+    if (m_malfunction)
+        return QList<ProbeAnswer>(sources.size(), *m_malfunction);
+    QList<ProbeAnswer> answers(sources.size());
+    ProbeAnswer *const places = answers.data(); // not detached by the threads
+    QThreadPool pool;
+    for (qsizetype i = 0; i < sources.size(); ++i) {
+        pool.start(
+            [this, places, &sources, i] { places[i] = askOnce(sources[i], CompileTo::Object); });
+    }
+    pool.waitForDone();
+    for (qsizetype i = 0; i < sources.size(); ++i) {
+        if (!isExpected(answers[i]))
+            answers[i] = askAgain(sources[i], CompileTo::Object);
+    }
+    return answers;
+}
+
+bool ProbeRunner::isExpected(const ProbeAnswer &answer) const
+{
+    return !m_knowsControls || m_controls.isExpected(answer);
+}
+
+ProbeAnswer ProbeRunner::askAgain(const QByteArray &source, CompileTo goal) const
+{
+    if (m_malfunction)
+        return *m_malfunction;
+    ProbeAnswer answer;
+    for (int tries = 0; tries < mostRepetitions && !m_controls.isRejection(answer); ++tries) {
+        answer = askOnce(source, goal);
+        if (m_controls.isExpected(answer))
+            return answer;
+    }
+    // The assembler and the linker name no line of the probe, and no licence server does.
+    if (m_controls.isRejection(answer) && askOnce(acceptedProbe, CompileTo::Object).compiled())
+        return answer;
+    m_malfunction = answer;
     return answer;
 }
 
-/// \a first, the answer to \a source, as the controls judge it; if it is odd, what comes when the
-/// source is asked again by itself.
-ProbeAnswer ProbeRunner::confirmed(const ProbeAnswer &first, const QByteArray &source) const
+ProbeAnswer ProbeRunner::askOnce(const QByteArray &source, CompileTo goal) const
 {
-    if (!m_controls)
-        return first;
-    ProbeAnswer answer = first;
-    for (int i = 0; i < triesAfter(first) && m_controls->isOdd(answer); ++i)
-        answer = askOnce(source);
-    if (!answer.isWritten)
-        throw Malfunction {
-            u"There is no room for a probe in the temporary folder: %1"_s.arg(m_folder),
-            answer.run};
-    if (m_controls->isOdd(answer) && !(m_controls->mayBeRejection(answer) && worksStill()))
-        throw Malfunction {{}, answer.run};
-    return m_controls->judged(answer);
-}
-
-/// Whether the compiler accepts what every compiler does.
-bool ProbeRunner::worksStill() const
-{
-    ProbeAnswer answer = askOnce(acceptedSource);
-    for (int i = 0; i < triesAfter(answer) && m_controls->isOdd(answer); ++i)
-        answer = askOnce(acceptedSource);
-    return m_controls->judged(answer).compiled();
-}
-
-QString ProbeRunner::newFolder() const
-{
-    return m_folder + u"/%1"_s.arg(++m_folders);
+    const QString folder = m_folder + u"/%1"_s.arg(++m_folders);
+    const ProbeAnswer answer = askIn(folder, source, goal);
+    QDir(folder).removeRecursively();
+    return answer;
 }
 
 ProbeAnswer ProbeRunner::askIn(const QString &folder, const QByteArray &source,
@@ -97,9 +129,8 @@ ProbeAnswer ProbeRunner::askIn(const QString &folder, const QByteArray &source,
     const bool needsMain =
         goal == CompileTo::Object && layout.objectFlag.isEmpty() && !m_compiler.isCross;
     const QByteArray text = needsMain ? source + "int main(void) { return 0; }\n" : source;
-    QDir().mkdir(folder);
-    answer.isWritten = platform::writeScratchFile(folder + u'/' + name, text);
-    if (!answer.isWritten)
+    answer.isAsked = QDir().mkdir(folder) && platform::writeScratchFile(folder + u'/' + name, text);
+    if (!answer.isAsked)
         return answer;
     ++m_started;
     answer.run = platform::runProgram(command(goal), folder, timeLimit());
@@ -108,45 +139,10 @@ ProbeAnswer ProbeRunner::askIn(const QString &folder, const QByteArray &source,
     answer.lines = namedLines(messages, name.toLatin1(), true);
     if (answer.lines.isEmpty())
         answer.lines = answer.allLines;
-    answer.namesSource = !answer.allLines.isEmpty() || namesIncludedHeader(messages, source);
-    const QStringList files = filesLeftIn(folder, name);
-    answer.leftFiles = !files.isEmpty();
-    answer.leftObject = std::any_of(files.begin(), files.end(), [&layout](const QString &file) {
-        return !layout.objectExtension.isEmpty() && file.endsWith(layout.objectExtension);
-    });
-    if (answer.run.succeeded() && goal == CompileTo::Object)
-        answer.bytes = bytesOfFiles(files, layout.objectExtension);
-    return answer;
-}
-
-QList<ProbeAnswer> ProbeRunner::askAll(const QList<QByteArray> &sources) const
-{
-    QList<ProbeAnswer> answers(sources.size());
-    ProbeAnswer *const places = answers.data(); // not detached by the threads
-    QThreadPool pool;
-    if (m_answersCured > mostAnswersCured)
-        pool.setMaxThreadCount(1);
-    for (qsizetype i = 0; i < sources.size(); ++i)
-        pool.start([this, places, &sources, i] { places[i] = askOnce(sources[i]); });
-    pool.waitForDone();
-    for (qsizetype i = 0; i < sources.size(); ++i) {
-        m_answersCured += m_controls && m_controls->isOdd(answers[i]);
-        answers[i] = confirmed(answers[i], sources[i]);
-    }
-    return answers;
-}
-
-ProbeAnswer ProbeRunner::askByRunning(const QByteArray &source) const
-{
-    const QString folder = newFolder();
-    ProbeAnswer answer = askIn(folder, source, CompileTo::Program);
-    // A compiler that takes no name for its output leaves the one that is usual.
-    for (const QString &name : {u"probe.exe"_s, u"a.out"_s}) {
-        const QString program = folder + u'/' + name;
-        if (answer.compiled() && QFile::exists(program))
-            answer.bytes = platform::runProgram({program}, folder, timeLimit()).output;
-    }
-    QDir(folder).removeRecursively();
+    const QByteArray left = bytesLeftIn(folder, name, layout.objectExtension);
+    answer.leftNothing = left.isEmpty();
+    if (answer.compiled())
+        answer.bytes = goal == CompileTo::Object ? left : printedBy(folder);
     return answer;
 }
 

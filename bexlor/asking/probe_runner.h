@@ -1,31 +1,31 @@
 #pragma once
 
 #include "compiler.h"
-#include "control.h"
+#include "control_probes.h"
 
 #include <atomic>
-#include <optional>
 
-/// Compiles probes, small source files, each in a folder of its own. Once it has controls it asks
-/// those that are not answered as these again, by themselves, and throws a Malfunction when that
-/// does not help.
+/// Compiles probes, small source files, each in a folder of its own.
 class ProbeRunner
 {
 public:
     /// \a folder is where the probes are put; it must exist.
     ProbeRunner(const Compiler &compiler, const QString &folder, bool smallProbes);
 
-    ProbeAnswer ask(const QByteArray &source) const;
-    /// The answers to \a sources in their order; asks as many at a time as there are processors,
-    /// or one, if the compiler cannot do more.
-    QList<ProbeAnswer> askAll(const QList<QByteArray> &sources) const;
-    /// Has the answers from now on judged by \a controls.
-    void judgeBy(const Controls &controls) { m_controls = controls; }
-    /// What has been given to judgeBy(), which must have been called before.
-    const Controls &controls() const { return *m_controls; }
+    /// Learns from control probes what the compiler's answers are worth; from then on an answer
+    /// that is unlike them is not taken for one. \a accepted is that to the accepted probe. False
+    /// when the compiler does not answer twice alike.
+    bool learnControls(const ProbeAnswer &accepted);
+    const Controls &controls() const { return m_controls; }
 
-    /// Compiles \a source to a program, runs it, and has what it prints as the answer's bytes.
-    ProbeAnswer askByRunning(const QByteArray &source) const;
+    /// Compiles \a source. A program is run, too. What is unlike the control probes is asked again;
+    /// if it stays so that is a malfunction, and no compiler is started any more.
+    ProbeAnswer ask(const QByteArray &source, CompileTo goal = CompileTo::Object) const;
+    /// The answers to \a sources in their order; asks as many at a time as there are processors,
+    /// but one alone what must be asked again.
+    QList<ProbeAnswer> askAll(const QList<QByteArray> &sources) const;
+    /// The answer that could not be understood, which all later ones repeat.
+    const std::optional<ProbeAnswer> &malfunction() const { return m_malfunction; }
 
     /// The command that ask() runs.
     QStringList command(CompileTo goal = CompileTo::Object) const;
@@ -35,18 +35,18 @@ public:
     int compilersStarted() const { return m_started; }
 
 private:
-    QString newFolder() const;
+    ProbeAnswer askOnce(const QByteArray &source, CompileTo goal) const;
     ProbeAnswer askIn(const QString &folder, const QByteArray &source, CompileTo goal) const;
-    ProbeAnswer askOnce(const QByteArray &source) const;
-    ProbeAnswer confirmed(const ProbeAnswer &first, const QByteArray &source) const;
-    bool worksStill() const;
+    ProbeAnswer askAgain(const QByteArray &source, CompileTo goal) const;
+    bool isExpected(const ProbeAnswer &answer) const;
 
     const Compiler m_compiler;
     const QString m_folder;
     const ProbeLimits m_limits;
-    std::optional<Controls> m_controls;
+    Controls m_controls;
+    bool m_knowsControls = false;
+    mutable std::optional<ProbeAnswer> m_malfunction;
     mutable std::atomic<int> m_started = 0;
-    mutable int m_answersCured = 0; ///< by asking without others
     mutable std::atomic<int> m_folders = 0;
 };
 

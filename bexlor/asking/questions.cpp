@@ -1,9 +1,5 @@
 #include "questions.h"
 
-#include "malfunction.h"
-
-using namespace Qt::StringLiterals;
-
 namespace {
 
 // Control characters mark what is read back: a listing that a compiler leaves beside the object
@@ -89,8 +85,7 @@ Questions::Questions(const ProbeRunner &runner) : m_runner(runner)
         sources << ConstantSource::RunningProgram;
     for (const ConstantSource source : sources) {
         m_source = source;
-        m_isReliable = readsTexts() || (learnCharacterSet() && readsTexts());
-        if (m_isReliable)
+        if (readsTexts() || (learnCharacterSet() && readsTexts()))
             return;
         m_characters.clear();
     }
@@ -138,7 +133,7 @@ std::optional<QList<bool>> Questions::withoutMessage(const QByteArray &prelude,
                                                      const QList<QByteArray> &items,
                                                      const QByteArray &control) const
 {
-    if (!controls().namesTheRightLines())
+    if (!m_runner.controls().isQuiet)
         return {};
     return itemsWithoutMessage(askProbes(), prelude, items, control, limits());
 }
@@ -146,6 +141,11 @@ std::optional<QList<bool>> Questions::withoutMessage(const QByteArray &prelude,
 QList<ProbeAnswer> Questions::eachAlone(const QList<QByteArray> &sources) const
 {
     return m_runner.askAll(sources);
+}
+
+bool Questions::rejects(ErrorKind kind) const
+{
+    return m_runner.controls().rejects(kind);
 }
 
 QList<bool> Questions::acceptedAlone(const QList<QByteArray> &sources) const
@@ -169,29 +169,7 @@ QByteArray Questions::bytesOf(const QByteArray &source, const Batch &batch,
         const QByteArray array = arrayName(index);
         program += "for (i = 0; i < sizeof " + array + "; ++i) putchar(" + array + "[i]);\n";
     }
-    return m_runner.askByRunning(program + "return 0; }\n").bytes;
-}
-
-/// Reads the contents of the arrays in \a batch, with which \a source has been compiled with the
-/// answer \a first. A compiler that leaves some of them out has failed.
-void Questions::readContents(const QByteArray &source, const Batch &batch, const ProbeAnswer &first,
-                             const QByteArray &characters,
-                             QList<std::optional<QByteArray>> &contents) const
-{
-    ProbeAnswer answer = first;
-    for (int i = 0; i <= triesAfter(first); ++i) {
-        if (i > 0)
-            answer = m_runner.ask(source);
-        const QByteArray bytes = decoded(bytesOf(source, batch, answer), characters);
-        bool isWhole = true;
-        for (const int index : batch) {
-            contents[index] = contentOf(bytes, index);
-            isWhole &= contents[index].has_value();
-        }
-        if (isWhole || !m_isReliable)
-            return;
-    }
-    throw Malfunction {u"The compiler has left out constants of a probe."_s, answer.run};
+    return m_runner.ask(program + "return 0; }\n", CompileTo::Program).bytes;
 }
 
 /// Reads the contents of the arrays \a items in \a batches into \a contents. Returns the batches
@@ -210,7 +188,9 @@ QList<Batch> Questions::readBatches(const QByteArray &prelude, const QList<QByte
             failed << batches[i];
             continue;
         }
-        readContents(sources[i], batches[i], answers[i], characters, contents);
+        const QByteArray bytes = decoded(bytesOf(sources[i], batches[i], answers[i]), characters);
+        for (const int index : batches[i])
+            contents[index] = contentOf(bytes, index);
     }
     return failed;
 }

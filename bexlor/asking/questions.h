@@ -8,16 +8,17 @@ class Questions
 {
 public:
     /// Finds out how constants can be read back: from the object file or, from a native compiler,
-    /// by running a program; and which character set their texts are in. \a runner must have
-    /// controls.
+    /// by running a program; and which character set their texts are in.
     explicit Questions(const ProbeRunner &runner);
 
     /// Whether constants can be read back at all.
     bool readsConstants() const { return m_source != ConstantSource::None; }
     const ProbeRunner &runner() const { return m_runner; }
-    const Controls &controls() const { return m_runner.controls(); }
     bool isCpp() const { return m_runner.compiler().isCpp; }
     ProbeLimits limits() const { return m_runner.limits(); }
+
+    /// Whether an error of \a kind is rejected, so that what compiles has none.
+    bool rejects(ErrorKind kind) const;
 
     /// Which of \a items, one or more whole lines each, are accepted behind \a prelude; see
     /// acceptedItems().
@@ -25,7 +26,7 @@ public:
                          bool confirmsAlone = false) const;
 
     /// Which of \a items draw no message behind \a prelude, though \a control does; see
-    /// itemsWithoutMessage(). Nothing of a compiler that has something to say of every line.
+    /// itemsWithoutMessage().
     std::optional<QList<bool>> withoutMessage(const QByteArray &prelude,
                                               const QList<QByteArray> &items,
                                               const QByteArray &control) const;
@@ -57,9 +58,6 @@ private:
     QList<std::optional<QByteArray>> arrays(const QByteArray &prelude,
                                             const QList<QByteArray> &elements,
                                             const QByteArray &characters) const;
-    void readContents(const QByteArray &source, const Batch &batch, const ProbeAnswer &first,
-                      const QByteArray &characters,
-                      QList<std::optional<QByteArray>> &contents) const;
     QList<Batch> readBatches(const QByteArray &prelude, const QList<QByteArray> &items,
                              const QList<Batch> &batches, const QByteArray &characters,
                              QList<std::optional<QByteArray>> &contents) const;
@@ -69,6 +67,5 @@ private:
 
     const ProbeRunner &m_runner;
     ConstantSource m_source = ConstantSource::None;
-    bool m_isReliable = false; ///< has been seen to tell constants
-    QByteArray m_characters;   ///< that the compiler's 256 codes stand for; empty if for themselves
+    QByteArray m_characters; ///< that the compiler's 256 codes stand for; empty if for themselves
 };

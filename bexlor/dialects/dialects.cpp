@@ -1,5 +1,7 @@
 #include "dialects.h"
 
+#include "visible_text.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -173,9 +175,12 @@ QStringList directoriesBehind(const QByteArray &heading, const QByteArray &listi
 QByteArray versionLineIn(const QByteArray &banner)
 {
     static const QRegularExpression version(u"[A-Za-z].*[0-9]\\.[0-9]"_s);
-    for (const QByteArray &line : banner.split('\n')) {
+    for (QByteArray line : banner.split('\n')) {
+        line = line.simplified();
+        // Such as what colours the text of a terminal.
+        line.removeIf([](char character) { return hasControlCharacter(QByteArray(1, character)); });
         if (version.match(QString::fromLocal8Bit(line)).hasMatch())
-            return line.simplified();
+            return line;
     }
     return {};
 }

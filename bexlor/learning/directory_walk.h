@@ -21,7 +21,9 @@ struct DirectoryWalk
 };
 
 /// Finds all files before any of them is read, counting them in \a found. Links are followed once,
-/// to files and to directories; what is neither is not opened.
+/// to files and to directories, but not to other file systems than those of \a directories, nor up
+/// to a folder around them, nor to more than some ten thousand files outside; what is neither file
+/// nor directory is not opened.
 DirectoryWalk walkDirectories(const QStringList &directories, std::atomic<qint64> &found);
 
 /// \a path with slashes, also where its bytes are no text.

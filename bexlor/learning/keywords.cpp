@@ -126,6 +126,9 @@ void addForms(const Questions &questions, const QList<QByteArray> &keywords,
         if (!forms[i].isEmpty())
             continue;
         for (const Use &use : tried) {
+            // An unknown name must not pass for a type.
+            if (use.form == Keyword::TypeName && !questions.rejects(ErrorKind::UnknownName))
+                continue;
             lines << lineOf(use, keywords[i], lines.size());
             asked << std::pair(i, int(use.form));
         }
@@ -136,22 +139,41 @@ void addForms(const Questions &questions, const QList<QByteArray> &keywords,
         forms[keyword] << form;
 }
 
+/// Leaves those of \a keywords that have a size alone, and none together with char, only the form
+/// of a type: a compiler that lets a name be declared again takes "char size_t x;" too.
+void keepTypesApart(const Questions &questions, const QList<QByteArray> &keywords,
+                    QList<QSet<int>> &forms)
+{
+    QList<qsizetype> doubtful;
+    QList<QByteArray> expressions;
+    for (qsizetype i = 0; i < keywords.size(); ++i) {
+        if (!forms[i].contains(Keyword::TypeName) || forms[i].size() == 1)
+            continue;
+        doubtful << i;
+        expressions << "sizeof(" + keywords[i] + ')' << "sizeof(" + keywords[i] + " char)"
+                    << "sizeof(char " + keywords[i] + ')';
+    }
+    const QList<std::optional<int>> sizes = questions.numbers({}, expressions);
+    for (qsizetype i = 0; i < doubtful.size(); ++i) {
+        if (sizes[3 * i] && !sizes[3 * i + 1] && !sizes[3 * i + 2])
+            forms[doubtful[i]] = {Keyword::TypeName};
+    }
+}
+
 /// The form in which a keyword is used that may be used in \a forms; \a isCalled if headers use it
-/// with a parenthesis behind it. One that accepts any name for a type does not
-/// tell which keywords are types.
-Keyword::Form formOf(const QSet<int> &forms, bool isCalled, bool acceptsAnyType)
+/// with a parenthesis behind it.
+Keyword::Form formOf(const QSet<int> &forms, bool isCalled)
 {
     const bool standsAlone = forms.contains(Keyword::Qualifier);
     if (forms.contains(Keyword::QualifierWithArgument) && (!standsAlone || isCalled))
         return Keyword::QualifierWithArgument;
     if (standsAlone)
         return Keyword::Qualifier;
-    const bool isType = forms.contains(Keyword::TypeName) && !acceptsAnyType;
-    return isType ? Keyword::TypeName : Keyword::Undetermined;
+    return forms.contains(Keyword::TypeName) ? Keyword::TypeName : Keyword::Undetermined;
 }
 
 /// Gives each of \a keywords that stands for a type the standard type of the same kind and size for
-/// a stand-in; none where there is none or its size is not told.
+/// a stand-in. What has no size only qualifies the int that is left out.
 void measureTypes(const Questions &questions, QList<Keyword> &keywords, const TypeFacts &types)
 {
     const auto isType = [](const Keyword &keyword) { return keyword.form == Keyword::TypeName; };
@@ -184,17 +206,16 @@ QList<Keyword> learnKeywords(const Questions &questions, const QList<ScannedName
     QList<QSet<int>> forms(found.size());
     addForms(questions, found, uses, false, forms);
     addForms(questions, found, usesBehindFunctions, true, forms);
+    if (!questions.rejects(ErrorKind::ConflictingDeclaration))
+        keepTypesApart(questions, found, forms);
     QSet<QByteArray> called;
     for (const ScannedName &name : names) {
         if (name.uses & CalledInHeader)
             called << name.text;
     }
-    const bool acceptsAnyType = !questions.controls().rejects(Fault::UnknownName);
     QList<Keyword> keywords;
-    for (qsizetype i = 0; i < found.size(); ++i) {
-        const Keyword::Form form = formOf(forms[i], called.contains(found[i]), acceptsAnyType);
-        keywords.append({found[i], form, {}});
-    }
+    for (qsizetype i = 0; i < found.size(); ++i)
+        keywords.append({found[i], formOf(forms[i], called.contains(found[i])), {}});
     measureTypes(questions, keywords, types);
     return keywords;
 }

@@ -27,6 +27,5 @@ QList<Keyword> learnKeywords(const Questions &questions, const QList<ScannedName
 /// Which directories with \a headers the compiler searches by itself, in its order.
 QStringList learnSearchPath(const Questions &questions, const QList<HeaderFile> &headers);
 
-/// Whether the compiler finds any of the headers that every C compiler has (ISO C 4), or does not
-/// tell.
-bool findsStandardHeaders(const Questions &questions);
+/// Whether the compiler finds standard headers, so that it does search directories.
+bool includesStandardHeaders(const Questions &questions);

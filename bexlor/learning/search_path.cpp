@@ -30,17 +30,18 @@ QSet<QString> foundHeaders(const Questions &questions, const QStringList &names)
             conditions << "__has_include(" + inBrackets(name) + ')';
         return setOf(selected(names, questions.conditions(conditions)));
     }
+    if (!questions.rejects(ErrorKind::MissingHeader))
+        return {};
     QList<QByteArray> sources;
     for (const QString &name : names)
         sources << "#include " + inBrackets(name) + "\nint calyx_object;\n";
     const QList<ProbeAnswer> answers = questions.eachAlone(sources);
-    const bool tellsMissing = questions.controls().rejects(Fault::MissingHeader);
     QList<bool> isFound;
     for (qsizetype i = 0; i < names.size(); ++i) {
         // A header that is found and cannot be compiled alone is named with its path.
         const QByteArray messages = answers[i].run.output + answers[i].run.errors;
         const QByteArray name = names[i].toLocal8Bit();
-        isFound << ((tellsMissing && answers[i].compiled()) || messages.contains('/' + name)
+        isFound << (answers[i].compiled() || messages.contains('/' + name)
                     || messages.contains('\\' + name));
     }
     return setOf(selected(names, isFound));
@@ -201,9 +202,13 @@ QStringList learnSearchPath(const Questions &questions, const QList<HeaderFile> 
     return path;
 }
 
-bool findsStandardHeaders(const Questions &questions)
+bool includesStandardHeaders(const Questions &questions)
 {
-    const QStringList headers {u"stddef.h"_s, u"limits.h"_s, u"float.h"_s, u"stdarg.h"_s};
-    return !questions.controls().rejects(Fault::MissingHeader)
-        || !foundHeaders(questions, headers).isEmpty();
+    // That the directive is accepted says little; what it defines can be read back.
+    const std::pair<QByteArray, QByteArray> definedIn[] = {
+        {"limits.h", "CHAR_BIT"}, {"stddef.h", "NULL"}, {"stdio.h", "EOF"}};
+    return std::any_of(std::begin(definedIn), std::end(definedIn), [&questions](const auto &row) {
+        return questions.conditions({"defined " + row.second}, "#include <" + row.first + ">\n")
+            .first();
+    });
 }

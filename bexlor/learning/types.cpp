@@ -9,134 +9,70 @@ const QList<QByteArray> integerTypes {
     "signed char", "unsigned char", "short",     "unsigned short",     "int", "unsigned int",
     "long",        "unsigned long", "long long", "unsigned long long", "char"};
 
-const QByteArray smallEnum = "enum calyx_enum";
-const QByteArray enumDefinition = "enum calyx_enum { CALYX_A };\n";
-
 /// A member of type \a type and the given name.
 QByteArray declared(const QByteArray &type, const QByteArray &name)
 {
     return type.endsWith("(*)(void)") ? "void (*" + name + ")(void)" : type + ' ' + name;
 }
 
-/// 1 for a type with a sign, 2 for one without.
-QByteArray signOf(const QByteArray &type)
+/// What has been read back of an integer type.
+struct Shape
 {
-    return '(' + type + ")-1<0?1:2";
+    std::optional<int> size; ///< in bytes
+    std::optional<bool> isUnsigned;
+};
+
+/// The shapes of \a names behind \a prelude.
+QList<Shape> shapesOf(const Questions &questions, const QByteArray &prelude,
+                      const QList<QByteArray> &names)
+{
+    QList<QByteArray> expressions;
+    for (const QByteArray &name : names)
+        expressions << "sizeof(" + name + ')' << '(' + name + ")-1<0?1:2";
+    const QList<std::optional<int>> values = questions.numbers(prelude, expressions);
+    QList<Shape> shapes;
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        const std::optional<int> sign = values[2 * i + 1];
+        shapes.append({values[2 * i], sign ? std::optional(*sign == 2) : std::nullopt});
+    }
+    return shapes;
 }
 
-/// Which of \a values, those of \a expressions behind \a prelude, are known and not contradicted by
-/// a second observation: a declaration that is valid only with that value. A compiler that accepts
-/// any declaration contradicts nothing.
-QList<bool> seenTwice(const Questions &questions, const QByteArray &prelude,
-                      const QList<QByteArray> &expressions, const QList<std::optional<int>> &values)
+/// The integer type that the standard headers' \a name of \a shape stands for: an object can be
+/// declared again only with the same type. Empty when that is none of those with the same shape, or
+/// when the compiler does not mind and there are several of them.
+QByteArray typeBehind(const Questions &questions, const QByteArray &name, const Shape &shape,
+                      const QList<Shape> &shapesOfTypes)
 {
-    const auto arrayIf = [](const QByteArray &claim, qsizetype number) {
-        return "extern char calyx_claim" + QByteArray::number(number) + "[(" + claim + ")?1:-1];\n";
-    };
-    QList<bool> isSeen;
-    QList<qsizetype> claimed;
-    QList<QByteArray> declarations;
-    for (qsizetype i = 0; i < values.size(); ++i) {
-        isSeen << values[i].has_value();
-        if (!values[i])
+    QList<QByteArray> types, sources;
+    for (qsizetype i = 0; i < integerTypes.size(); ++i) {
+        const Shape &other = shapesOfTypes[i];
+        if (!shape.size || other.size != shape.size || other.isUnsigned != shape.isUnsigned)
             continue;
-        claimed << i;
-        declarations << arrayIf('(' + expressions[i] + ")==" + QByteArray::number(*values[i]), i);
+        types << integerTypes[i];
+        sources << "#include <stddef.h>\nextern " + name + " calyx_object;\nextern "
+                       + integerTypes[i] + " calyx_object;\n";
     }
-    if (!questions.controls().rejects(Fault::NegativeSize))
-        return isSeen;
-    // What is true in any case shows that the compiler can take such a declaration at all.
-    declarations << arrayIf("sizeof(char)==1", values.size());
-    const QList<bool> isAccepted = questions.accepted(prelude, declarations, true);
-    for (qsizetype i = 0; isAccepted.last() && i < claimed.size(); ++i)
-        isSeen[claimed[i]] = isAccepted[i];
-    return isSeen;
+    if (!questions.rejects(ErrorKind::ConflictingDeclaration))
+        return types.size() == 1 ? types.first() : QByteArray();
+    const QList<QByteArray> same = selected(types, questions.acceptedAlone(sources));
+    return same.size() == 1 ? same.first() : QByteArray();
 }
 
-/// The values, from 0 to 65535, of \a expressions that have been seen twice behind \a prelude.
-QList<std::optional<int>> measured(const Questions &questions, const QByteArray &prelude,
-                                   const QList<QByteArray> &expressions)
-{
-    QList<std::optional<int>> values = questions.numbers(prelude, expressions);
-    const QList<bool> isSeen = seenTwice(questions, prelude, expressions, values);
-    for (qsizetype i = 0; i < values.size(); ++i) {
-        if (!isSeen[i])
-            values[i] = std::nullopt;
-    }
-    return values;
-}
-
-/// The integer types with the size and the sign that \a size and \a sign tell; with either, if
-/// there is no sign.
-QList<QByteArray> typesLike(const TypeFacts &types, std::optional<int> size,
-                            std::optional<int> sign)
-{
-    QList<QByteArray> alike;
-    for (const QByteArray &type : integerTypes) {
-        QByteArray name = type;
-        const bool isUnsigned = type.startsWith("unsigned ")
-                             || (type == "char" && types.charIsUnsigned.value_or(false));
-        name.replace("unsigned ", "").replace("signed ", "");
-        if (size && sizeOf(types, name) == *size && (!sign || isUnsigned == (*sign == 2)))
-            alike << type;
-    }
-    return alike;
-}
-
-/// The one of \a types that the standard headers' \a name stands for: an object can be declared
-/// again only with the same type. Empty when it is none of them, or when the compiler does not
-/// mind.
-QByteArray typeBehind(const Questions &questions, const QByteArray &name,
-                      const QList<QByteArray> &types)
-{
-    QList<QByteArray> sources;
-    for (const QByteArray &type : types) {
-        sources << "#include <stddef.h>\nextern " + name + " calyx_object;\nextern " + type
-                       + " calyx_object;\n";
-    }
-    const QList<bool> isSame = questions.acceptedAlone(sources);
-    return isSame.count(true) == 1 ? types[isSame.indexOf(true)] : QByteArray();
-}
-
-/// Finds out what the types behind the standard headers' names are.
+/// The types behind the names of the standard headers. In C++ wchar_t is a type of its own.
 void learnNamedTypes(const Questions &questions, TypeFacts &types)
 {
-    const struct
-    {
-        QByteArray name;
-        QByteArray TypeFacts::*type;
-    } named[] = {{"size_t", &TypeFacts::sizeType},
-                 {"ptrdiff_t", &TypeFacts::pointerDifferenceType},
-                 {"wchar_t", &TypeFacts::wideCharacterType}};
-    QList<QByteArray> expressions;
-    for (const auto &row : named)
-        expressions << "sizeof(" + row.name + ')' << signOf(row.name);
-    const QList<std::optional<int>> values =
-        questions.numbers("#include <stddef.h>\n", expressions);
-    const bool tellsTypes = questions.controls().rejects(Fault::ConflictingDeclarations);
-    auto value = values.begin();
-    for (const auto &row : named) {
-        const std::optional<int> size = value[0], sign = value[1];
-        value += 2;
-        // In C++ the wide character is a type of its own; what can be known is what it is like.
-        const bool isLikeOnly = row.name == "wchar_t" && (questions.isCpp() || !tellsTypes);
-        if (isLikeOnly && size)
-            types.*row.type = typeLike(types, *size, false, sign == 2);
-        else if (tellsTypes)
-            types.*row.type = typeBehind(questions, row.name, typesLike(types, size, sign));
-    }
-}
-
-/// Whether char has no sign, by the type that it may be declared again with, which some compilers
-/// take for the same.
-std::optional<bool> declaredUnsigned(const Questions &questions)
-{
-    if (!questions.controls().rejects(Fault::ConflictingDeclarations))
-        return {};
-    const QList<bool> isSame =
-        questions.accepted({}, {"extern char calyx_u; extern unsigned char calyx_u;\n",
-                                "extern char calyx_s; extern signed char calyx_s;\n"});
-    return isSame[0] != isSame[1] ? std::optional(isSame[0]) : std::nullopt;
+    const Shape wide =
+        shapesOf(questions, questions.isCpp() ? "" : "#include <stddef.h>\n", {"wchar_t"}).first();
+    const QList<Shape> named =
+        shapesOf(questions, "#include <stddef.h>\n", {"size_t", "ptrdiff_t"});
+    const QList<Shape> known = shapesOf(questions, {}, integerTypes);
+    types.sizeType = typeBehind(questions, "size_t", named[0], known);
+    types.pointerDifferenceType = typeBehind(questions, "ptrdiff_t", named[1], known);
+    if (!questions.isCpp())
+        types.wideCharacterType = typeBehind(questions, "wchar_t", wide, known);
+    else if (wide.size && wide.isUnsigned)
+        types.wideCharacterType = typeLike(types, *wide.size, false, *wide.isUnsigned);
 }
 
 ByteOrder byteOrder(const Questions &questions)
@@ -154,38 +90,65 @@ ByteOrder byteOrder(const Questions &questions)
     return bytes.contains("CalyxBou") ? ByteOrder::BigEndian : ByteOrder::Unknown;
 }
 
-/// Measures those of the basic types that the compiler has, an enumeration, and the sign of char.
-void measureBasicTypes(const Questions &questions, TypeFacts &types)
+/// Whether char has no sign: by its value or, where that cannot be read back, by the type that the
+/// compiler takes it for; some do, though it differs from both.
+std::optional<bool> charIsUnsigned(const Questions &questions)
 {
-    const QList<QByteArray> candidates = basicTypes + QList<QByteArray> {smallEnum};
+    if (const auto isUnsigned = shapesOf(questions, {}, {"char"}).first().isUnsigned)
+        return isUnsigned;
+    if (!questions.rejects(ErrorKind::ConflictingDeclaration))
+        return {};
+    const QList<bool> isSame =
+        questions.accepted({}, {"extern char calyx_u; extern unsigned char calyx_u;\n",
+                                "extern char calyx_s; extern signed char calyx_s;\n"});
+    return isSame[0] != isSame[1] ? std::optional(isSame[0]) : std::nullopt;
+}
+
+/// Those of \a types of which the compiler knows the same as has been read back: it rejects an
+/// array of negative size.
+QList<Type> confirmed(const Questions &questions, const QByteArray &prelude,
+                      const QList<Type> &types)
+{
+    if (!questions.rejects(ErrorKind::NegativeArraySize))
+        return types;
+    QList<QByteArray> assertions;
+    for (const Type &type : types) {
+        const QByteArray number = QByteArray::number(assertions.size());
+        assertions << "extern char calyx_" + number + "a[1-2*(sizeof(" + type.name
+                          + ")!=" + QByteArray::number(type.size) + ")];\n";
+    }
+    const QList<bool> isConfirmed = questions.accepted(prelude, assertions);
+    // That a char has one byte is true everywhere; what rejects it tells nothing of the others.
+    return isConfirmed.value(0) ? selected(types, isConfirmed) : types;
+}
+
+/// Those of the basic types that the compiler has, with their sizes and alignments.
+QList<Type> measuredTypes(const Questions &questions)
+{
     // Where a member lies behind a single character tells its alignment.
     QList<QByteArray> structures;
-    for (qsizetype i = 0; i < candidates.size(); ++i) {
+    for (qsizetype i = 0; i < basicTypes.size(); ++i) {
         structures << "struct calyx_" + QByteArray::number(i) + "s { char c; "
-                          + declared(candidates[i], "t") + "; };\n";
+                          + declared(basicTypes[i], "t") + "; };\n";
     }
-    const QList<bool> isKnown = questions.accepted(enumDefinition, structures);
-    QByteArray prelude = enumDefinition;
-    QList<QByteArray> names, expressions {signOf("char")};
-    for (qsizetype i = 0; i < candidates.size(); ++i) {
+    const QList<bool> isKnown = questions.accepted({}, structures);
+    QByteArray prelude;
+    QList<QByteArray> names, expressions;
+    for (qsizetype i = 0; i < basicTypes.size(); ++i) {
         if (!isKnown[i])
             continue;
-        const QByteArray size = "sizeof(" + candidates[i] + ')';
+        const QByteArray size = "sizeof(" + basicTypes[i] + ')';
         prelude += structures[i];
-        names << candidates[i];
+        names << basicTypes[i];
         expressions << size << "sizeof(struct calyx_" + QByteArray::number(i) + "s)-" + size;
     }
-    const QList<std::optional<int>> values = measured(questions, prelude, expressions);
-    // Not every compiler takes the comparison of an unsigned value with 0 for a constant.
-    types.charIsUnsigned =
-        values.first() ? std::optional(values.first() == 2) : declaredUnsigned(questions);
+    const QList<std::optional<int>> values = questions.numbers(prelude, expressions);
+    QList<Type> types;
     for (qsizetype i = 0; i < names.size(); ++i) {
-        const std::optional<int> size = values[2 * i + 1], alignment = values[2 * i + 2];
-        if (names[i] == smallEnum)
-            types.smallEnumSize = size.value_or(0);
-        else if (size && alignment)
-            types.basic.append({names[i], *size, *alignment});
+        if (values[2 * i] && values[2 * i + 1])
+            types.append({names[i], *values[2 * i], *values[2 * i + 1]});
     }
+    return confirmed(questions, prelude, types);
 }
 
 } // namespace
@@ -193,7 +156,12 @@ void measureBasicTypes(const Questions &questions, TypeFacts &types)
 TypeFacts learnTypes(const Questions &questions)
 {
     TypeFacts types;
-    measureBasicTypes(questions, types);
+    types.basic = measuredTypes(questions);
+    types.charIsUnsigned = charIsUnsigned(questions);
+    types.smallEnumSize =
+        questions.numbers("enum calyx_enum { CALYX_A };\n", {"sizeof(enum calyx_enum)"})
+            .first()
+            .value_or(0);
     types.byteOrder = byteOrder(questions);
     learnNamedTypes(questions, types);
     return types;

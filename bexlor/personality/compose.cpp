@@ -1,6 +1,7 @@
 #include "personality.h"
 
 #include "clang.h"
+#include "visible_text.h"
 
 #include <QDir>
 #include <algorithm>
@@ -42,6 +43,12 @@ QList<Option> searchOptions(const Arguments &arguments, const Facts &facts)
     return options;
 }
 
+/// Whether \a macro can be defined by a line of the file.
+bool fitsOnLine(const Macro &macro)
+{
+    return canBeDefined(macro) && !hasControlCharacter(macro.value);
+}
+
 } // namespace
 
 Personality composePersonality(const Arguments &arguments, const Facts &facts,
@@ -52,11 +59,12 @@ Personality composePersonality(const Arguments &arguments, const Facts &facts,
     if (!templateText.isEmpty() && !templateText.endsWith('\n'))
         personality.templateText += '\n';
     MacroFacts &macros = personality.facts.macros;
-    for (const Macro &macro : facts.macros.known) {
-        if (!canBeDefined(macro))
+    macros.known.removeIf([](const Macro &macro) { return hasControlCharacter(macro.name); });
+    for (const Macro &macro : macros.known) {
+        if (!fitsOnLine(macro))
             macros.undetermined << macro.name;
     }
-    macros.known.removeIf([](const Macro &macro) { return !canBeDefined(macro); });
+    macros.known.removeIf([](const Macro &macro) { return !fitsOnLine(macro); });
     for (const QByteArray &option : languageOptions(facts, arguments.isCpp))
         personality.language.append({option});
     for (const Macro &macro : keywordDefinitions(facts))

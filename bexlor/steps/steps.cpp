@@ -3,7 +3,9 @@
 #include "generator_interface.h"
 #include "personality.h"
 #include "probe_options.h"
+#include "refusal.h"
 #include "text_file.h"
+#include "visible_text.h"
 
 #include <QFileInfo>
 
@@ -16,9 +18,11 @@ const int listingTimeLimit = 30'000; // milliseconds
 // Set for tests and measurements: the compiler is asked by probes alone.
 const char *const learnOnly = "BEXLOR_LEARN_ONLY";
 
-QString howItEnded(const platform::ProgramRun &run)
+QString howItEnded(const ProbeAnswer &answer)
 {
-    switch (run.ending) {
+    if (!answer.isAsked)
+        return u"the probe could not be written to the temporary folder"_s;
+    switch (answer.run.ending) {
     case platform::ProgramRun::NotStarted:
         return u"the compiler could not be started"_s;
     case platform::ProgramRun::Crashed:
@@ -28,27 +32,10 @@ QString howItEnded(const platform::ProgramRun &run)
     case platform::ProgramRun::Exited:
         break;
     }
-    return u"the compiler returned %1"_s.arg(run.exitCode);
+    const QString end = u"the compiler returned %1"_s.arg(answer.run.exitCode);
+    return answer.run.exitCode == 0 && answer.leftNothing ? end + " and left no object file"_L1
+                                                          : end;
 }
-
-/// What a compiler that accepts something wrong cannot tell.
-struct FaultRemark
-{
-    Fault fault;
-    const char *text;
-};
-
-const FaultRemark faultRemarks[] = {
-    {Fault::UnknownName,
-     "The compiler accepts unknown types: which keywords are types stays undetermined."},
-    {Fault::ConflictingDeclarations,
-     "The compiler accepts conflicting declarations: which types size_t and ptrdiff_t are stays "
-     "undetermined."},
-    {Fault::NegativeSize,
-     "The compiler accepts arrays of negative size: the sizes of types are measured once only."},
-    {Fault::MissingHeader,
-     "The compiler accepts includes of missing headers: what it searches is not found that way."},
-};
 
 /// Leaves \a command and what it wrote in the working directory.
 void leaveLogs(const QStringList &command, const platform::ProgramRun &run)
@@ -58,9 +45,11 @@ void leaveLogs(const QStringList &command, const platform::ProgramRun &run)
     platform::writeFile(generator::standardError, run.errors);
 }
 
-/// Why the files that the user names cannot be used, or an empty text.
+/// Why \a arguments are refused, or the files that they name cannot be used, or an empty text.
 QString problemWith(const Arguments &arguments)
 {
+    if (const QString reason = refusalReason(arguments); !reason.isEmpty())
+        return reason;
     const QFileInfo destination(QFileInfo(arguments.personality).absolutePath());
     if (!destination.isDir())
         return u"The folder of the personality does not exist: %1"_s.arg(destination.filePath());
@@ -75,6 +64,18 @@ QString problemWith(const Arguments &arguments)
             arguments.substituteHeaders);
     }
     return QString();
+}
+
+/// Leaves those of \a directories out that a line of a personality cannot hold.
+void leaveOutOddDirectories(Progress &progress, QStringList &directories)
+{
+    directories.removeIf([&progress](const QString &directory) {
+        const bool isOdd = !mayStandInPersonality(directory);
+        if (isOdd)
+            progress.say(u"Passed over, since it has a control character in its name: %1"_s.arg(
+                visibleText(directory)));
+        return isOdd;
+    });
 }
 
 /// Whether \a directory should not be given whole.
@@ -125,49 +126,63 @@ void removeLogs()
         QFile::remove(file);
 }
 
-bool checkFiles(Progress &progress, const Arguments &arguments)
+std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arguments)
 {
     const QString problem = problemWith(arguments);
-    if (!problem.isEmpty())
+    if (!problem.isEmpty()) {
         progress.say(problem);
-    return problem.isEmpty();
-}
-
-bool checkCommand(Progress &progress, const Compiler &compiler)
-{
-    const QString option = optionAgainstCompiling(compiler.command);
-    if (!option.isEmpty()) {
-        progress.say(
-            u"The option %1 keeps the compiler from compiling; leave it out."_s.arg(option));
+        return {};
     }
-    return option.isEmpty();
+    const std::pair<QLatin1StringView, QString> unseen[] = {
+        {"Template"_L1, arguments.templateFile},
+        {"Force-include file"_L1, arguments.forceIncludeFile},
+        {"Substitute headers"_L1, arguments.substituteHeaders},
+    };
+    for (const auto &[name, path] : unseen) {
+        if (!path.isEmpty())
+            progress.say(name + ": "_L1 + visibleText(path));
+    }
+    Arguments usable = arguments;
+    leaveOutOddDirectories(progress, usable.headerDirectories);
+    return usable;
 }
 
 std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner)
 {
+    const QString against = optionAgainstObjects(runner.compiler().command);
+    if (!against.isEmpty()) {
+        leaveLogs(runner.command(), {});
+        progress.say(u"With the option %1 the compiler makes no object file. Take it out of the "
+                     "command on the page Compiler Command."_s.arg(against));
+        return {};
+    }
     const ProgressStep step(progress, u"Compiling a first probe ..."_s, &nothing);
-    ProbeAnswer answer = runner.ask(acceptedSource);
-    for (int i = 0; i < triesAfter(answer) && !answer.compiled(); ++i)
-        answer = runner.ask(acceptedSource);
+    const ProbeAnswer answer = runner.ask(acceptedProbe);
     leaveLogs(runner.command(), answer.run);
     if (answer.compiled())
         return answer;
-    progress.say(u"Compiling the first probe failed: %1."_s.arg(
-        answer.isWritten ? howItEnded(answer.run) : u"it could not be written"_s));
+    progress.say(u"Compiling the first probe failed: %1."_s.arg(howItEnded(answer)));
     return {};
 }
 
-Controls askControls(Progress &progress, const ProbeRunner &runner, const ProbeAnswer &first)
+bool checkControls(Progress &progress, ProbeRunner &runner, const ProbeAnswer &first)
 {
-    const ProgressStep step(progress, u"Compiling probes that must be rejected ..."_s,
-                            probesOf(runner));
-    const Controls controls(first,
-                            [&runner](const QByteArray &source) { return runner.ask(source); });
-    for (const FaultRemark &remark : faultRemarks) {
-        if (!controls.rejects(remark.fault))
-            progress.say(QString::fromLatin1(remark.text));
+    const ProgressStep step(progress, u"Compiling control probes ..."_s, &nothing);
+    if (!runner.learnControls(first)) {
+        progress.say(u"The compiler answers the same probe otherwise each time."_s);
+        return false;
     }
-    return controls;
+    const Controls &controls = runner.controls();
+    if (!controls.rejects(ErrorKind::Syntax)) {
+        progress.say(
+            u"The compiler accepts %1, so nothing can be learned from what it accepts."_s.arg(
+                nameOf(ErrorKind::Syntax)));
+        return false;
+    }
+    for (const ErrorKind kind : controls.overlooked)
+        progress.say(u"The compiler accepts %1; what only that would tell is left open."_s.arg(
+            nameOf(kind)));
+    return true;
 }
 
 DialectAnswers askForListings(Progress &progress, const Compiler &compiler,
@@ -266,48 +281,38 @@ SearchPath findSearchPath(Progress &progress, const Questions &questions, const 
                                 probesOf(questions.runner()));
         path.directories = learnSearchPath(questions, scan.headers);
     }
+    leaveOutOddDirectories(progress, path.directories);
+    leaveOutOddDirectories(progress, path.forQuotedNames);
     progress.say(u"Found %1 on the search path."_s.arg(
         counted(path.directories.size(), "directory"_L1, "directories"_L1)));
     return path;
 }
 
-bool knowsEnough(Progress &progress, const Questions &questions, const Facts &facts)
-{
-    bool isEnough = true;
-    if (sizeOf(facts.types, "char") == 0 || sizeOf(facts.types, "int") == 0) {
-        progress.say(u"The types could not be measured: look at the output flag, the object flag "
-                     "and the object file extension on the page \"Compiler Command\"."_s);
-        isEnough = false;
-    }
-    if (facts.searchPath.directories.isEmpty() && findsStandardHeaders(questions)) {
-        progress.say(u"Where the compiler looks for headers was not found: name the directories of "
-                     "its headers on the page \"Search Directories\"."_s);
-        isEnough = false;
-    }
-    if (!isEnough)
-        progress.say(u"Without that there is no personality."_s);
-    return isEnough;
-}
-
 bool worksStill(Progress &progress, const ProbeRunner &runner)
 {
     const ProgressStep step(progress, u"Compiling the first probe again ..."_s, &nothing);
-    const ProbeAnswer again = runner.ask(acceptedSource);
+    const ProbeAnswer again = runner.ask(acceptedProbe);
     if (again.compiled())
         return true;
     leaveLogs(runner.command(), again.run);
-    progress.say(u"The first probe no longer compiles: %1."_s.arg(howItEnded(again.run)));
+    progress.say(u"The compiler no longer answers as it did: %1."_s.arg(howItEnded(again)));
     return false;
 }
 
-void reportMalfunction(Progress &progress, const ProbeRunner &runner,
-                       const Malfunction &malfunction)
+bool checkCompleteness(Progress &progress, const Questions &questions, const Facts &facts)
 {
-    leaveLogs(runner.command(), malfunction.run);
-    progress.say(malfunction.reason.isEmpty()
-                     ? u"A probe was answered as none of the first ones, and again: %1."_s.arg(
-                         howItEnded(malfunction.run))
-                     : malfunction.reason);
+    const bool hasTypes = !facts.types.basic.isEmpty();
+    const bool hasSearchPath =
+        !facts.searchPath.directories.isEmpty() || !includesStandardHeaders(questions);
+    if (!hasTypes) {
+        progress.say(u"The sizes of the types have not been found: constants cannot be read back. "
+                     "Look at the flags and the extension on the page Compiler Command."_s);
+    }
+    if (!hasSearchPath) {
+        progress.say(u"The directories that the compiler searches have not been found, though it "
+                     "finds its headers. Name them on the page Search Directories."_s);
+    }
+    return hasTypes && hasSearchPath;
 }
 
 bool writePersonality(Progress &progress, const Arguments &arguments, const Compiler &compiler,

@@ -2,7 +2,6 @@
 
 #include "dialects.h"
 #include "learning.h"
-#include "malfunction.h"
 #include "progress.h"
 
 #include <optional>
@@ -13,18 +12,16 @@
 /// Removes what an earlier run has left, which would be taken for this one's.
 void removeLogs();
 
-/// Whether the files that the user names can be used.
-bool checkFiles(Progress &progress, const Arguments &arguments);
-
-/// Whether \a compiler's command may compile at all.
-bool checkCommand(Progress &progress, const Compiler &compiler);
+/// \a arguments without the header directories that cannot be used. Nothing when they are refused
+/// or the files that they name cannot be used. Says first which files are used that no page shows.
+std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arguments);
 
 /// What the compiler says to a probe that any compiler accepts. Leaves the logs.
 std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner);
 
-/// What \a runner's compiler, which has answered its first probe with \a first, says to sources
-/// that must be rejected. Throws a Malfunction when that tells nothing.
-Controls askControls(Progress &progress, const ProbeRunner &runner, const ProbeAnswer &first);
+/// Whether the answers of \a runner's compiler, \a first being that to the first probe, can be
+/// trusted as far as is needed: it must reject what is no C.
+bool checkControls(Progress &progress, ProbeRunner &runner, const ProbeAnswer &first);
 
 /// What the compiler lists of itself; \a first may have told its version. \a folder is for the
 /// source that it is given.
@@ -51,17 +48,13 @@ QList<Keyword> findKeywords(Progress &progress, const Questions &questions, cons
 SearchPath findSearchPath(Progress &progress, const Questions &questions, const SearchPath &listed,
                           const HeaderScan &scan);
 
-/// Whether \a facts are enough for a personality: it needs the types, and a search path unless the
-/// compiler has none. Says what is missing, and on which of the wizard's pages that can be mended.
-bool knowsEnough(Progress &progress, const Questions &questions, const Facts &facts);
-
 /// Whether the first probe still compiles: a compiler that has stopped working, for want of a
 /// license or of room on the disk, would be taken for one that rejects everything.
 bool worksStill(Progress &progress, const ProbeRunner &runner);
 
-/// Says why \a malfunction ends the run, and leaves the logs.
-void reportMalfunction(Progress &progress, const ProbeRunner &runner,
-                       const Malfunction &malfunction);
+/// Whether \a facts hold the types, and the search path unless the compiler has none: without them
+/// clang would read code as if it were for another compiler.
+bool checkCompleteness(Progress &progress, const Questions &questions, const Facts &facts);
 
 /// Writes the personality of the compiler of \a facts to where the user wants it, over one that has
 /// been there before.

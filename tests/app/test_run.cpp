@@ -1,4 +1,5 @@
 #include "log_browser.h"
+#include "process_tree.h"
 #include "row.h"
 #include "wizard_test.h"
 
@@ -15,6 +16,8 @@
 namespace {
 
 const QString initial = "Initialising Compiler Personality Generation ...\n";
+// As the only argument: a wizard that has the generator run and waits for nothing else.
+const QString justRun = "run";
 const QString success = "Personality Generated Successfully!";
 const QString failure =
     "Personality Generation Failed!\nPlease check the details on screen and try "
@@ -167,6 +170,20 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(folder.hasStopped("bin/beat"), patience);
     }
 
+    void endsItsGeneratorWhenItIsKilled()
+    {
+        const ProgramFolder folder;
+        ProgramFolder::instruct("child ../child\nbeat beat");
+        QProcess wizard;
+        wizard.start(QCoreApplication::applicationFilePath(), {justRun});
+        for (const char *beat : {"bin/beat", "child"})
+            QTRY_VERIFY_WITH_TIMEOUT(!folder.read(beat).isEmpty(), patience);
+        wizard.kill();
+        wizard.waitForFinished();
+        for (const char *beat : {"bin/beat", "child"})
+            QTRY_VERIFY_WITH_TIMEOUT(folder.hasStopped(beat), patience);
+    }
+
     void canBeLeftWhileAFailureIsShown()
     {
         const ProgramFolder folder;
@@ -207,5 +224,18 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestRun)
+int main(int argc, char *argv[])
+{
+    const platform::ProgramGuard guard; // as in the wizard's program
+    QApplication application(argc, argv);
+    if (application.arguments().value(1) == justRun) {
+        const WizardUser user;
+        user.walkToReview();
+        user.press(QWizard::FinishButton);
+        return application.exec();
+    }
+    TestRun test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "test_run.moc"

@@ -1,8 +1,10 @@
 #include "arguments.h"
 
 #include "host_path.h"
+#include "refusal.h"
 #include "row.h"
 
+#include <QDir>
 #include <QTest>
 
 class TestArguments : public QObject
@@ -49,6 +51,46 @@ private slots:
         QVERIFY(parseArguments(plain()));
         QFETCH(QStringList, list);
         QVERIFY(!parseArguments(list));
+    }
+
+    void refusesWhatIsNotShown_data()
+    {
+        QTest::addColumn<QString>("given"); // in the place of what stands in plain()
+        QTest::addColumn<int>("place");
+        QTest::addColumn<QStringList>("more");
+        QTest::addColumn<QString>("reason"); // how it begins; empty: not refused
+        const QString order = "The order of the compile command does not begin with the command";
+        const QStringList none;
+        row("nothing odd", "cc", 2, QStringList {"-xs", "-a\t-b", "-tpl", "..\\own\\..\\t"}, "");
+        row("flags of a DOS tradition", "/Fo:", 3, none, "");
+        row("nothing to start", "\" \"", 2, none, "There is no compiler command");
+        row("order without the command", "%o%e %s ", 7, none, order);
+        row("command behind another token", "%j %c %s ", 7, none, order);
+        row("path behind a flag", "-o/etc/x", 3, none, "The output flag holds a path");
+        row("path behind a flag's space", "-o ..\\x", 4, none, "The object flag holds a path");
+        row("path that is there", QDir::tempPath(), 5, none, "The define flag holds a path");
+        row("path in the extension", ".o/../x", 6, none, "The object file extension holds a path");
+        row("line feed in a flag", "-c\n-Dx", 4, none, "The object flag holds a control character");
+        row("line feed in a command", "cc\n-Dx", 2, none, "There is a control character in");
+        row("null in a define", "cc", 2, QStringList {"-xd", QString("A=") + QChar(0)},
+            "There is a control character in");
+        row("template outside its folder", "cc", 2,
+            QStringList {"-tpl", "..\\TemplatePersonalities\\a/../../x"},
+            "The template does not lie in the folder TemplatePersonalities");
+        row("line feed in a file's name", "cc", 2, QStringList {"-fi", "x\n-DX"},
+            "The name of the force-include file holds a control character");
+    }
+    void refusesWhatIsNotShown()
+    {
+        QFETCH(QString, given);
+        QFETCH(int, place);
+        QFETCH(QStringList, more);
+        QFETCH(QString, reason);
+        QStringList list = plain() + more;
+        list[place] = given;
+        const QString told = refusalReason(*parseArguments(list));
+        QVERIFY2(reason.isEmpty() ? told.isEmpty() : told.startsWith(reason), qPrintable(told));
+        QVERIFY(!told.contains('\n'));
     }
 };
 

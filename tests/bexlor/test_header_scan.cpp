@@ -103,6 +103,37 @@ private slots:
                                             + folder.filePath("missing")});
     }
 
+    void followsNoLinkOutOfBounds()
+    {
+        if (QDir::separator() != '/')
+            QSKIP("the links and the other file system are those of POSIX systems");
+        const QTemporaryDir folder;
+        writeTestFile(folder.filePath("given/a.h"), "__a\n");
+        writeTestFile(folder.filePath("beside/b.h"), "__b\n");
+        writeTestFile(folder.filePath("given/odd\nname/c.h"), "__c\n");
+        QFile::link("../beside", folder.filePath("given/beside"));
+        QFile::link("../..", folder.filePath("given/up"));
+        QFile::link("/proc/self", folder.filePath("given/process"));
+        QFile::link("/proc/kmsg", folder.filePath("given/kmsg.h"));
+        const HeaderScan scan = scanned({folder.filePath("given")});
+        QCOMPARE(shown(scan), QStringList({"__a:U", "__b:U"}));
+        QStringList passedOver;
+        for (const QString &remark : scan.remarks)
+            passedOver << remark.section('/', -1);
+        QCOMPARE(passedOver, QStringList({"odd\\u000Aname", "up", "kmsg.h", "process"}));
+    }
+
+    void takesDeepFolders()
+    {
+        // So deep that looking at the whole path of each for links would take minutes.
+        const int depth = 1500;
+        const QTemporaryDir folder;
+        const QString deepest = folder.path() + QString("/d").repeated(depth);
+        QVERIFY(QDir().mkpath(deepest));
+        writeTestFile(deepest + "/x.h", "__deep\n");
+        QCOMPARE(shown(scanned({folder.path()})), QStringList({"__deep:U"}));
+    }
+
     void readsFilesOfAnySize()
     {
         const QTemporaryDir folder;

@@ -29,16 +29,8 @@ private:
         Questions questions;
 
         explicit Subject(const QStringList &command, bool isSmall = false)
-            : runner(compiler(command), folder.path(), isSmall), questions(judged(runner))
+            : runner(compiler(command), folder.path(), isSmall), questions(runner)
         { }
-
-        static const ProbeRunner &judged(ProbeRunner &runner)
-        {
-            runner.judgeBy(
-                Controls(runner.ask(acceptedSource),
-                         [&runner](const QByteArray &source) { return runner.ask(source); }));
-            return runner;
-        }
 
         static Compiler compiler(const QStringList &command)
         {

@@ -73,9 +73,8 @@ private slots:
         writeTestFile(folder.filePath("probe.c"), "source");
         writeTestFile(folder.filePath("a listing"), "second");
         writeTestFile(folder.filePath("made/probe.o"), "first");
-        const QStringList files = filesLeftIn(folder.path(), "probe.c");
-        QCOMPARE(bytesOfFiles(files, ".o"), QByteArray("first\nsecond\n"));
-        QCOMPARE(bytesOfFiles(files, ""), QByteArray("second\nfirst\n"));
+        QCOMPARE(bytesLeftIn(folder.path(), "probe.c", ".o"), QByteArray("first\nsecond\n"));
+        QCOMPARE(bytesLeftIn(folder.path(), "probe.c", ""), QByteArray("second\nfirst\n"));
     }
 };
 

@@ -20,6 +20,7 @@ private slots:
         row("word before a space", commandWord(" cc"), "");
         row("quoted word", commandWord("\"C:\\a b\\cc\" -m32"), "C:\\a b\\cc");
         row("word without a closing quote", commandWord("\"C:\\a b\\cc -m"), "C:\\a b\\cc -m");
+        row("word that goes on behind the quote", commandWord("\"gcc\"evil -x"), "gccevil");
         row("command without a space", quotedCommand("cc"), "cc");
         row("command with a space", quotedCommand("cc -m32"), "\"cc -m32\"");
         row("command that begins with a quote", quotedCommand("\"c c\" -m"), "\"c c\" -m");
@@ -53,6 +54,8 @@ private slots:
             QString("cc -o <exe file> -D %1 -c <src file> ").arg("XXX"), "%c %o %e %d %j %s ");
         row("space after the output flag only", defaultOrder(), true, false,
             "cc -o <exe file> -DXXX -c <src file> ", "%c %o %e %d%j %s ");
+        row("what would not be seen", QStringList {"x\u202e\u200b\u3164\u00a0\n\tx", "<src file>"},
+            false, false, "x\\u202E\\u200B\\u3164\\u00A0\\u000A\tx <src file> ", "%s ");
         row("empty", QStringList(), true, true, "", "");
         row("a row that is no item", QStringList {"exe command", "<src file>"}, false, false,
             "exe command <src file> ", "%s ");

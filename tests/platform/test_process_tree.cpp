@@ -91,13 +91,13 @@ private slots:
     void endsWithTheProgramThatStartedIt()
     {
         const QTemporaryDir folder;
-        const QString beat = folder.filePath("beat");
+        const QString beat = folder.filePath("beat"), detached = folder.filePath("detached");
         const QDir temporary(folder.filePath("temporary"));
         QVERIFY(QDir(folder.path()).mkdir("temporary"));
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const char *variable : {"TMPDIR", "TMP", "TEMP"})
             environment.insert(variable, QDir::toNativeSeparators(temporary.path()));
-        environment.insert("STAND_IN", "child " + beat + "\nhang");
+        environment.insert("STAND_IN", "detached " + detached + "\nchild " + beat + "\nhang");
         const QStringList arguments {"kov",
                                      "cmp",
                                      QDir::toNativeSeparators(standIn),
@@ -112,11 +112,13 @@ private slots:
         generator.setProcessEnvironment(environment);
         generator.setWorkingDirectory(folder.path());
         generator.start(QFileInfo(GENERATOR).absoluteFilePath(), arguments);
-        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(beat), patience);
+        for (const QString &path : {beat, detached})
+            QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path), patience);
         QVERIFY(!temporary.entryList(everything).isEmpty());
         generator.kill();
         generator.waitForFinished();
-        QTRY_VERIFY_WITH_TIMEOUT(hasStopped(beat), patience);
+        for (const QString &path : {beat, detached})
+            QTRY_VERIFY_WITH_TIMEOUT(hasStopped(path), patience);
         if (isWindows) {
             // What a killed program leaves is removed by the next.
             environment.insert("STAND_IN", "exit 1");

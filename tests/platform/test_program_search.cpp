@@ -20,7 +20,7 @@ private slots:
     {
         QDir(m_folder.path()).mkpath("tools/folder");
         for (const char *name : {"tools/plain", "tools/dos.com", "tools/script.bat", "here.exe",
-                                 "here.bat", "tools/sub folder/cc"})
+                                 "here.bat", "both.exe", "tools/both", "tools/sub folder/cc"})
             writeTestFile(m_folder.filePath(name));
         QDir::setCurrent(m_folder.path());
     }
@@ -47,6 +47,7 @@ private slots:
         row("suffix .com on the path", "dos", "tools/dos.com");
         row("suffix .bat on the path", "script", "tools/script.bat");
         row("suffix .exe in the current folder", "here", "here.exe");
+        row("both", "both", QDir::separator() == '/' ? "tools/both" : "both.exe");
         row("a folder on the path", "folder", "");
         row("missing", "absent", "");
         row("path with backslashes", "tools\\sub folder\\cc", "tools/sub folder/cc");

@@ -10,6 +10,7 @@
 //     file NAME TEXT    a file
 //     wait NAME         until there is such a file
 //     child NAME        starts itself to do "beat NAME", and does not wait for it
+//     detached NAME     the same, out of reach of who ends what belongs together
 //     beat NAME         makes the file NAME grow for as long as it lives
 //     console           "visible" or "hidden": whether a window shows its console
 //     crash, hang, exit STATUS
@@ -51,6 +52,7 @@ void obey(const std::string &instruction)
     if (word == "print") {
         std::cout << rest << std::endl;
     } else if (word == "bytes") {
+        writeBytes();
         std::cout << unescaped(rest) << std::flush;
         std::this_thread::sleep_for(100ms);
     } else if (word == "lines") {
@@ -68,7 +70,9 @@ void obey(const std::string &instruction)
         while (!std::filesystem::exists(rest))
             std::this_thread::sleep_for(10ms);
     } else if (word == "child") {
-        startAgain("beat " + rest);
+        startAgain("beat " + rest, Belonging::Child);
+    } else if (word == "detached") {
+        startAgain("beat " + rest, Belonging::Detached);
     } else if (word == "beat") {
         for (std::ofstream file(rest);; std::this_thread::sleep_for(10ms))
             file << '.' << std::flush;

@@ -1,6 +1,9 @@
 #include "stand_in_system.h"
 
+#include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
+#include <io.h>
 #include <windows.h>
 
 #include <shellapi.h> // needs the types of the header above
@@ -29,7 +32,12 @@ std::vector<std::string> utf8Arguments(int, char *[])
     return arguments;
 }
 
-void startAgain(const std::string &instructions)
+void writeBytes()
+{
+    _setmode(_fileno(stdout), _O_BINARY);
+}
+
+void startAgain(const std::string &instructions, Belonging belonging)
 {
     wchar_t program[MAX_PATH];
     GetModuleFileNameW(nullptr, program, MAX_PATH);
@@ -37,7 +45,8 @@ void startAgain(const std::string &instructions)
     STARTUPINFOW startup {};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process {};
-    if (CreateProcessW(program, nullptr, nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
+    const DWORD flags = belonging == Belonging::Detached ? DETACHED_PROCESS : 0;
+    if (CreateProcessW(program, nullptr, nullptr, nullptr, TRUE, flags, nullptr, nullptr, &startup,
                        &process)) {
         CloseHandle(process.hThread);
         CloseHandle(process.hProcess);

@@ -137,11 +137,17 @@ QString WizardUser::finish() const
     });
 }
 
+/// The folder of the translations, on whatever drive the working directory is.
+static QString translations()
+{
+    return QCoreApplication::applicationDirPath() + "/..";
+}
+
 Language::Language(const QString &name)
 {
     const QString prefixes[] = {"qt_", "calyx_"};
     for (int i = 0; i < 2 && name != "en"; ++i) {
-        if (!m_translators[i].load(prefixes[i] + name, TRANSLATIONS))
+        if (!m_translators[i].load(prefixes[i] + name, translations()))
             qFatal("no translation %s", qPrintable(prefixes[i] + name));
         QCoreApplication::installTranslator(&m_translators[i]);
     }
@@ -150,7 +156,7 @@ Language::Language(const QString &name)
 QStringList Language::all()
 {
     QStringList names {"en"};
-    for (const QString &file : QDir(TRANSLATIONS).entryList({"calyx_*.qm"}))
+    for (const QString &file : QDir(translations()).entryList({"calyx_*.qm"}))
         names << QFileInfo(file).baseName().section('_', 1);
     return names;
 }

@@ -1,0 +1,125 @@
+#include "refusal.h"
+
+#include "generator_interface.h"
+#include "order_tokens.h"
+#include "visible_text.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const struct Part
+{
+    QLatin1StringView name;
+    QString CommandLayout::*text;
+} parts[] = {
+    {"output flag"_L1, &CommandLayout::outputFlag},
+    {"object flag"_L1, &CommandLayout::objectFlag},
+    {"define flag"_L1, &CommandLayout::defineFlag},
+    {"object file extension"_L1, &CommandLayout::objectExtension},
+};
+
+const struct NamedFile
+{
+    QLatin1StringView name;
+    QString Arguments::*path;
+    QLatin1StringView folder;
+} namedFiles[] = {
+    {"template"_L1, &Arguments::templateFile, generator::templateFolder},
+    {"force-include file"_L1, &Arguments::forceIncludeFile, generator::forceIncludeFolder},
+    {"folder of substitute headers"_L1, &Arguments::substituteHeaders,
+     generator::substituteHeadersFolder},
+};
+
+QString problemWithCommand(const Arguments &arguments)
+{
+    if (QString(arguments.command).remove(u'"').trimmed().isEmpty())
+        return u"There is no compiler command."_s;
+    // Whatever stands first in a compile command is started.
+    const QList<OrderToken> tokens = parseOrderString(arguments.layout.order);
+    if (tokens.isEmpty() || tokens.first().part != CommandPart::Command) {
+        return u"The order of the compile command does not begin with the command: %1"_s.arg(
+            visibleText(arguments.layout.order));
+    }
+    return QString();
+}
+
+/// Whether \a text, which is joined with the name of a probe's file, names a file or folder of its
+/// own. A separator marks an option only where it is the first character.
+bool holdsPath(const QString &text)
+{
+    static const QRegularExpression separator(u"^.+[/\\\\]"_s,
+                                              QRegularExpression::DotMatchesEverythingOption);
+    return text.contains(separator) || (QDir::isAbsolutePath(text) && QFileInfo::exists(text));
+}
+
+QString problemWithParts(const CommandLayout &layout)
+{
+    for (const Part &part : parts) {
+        const QString &text = layout.*part.text;
+        if (hasControlCharacter(text)) {
+            return u"The %1 holds a control character: %2"_s.arg(part.name, visibleText(text));
+        }
+        if (holdsPath(text)) {
+            return u"The %1 holds a path, but the output of a probe belongs in the run's own "
+                   "folder: %2"_s.arg(part.name, visibleText(text));
+        }
+    }
+    return QString();
+}
+
+/// Whether \a path, which begins with the \a folder beside the working directory, leaves it again.
+bool leavesFolder(const QString &path, QLatin1StringView folder)
+{
+    static const QRegularExpression separators(u"[/\\\\]+"_s);
+    const QStringList steps = path.split(separators);
+    return steps.value(0) == ".."_L1 && steps.value(1) == folder && steps.mid(2).contains(".."_L1);
+}
+
+QString problemWithFiles(const Arguments &arguments)
+{
+    for (const NamedFile &file : namedFiles) {
+        const QString &path = arguments.*file.path;
+        if (leavesFolder(path, file.folder)) {
+            return u"The %1 does not lie in the folder %2: %3"_s.arg(file.name, file.folder,
+                                                                     visibleText(path));
+        }
+        if (!path.isEmpty() && !mayStandInPersonality(path)) {
+            return u"The name of the %1 holds a control character: %2"_s.arg(file.name,
+                                                                             visibleText(path));
+        }
+    }
+    return QString();
+}
+
+QString problemWithTexts(const Arguments &arguments)
+{
+    const QStringList texts = QStringList {arguments.command, arguments.personality}
+                            + arguments.defines + arguments.switches;
+    for (const QString &text : texts) {
+        if (hasControlCharacter(text))
+            return u"There is a control character in: %1"_s.arg(visibleText(text));
+    }
+    return QString();
+}
+
+} // namespace
+
+QString refusalReason(const Arguments &arguments)
+{
+    const QStringList problems {problemWithCommand(arguments), problemWithParts(arguments.layout),
+                                problemWithFiles(arguments), problemWithTexts(arguments)};
+    const auto problem = std::find_if(problems.begin(), problems.end(),
+                                      [](const QString &text) { return !text.isEmpty(); });
+    return problem == problems.end() ? QString() : *problem;
+}
+
+bool mayStandInPersonality(const QString &path)
+{
+    return !hasControlCharacter(QDir::current().absoluteFilePath(path));
+}

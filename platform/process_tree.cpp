@@ -1,0 +1,24 @@
+#include "process_tree.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+ProgramGuard::ProgramGuard()
+{
+    begin(QString());
+}
+
+ProgramGuard::ProgramGuard(const QString &folder)
+{
+    const QString temporary = folder + "/temporary"_L1;
+    QDir().mkdir(temporary);
+    // One system or the other, or a compiler from elsewhere, looks at each of these.
+    for (const char *variable : {"TMPDIR", "TMP", "TEMP"})
+        qputenv(variable, QDir::toNativeSeparators(temporary).toLocal8Bit());
+    begin(folder);
+}
+
+} // namespace platform
