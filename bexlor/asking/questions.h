@@ -58,6 +58,9 @@ private:
     QList<std::optional<QByteArray>> arrays(const QByteArray &prelude,
                                             const QList<QByteArray> &elements,
                                             const QByteArray &characters) const;
+    void readContents(const QByteArray &source, const Batch &batch, const ProbeAnswer &first,
+                      const QByteArray &characters,
+                      QList<std::optional<QByteArray>> &contents) const;
     QList<Batch> readBatches(const QByteArray &prelude, const QList<QByteArray> &items,
                              const QList<Batch> &batches, const QByteArray &characters,
                              QList<std::optional<QByteArray>> &contents) const;
@@ -67,5 +70,6 @@ private:
 
     const ProbeRunner &m_runner;
     ConstantSource m_source = ConstantSource::None;
+    bool m_isProven = false; ///< that constants come back from there
     QByteArray m_characters; ///< that the compiler's 256 codes stand for; empty if for themselves
 };

@@ -244,8 +244,9 @@ private slots:
         row("has one licence",
             "mkdir \"$0 seat\" || exit 1\n" + good + "\nstatus=$?\nrmdir \"$0 seat\"\nexit $status",
             "Wrote ");
-        row("has no licence once in a while",
-            "[ $((n % 20)) != 0 ] || { echo no licence >&2; exit 1; }\n" + good, "Wrote ");
+        row("has no licence twice in a row once in a while",
+            "[ $((n % 20)) -gt 1 ] || [ $n = 1 ] || { echo no licence >&2; exit 1; }\n" + good,
+            "Wrote ");
         row("crashes once in a while", "[ $((n % 20)) != 0 ] || kill -SEGV $$\n" + good, "Wrote ");
         row("loses the status", good + " 2>&1 | cat", "Wrote ");
         row("has much to say",
@@ -267,6 +268,8 @@ private slots:
             "no longer answers as it did: the compiler crashed.");
         row("stops midway", "[ $n -lt 60 ] || exit 0\n" + good,
             "no longer answers as it did: the compiler returned 0 and left no object file.");
+        row("drops constants", good + " || exit\n[ $n -lt 60 ] || echo nothing >probe.o",
+            "returned 0 and left out constants of a probe");
         row("takes the temporary folder away",
             "[ $n -lt 60 ] || rm -r \"${0%/*}\"/temporary/*\n" + good,
             "the probe could not be written to the temporary folder.");
