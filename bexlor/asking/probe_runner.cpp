@@ -18,6 +18,10 @@ const int usualTimeLimit = 60'000; // milliseconds for one compilation
 // work twice at a time.
 const int mostMended = 3;
 
+// Clang's (its manual, "Formatting of Diagnostics"), which else stops after 20 errors.
+const QString withoutErrorLimit = u"-ferror-limit=0"_s;
+const int manyErrors = 30;
+
 const ProbeLimits usualLimits {20'000, 500'000};
 const ProbeLimits smallLimits {99, 4000};
 
@@ -68,7 +72,18 @@ bool ProbeRunner::learnControls(const ProbeAnswer &accepted)
     const std::optional<Controls> controls = askControls(ask, accepted);
     m_knowsControls = controls.has_value();
     m_controls = controls.value_or(Controls());
+    if (m_knowsControls)
+        liftErrorLimit();
     return m_knowsControls;
+}
+
+/// Adds the option to the command that makes the compiler name all errors, if it understands it.
+void ProbeRunner::liftErrorLimit()
+{
+    m_compiler.command << withoutErrorLimit;
+    const QByteArray source = rejectedProbe.repeated(manyErrors);
+    if (askOnce(source, CompileTo::Object).lines.size() != manyErrors)
+        m_compiler.command.removeLast();
 }
 
 ProbeAnswer ProbeRunner::ask(const QByteArray &source, CompileTo goal) const

@@ -41,8 +41,9 @@ private:
     ProbeAnswer askIn(const QString &folder, const QByteArray &source, CompileTo goal) const;
     ProbeAnswer askAgain(const ProbeAnswer &first, const QByteArray &source, CompileTo goal) const;
     bool isExpected(const ProbeAnswer &answer) const;
+    void liftErrorLimit();
 
-    const Compiler m_compiler;
+    Compiler m_compiler;
     const QString m_folder;
     const ProbeLimits m_limits;
     Controls m_controls;

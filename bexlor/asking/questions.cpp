@@ -127,9 +127,9 @@ AskProbes Questions::askProbes() const
 }
 
 QList<bool> Questions::accepted(const QByteArray &prelude, const QList<QByteArray> &items,
-                                bool confirmsAlone) const
+                                bool confirms) const
 {
-    return acceptedItems(askProbes(), prelude, items, limits(), confirmsAlone);
+    return acceptedItems(askProbes(), prelude, items, limits(), confirms);
 }
 
 std::optional<QList<bool>> Questions::withoutMessage(const QByteArray &prelude,
@@ -151,12 +151,9 @@ bool Questions::rejects(ErrorKind kind) const
     return m_runner.controls().rejects(kind);
 }
 
-QList<bool> Questions::acceptedAlone(const QList<QByteArray> &sources) const
+QList<bool> Questions::acceptedApart(const QList<QByteArray> &items) const
 {
-    QList<bool> isAccepted;
-    for (const ProbeAnswer &answer : eachAlone(sources))
-        isAccepted << answer.compiled();
-    return isAccepted;
+    return itemsAcceptedApart(askProbes(), {}, items, limits());
 }
 
 /// The bytes of the arrays in \a batch, with which \a source has been compiled.

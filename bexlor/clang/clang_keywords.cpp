@@ -8,7 +8,8 @@ const char *const clangKeywords =
     "asm typeof __asm __asm__ __inline __inline__ __signed __signed__ __const __const__ __volatile "
     "__volatile__ __restrict __restrict__ __extension__ __attribute __attribute__ __alignof "
     "__alignof__ __typeof __typeof__ __auto_type __label__ __thread __real __real__ __imag "
-    "__imag__ __complex __complex__ __builtin_va_list __int128 __int128_t __uint128_t __float128 "
+    "__imag__ __complex __complex__ __builtin_va_list __builtin_va_arg __builtin_offsetof "
+    "__builtin_choose_expr __builtin_types_compatible_p __int128 __int128_t __uint128_t __float128 "
     "_Accum _Fract _Sat __cdecl __stdcall __fastcall __thiscall __vectorcall __null __nullptr "
     "__decltype "
     "_Complex _Imaginary _Atomic _Bool _Noreturn _Static_assert _Generic _Thread_local _Alignas "
@@ -16,9 +17,14 @@ const char *const clangKeywords =
 
 } // namespace
 
+QList<QByteArray> keywordsOfClang()
+{
+    return QByteArray(clangKeywords).split(' ');
+}
+
 QList<Macro> keywordDefinitions(const Facts &facts)
 {
-    const QList<QByteArray> known = QByteArray(clangKeywords).split(' ');
+    const QList<QByteArray> known = keywordsOfClang();
     QList<Macro> definitions;
     // From GCC 11 on this attribute takes arguments ("Common Function Attributes"), for clang it
     // has none.

@@ -1,5 +1,6 @@
 #include "steps.h"
 
+#include "clang.h"
 #include "generator_interface.h"
 #include "personality.h"
 #include "probe_options.h"
@@ -269,7 +270,8 @@ QList<Keyword> findKeywords(Progress &progress, const Questions &questions, cons
                             const Facts &known)
 {
     const ProgressStep step(progress, u"Looking for keywords ..."_s, probesOf(questions.runner()));
-    const QList<Keyword> keywords = learnKeywords(questions, scan.names, known.macros, known.types);
+    const QList<Keyword> keywords =
+        learnKeywords(questions, scan.names, known.macros, known.types, keywordsOfClang());
     progress.say(u"Found %1."_s.arg(counted(keywords.size(), "keyword"_L1, "keywords"_L1)));
     return keywords;
 }
