@@ -25,7 +25,7 @@ QList<QByteArray> keywordsOfClang();
 /// Definitions under which clang reads what the keywords that it lacks are used in.
 QList<Macro> keywordDefinitions(const Facts &facts);
 
-/// Whether \a directory holds a compiler's own headers for the instructions of x86 processors. They
+/// Whether \a directory holds a compiler's own headers for the instructions of its processors. They
 /// consist of calls to functions that are built into that compiler and no other; clang has headers
 /// of the same names and contents, made for itself.
 bool holdsIntrinsics(const QString &directory);

@@ -134,5 +134,9 @@ bool canBeDefined(const Macro &macro)
 
 bool holdsIntrinsics(const QString &directory)
 {
-    return QFileInfo::exists(directory + "/immintrin.h"_L1);
+    static const QLatin1StringView headers[] = {"immintrin.h"_L1, "arm_neon.h"_L1, "arm_acle.h"_L1,
+                                                "altivec.h"_L1, "msa.h"_L1};
+    return std::any_of(std::begin(headers), std::end(headers), [&directory](auto header) {
+        return QFileInfo::exists(directory + u'/' + header);
+    });
 }
