@@ -59,14 +59,11 @@ class Token:
 
 @dataclass(frozen=True)
 class Break:
-    """The characters from start up to end give way to others. They belong to a statement, or to
-    what stands between two braces, that goes from statement_start up to statement_end."""
+    """The characters from start up to end give way to others."""
     kind: str
     start: int
     end: int
     replacement: str
-    statement_start: int
-    statement_end: int
 
     def describe(self, text):
         """The break in words, on one line."""
@@ -146,11 +143,7 @@ class Breaks(list):
         """Adds the break that replaces what goes from the token first to the token last."""
         if first in self.left_alone:
             return
-        start, end = self.statement_start(first), last
-        while self.words[end] not in (";", "{", "}") and end + 1 < len(self.tokens):
-            end += 1
-        self.append(Break(kind, self.tokens[first].start, self.tokens[last].end, replacement,
-                          self.tokens[start].start, self.tokens[end].end))
+        self.append(Break(kind, self.tokens[first].start, self.tokens[last].end, replacement))
 
     def replace_token(self, i):
         token = self.tokens[i]

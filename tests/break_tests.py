@@ -1,4 +1,4 @@
-"""What the tests of a tree reach, line by line, and how they are run."""
+"""The tests of a build, and how they are run."""
 import collections
 import json
 import os
@@ -6,7 +6,6 @@ import signal
 import subprocess
 import tempfile
 import time
-from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 CORES = len(os.sched_getaffinity(0))
@@ -17,19 +16,21 @@ def output_of(*command):
 
 
 def tests_of(build):
-    """Name, command and environment of each test function, from the folder of a build."""
+    """Name, command, environment and the programs of each test function, from the folder of a
+    build."""
     tests = []
     for test in json.loads(output_of("ctest", "--test-dir", build, "--show-only=json-v1"))["tests"]:
         properties = {entry["name"]: entry["value"] for entry in test["properties"]}
         environment = dict(entry.split("=", 1) for entry in properties.get("ENVIRONMENT", []))
-        tests.append({"name": test["name"], "command": test["command"], "environment": environment})
+        tests.append({"name": test["name"], "command": test["command"], "environment": environment,
+                      "programs": [test["command"][0], *properties.get("REQUIRED_FILES", [])]})
     return tests
 
 
 class Run:
     """One run of a test, in a session of its own."""
 
-    def __init__(self, test, place, environment, is_repeated):
+    def __init__(self, test, place, is_repeated):
         self.test, self.is_repeated = test, is_repeated
         self.failure = self.seconds = None
         self.folder = tempfile.TemporaryDirectory(dir=place, prefix="run.",
@@ -39,7 +40,7 @@ class Run:
         self.process = subprocess.Popen(
             test["command"], cwd=self.folder.name, stdin=subprocess.DEVNULL, stdout=self.output,
             stderr=subprocess.STDOUT, start_new_session=True,
-            env=os.environ | test["environment"] | environment
+            env=os.environ | test["environment"]
             | dict.fromkeys(["HOME", "TMPDIR"], self.folder.name))
 
     def has_ended(self):
@@ -61,21 +62,19 @@ class Run:
         self.folder.cleanup()
 
 
-def run_all(tests, place, environment_of=lambda test: {}):
+def run_all(tests, place):
     """Yields a Run of each test as soon as it has passed, hung or failed twice. What is running
     when the caller wants no more is killed. The tests write below the folder place."""
     waiting, running = collections.deque(tests), []
     try:
         while waiting or running:
             while waiting and len(running) < CORES:
-                test = waiting.popleft()
-                running.append(Run(test, place, environment_of(test), is_repeated=False))
+                running.append(Run(waiting.popleft(), place, is_repeated=False))
             time.sleep(0.01)
             for run in [run for run in running if run.has_ended()]:
                 running.remove(run)
                 if run.failure in ("fails", "crashes") and not run.is_repeated:
-                    running.append(Run(run.test, place, environment_of(run.test),
-                                       is_repeated=True))
+                    running.append(Run(run.test, place, is_repeated=True))
                 else:
                     yield run
             # A test may wait for a process to be gone that it has no longer for a child.
@@ -97,56 +96,13 @@ def children_but(runs):
     return set(map(int, children)) - {run.process.pid for run in runs}
 
 
-def reached_lines(data, tree):
-    """Whether the coverage data below a folder say that a line was reached, for each line of the
-    tree that has code: {(file, line): bool}."""
-    counts = list(data.rglob("*.gcda"))
-    for file in counts:
-        notes = Path("/") / file.relative_to(data).with_suffix(".gcno")
-        file.with_suffix(".gcno").symlink_to(notes)
-    reports = output_of("gcov", "--json-format", "--stdout", "--relative-only", "--source-prefix",
-                        tree, *counts)
-    lines = {}
-    for report in reports.splitlines():
-        for file in json.loads(report)["files"]:
-            for line in file["lines"]:
-                place = str(Path(file["file"]).relative_to(tree)), line["line_number"]
-                lines[place] = lines.get(place, False) or line["count"] > 0
-    return lines
-
-
-def sources_with(build, tree):
-    """For each file of the tree the sources that it gets into when they are compiled."""
-    sources = collections.defaultdict(list)
-    for entry in output_of("ninja", "-C", build, "-t", "deps").split("\n\n"):
-        files = [Path(line.strip()) for line in entry.splitlines()[1:]]
-        files = [str(file.relative_to(tree)) for file in files if file.is_relative_to(tree)]
-        for file in files:
-            sources[file].append(files[0])
-    return sources
-
-
-def learn(plain, coverage, tree, place):
-    """The tests, the quickest first, as those of tests_of with their seconds, and which lines of
-    the tree they reach: {file: {line: [index of the test]}}, with all lines that have code. Takes a
-    build for the times and one for the coverage. A test that fails is left out."""
+def learn(build, place):
+    """The tests of a build, the quickest first, as those of tests_of with their seconds. A test
+    that fails is left out."""
     tests = []
-    for run in run_all(tests_of(plain), place):
+    for run in run_all(tests_of(build), place):
         if run.failure:
             print(f"{run.test['name']} is left out: it {run.failure} before anything is broken")
         else:
             tests.append(run.test | {"seconds": run.seconds})
-    tests.sort(key=lambda test: test["seconds"])
-
-    reach = collections.defaultdict(lambda: collections.defaultdict(list))
-    with tempfile.TemporaryDirectory(dir=place, prefix="reached.") as folder:
-        data = {test["name"]: Path(folder) / test["name"] for test in tests}
-        covered = [test for test in tests_of(coverage) if test["name"] in data]
-        for _ in run_all(covered, place, lambda test: {"GCOV_PREFIX": str(data[test["name"]])}):
-            pass
-        with ThreadPoolExecutor(CORES) as pool:
-            found = pool.map(lambda test: reached_lines(data[test["name"]], tree), tests)
-            for i, lines in enumerate(found):
-                for (file, line), is_reached in lines.items():
-                    reach[file][str(line)] += [i] if is_reached else []
-    return tests, reach
+    return sorted(tests, key=lambda test: test["seconds"])

@@ -1,48 +1,34 @@
 #include "compiler_catalogue.h"
 #include "files.h"
-#include "log_browser.h"
-#include "row.h"
 #include "save_compiler_details.h"
 #include "wizard_test.h"
-
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDir>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMenu>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTest>
-#include <QTextEdit>
-#include <QTimer>
 
 namespace {
 
 CompilerRecord compiler(const QString &name, const QString &isCross, const QString &templateValue)
 {
-    CompilerRecord record;
-    record.Name = name;
-    record.Family = "Family";
-    record.ExeCommand = "cc -m32";
-    record.CrossCompiler = isCross;
-    record.OutputFlag = "-o";
-    record.Order = "%c %s %o%e ";
-    record.ReduceFileSize = "yes";
-    record.CompilerDefines = "A=1,B";
-    record.Template = templateValue;
-    return record;
+    return {.Name = name,
+            .Family = "Family",
+            .ExeCommand = "cc -m32",
+            .CrossCompiler = isCross,
+            .OutputFlag = "-o",
+            .Order = "%c %s %o%e ",
+            .ReduceFileSize = "yes",
+            .CompilerDefines = "A=1,B",
+            .Template = templateValue};
 }
 
-void writeCatalogue(const ProgramFolder &folder)
+/// A program folder with a catalogue.
+struct CatalogueFolder : ProgramFolder
 {
-    const CompilerCatalogue catalogue {{"Family"},
-                                       {compiler("a - C", "no", "t"),
-                                        compiler("b - C++", "yes", ""),
-                                        compiler("get", "no", "Integration - g&t.exe")}};
-    folder.write("bin/compilers.txt", catalogueText(catalogue));
-}
+    CatalogueFolder()
+    {
+        write("bin/compilers.txt",
+              catalogueText({{"Family"},
+                             {compiler("a - C", "no", "t"), compiler("b - C++", "yes", ""),
+                              compiler("get", "no", "Integration - g&t.exe")}}));
+    }
+};
 
 /// Opens the Exe Command menu, walks into the family's sub-menu and chooses a compiler with Enter.
 void choose(const WizardUser &user, int item)
@@ -59,6 +45,11 @@ void choose(const WizardUser &user, int item)
     user.click(user->ExeCommandBtn);
 }
 
+QList<QAction *> itemsOf(const WizardUser &user, int family)
+{
+    return user->ExeCommandBtn->menu()->actions().at(family)->menu()->actions();
+}
+
 } // namespace
 
 class TestCatalogue : public QObject
@@ -68,8 +59,7 @@ class TestCatalogue : public QObject
 private slots:
     void fillsThePages()
     {
-        const ProgramFolder folder;
-        writeCatalogue(folder);
+        const CatalogueFolder folder;
         const WizardUser user;
         user->showPage(user->Page1);
         user->CmpExeFlagChkBox->setChecked(true);
@@ -87,8 +77,7 @@ private slots:
 
     void resetsAConflictingCompiler()
     {
-        const ProgramFolder folder;
-        writeCatalogue(folder);
+        const CatalogueFolder folder;
         const WizardUser user;
         user->applyCatalogueCompiler("Family", "a - C");
         user->CmpSwtchEdit->setPlainText("-x");
@@ -99,9 +88,7 @@ private slots:
         QCOMPARE(user->CmpExeEdit->text() + user->CmpExeFlagEdit->text(), "");
         QCOMPARE(rows(user->CmpOrderListBox).size(), 6);
         QCOMPARE(user->CmpSwtchEdit->toPlainText(), "-x");
-        const QList<QAction *> items =
-            user->ExeCommandBtn->menu()->actions().at(0)->menu()->actions();
-        QVERIFY(!items.at(0)->isEnabled() && items.at(1)->isEnabled());
+        QVERIFY(!itemsOf(user, 0).at(0)->isEnabled() && itemsOf(user, 0).at(1)->isEnabled());
         QCOMPARE(messageOf([&] { user.click(user->KOVPPRadioButton); }), "");
         user->applyCatalogueCompiler("Family", "b - C++");
         QCOMPARE(messageOf([&] { user.click(user->KOVRadioButton); }),
@@ -114,8 +101,7 @@ private slots:
 
     void leavesForADownload()
     {
-        const ProgramFolder folder;
-        writeCatalogue(folder);
+        const CatalogueFolder folder;
         QFile::copy(folder.path("tools/Bexlor.exe"), folder.path("tools/xdg-open"));
         const WizardUser user;
         user->showPage(user->Page1);
@@ -134,8 +120,8 @@ private slots:
 
     void keepsWhatIsSaved()
     {
-        const ProgramFolder folder;
-        writeCatalogue(folder);
+        const CatalogueFolder folder;
+        const QString file = folder.path("bin/compilers.txt");
         const WizardUser user;
         user.walkToReview();
         user.finish();
@@ -149,7 +135,7 @@ private slots:
                            if (dialog->isVisible())
                                dialog->buttonOk->click();
                        });
-            return parseCatalogue(readTestFile(folder.path("bin/compilers.txt")));
+            return parseCatalogue(readTestFile(file));
         };
         // Over the chosen one, whose name and files stay.
         CompilerCatalogue saved = save([](SaveCompilerDetails &) {});
@@ -169,9 +155,7 @@ private slots:
         QCOMPARE(saved.families, QStringList({"Family", "Fam & Co"}));
         QCOMPARE(saved.compilers.size(), 4);
         QCOMPARE(saved.compilers.last(), expected);
-        const QAction *item = user->ExeCommandBtn->menu()->actions().at(1)->menu()->actions().at(0);
-        QCOMPARE(item->text(), "dd - C++");
-        QVERIFY(!item->isEnabled());
+        QVERIFY(!itemsOf(user, 1).at(0)->isEnabled());
         QVERIFY(user->DetailsText->toPlainText().endsWith(
             "\nCompiler Saved: a - C\nCompiler Saved: dd - C++"));
 
@@ -185,7 +169,7 @@ private slots:
         folder.write("bin/compilers.txt", QByteArray("\xff\xfe<\0C\0", 6));
         QVERIFY(
             messageOf([&] { QVERIFY(!user->saveCatalogue()); }).contains("cannot be read whole"));
-        QCOMPARE(readTestFile(folder.path("bin/compilers.txt")).size(), 6);
+        QCOMPARE(readTestFile(file).size(), 6);
     }
 };
 

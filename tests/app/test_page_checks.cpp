@@ -1,13 +1,4 @@
-#include "row.h"
 #include "wizard_test.h"
-
-#include <QCheckBox>
-#include <QDir>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
-#include <QTest>
 
 namespace {
 
@@ -21,11 +12,6 @@ QColor textColour(const QLineEdit *edit)
     return edit->palette().color(QPalette::Text);
 }
 
-QString pick(const WizardUser &user, QPushButton *button, const QString &path)
-{
-    return withFileDialog([&] { user.click(button); }, path);
-}
-
 } // namespace
 
 class TestPageChecks : public QObject
@@ -35,10 +21,7 @@ class TestPageChecks : public QObject
 private slots:
     void checksTheDestination_data()
     {
-        QTest::addColumn<QString>("destination");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("exists");
-        QTest::addColumn<bool>("next");
+        const Columns<QString, QString, bool, bool> row("destination", "name", "exists", "next");
         row("folder", "..\\out", "mine", true, true);
         row("file", "..\\tools\\cc", "mine", true, true);
         row("no name", "..\\out", "", true, false);
@@ -66,8 +49,7 @@ private slots:
 
     void checksTheCommand_data()
     {
-        QTest::addColumn<QString>("command");
-        QTest::addColumn<QString>("problem"); // empty: none
+        const Columns<QString, QString> row("command", "problem");
         row("found", "cc -c", "");
         row("not found", "dd -c", notOnPath);
         row("placeholder", "cc <specify device>", specify);
@@ -157,27 +139,32 @@ private slots:
     {
         const ProgramFolder folder;
         const WizardUser user;
-        QListWidget *list = user->CmpHdrDirListBox;
         const QString out = folder.path("out").replace('/', '\\');
         const QString tools = folder.path("tools").replace('/', '\\');
+        // Returns the folder that the dialog opens in.
+        const auto pick = [&](QPushButton *button, const QString &name) {
+            const QString path = name.isEmpty() ? QString() : folder.path(name);
+            return withFileDialog([&] { user.click(button); }, path).section('/', -1);
+        };
         user.type(user->PersonNameEdit, "mine");
-        pick(user, user->PersonDestBrowseBtn, folder.path("out"));
+        pick(user->PersonDestBrowseBtn, "out");
         QCOMPARE(user->PersonDestEdit->text(), out);
         QVERIFY(user.nextIsEnabled());
-        QCOMPARE(pick(user, user->PersonDestBrowseBtn, QString()), folder.path("out"));
-        QCOMPARE(user->PersonDestEdit->text(), QString());
+        QCOMPARE(pick(user->PersonDestBrowseBtn, ""), "out");
+        QCOMPARE(user->PersonDestEdit->text(), "");
 
+        QListWidget *list = user->CmpHdrDirListBox;
         user->showPage(user->Page2);
-        pick(user, user->CmpHdrDirAddBtn, folder.path("out"));
-        pick(user, user->CmpHdrDirAddBtn, folder.path("out"));
-        pick(user, user->CmpHdrDirAddBtn, QString());
+        pick(user->CmpHdrDirAddBtn, "out");
+        pick(user->CmpHdrDirAddBtn, "out");
+        pick(user->CmpHdrDirAddBtn, "");
         list->setCurrentRow(-1);
-        pick(user, user->CmpHdrDirEditBtn, folder.path("tools"));
-        QCOMPARE(pick(user, user->CmpHdrDirAddBtn, QString()), folder.path("tools"));
+        pick(user->CmpHdrDirEditBtn, "tools");
+        QCOMPARE(pick(user->CmpHdrDirAddBtn, ""), "tools");
         user.click(user->CmpHdrDirDeleteBtn);
         QCOMPARE(rows(list), QStringList({out, out}));
         list->setCurrentRow(1);
-        QCOMPARE(pick(user, user->CmpHdrDirEditBtn, folder.path("tools")), folder.path("out"));
+        QCOMPARE(pick(user->CmpHdrDirEditBtn, "tools"), "out");
         QCOMPARE(rows(list), QStringList({out, tools}));
         list->setCurrentRow(0);
         user.click(user->CmpHdrDirDeleteBtn);

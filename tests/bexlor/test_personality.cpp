@@ -5,10 +5,6 @@
 #include "files.h"
 #include "row.h"
 
-#include <QDir>
-#include <QTemporaryDir>
-#include <QTest>
-
 namespace {
 
 /// The macros that clang has with the personality \a text, in the language of \a source.
@@ -37,6 +33,7 @@ Personality fullPersonality()
     arguments.forceIncludeFile = "/first \"one\".h";
     arguments.substituteHeaders = QString::fromUtf8("/gr\303\266\303\237e \\x");
     arguments.headerDirectories = QStringList {"/usr/include"};
+    arguments.answers = {"/x", {"", "a\nb \\ \"c\"", QString::fromUtf8("\303\274\t")}};
     Facts facts;
     facts.versionLine = "cc \377 1.2, size 3";
     facts.macros.known = {{"A", "\"a \\\"b\\\" \\\\\" = 1"}, {"F(a,b)", "a##b #a"}, {"EMPTY", ""}};
@@ -97,7 +94,7 @@ private slots:
 
     void makesClangSeeTheListedMacros_data()
     {
-        QTest::addColumn<QString>("command");
+        const Columns<QString> row("command");
         row("gcc for 32 bits", "gcc -m32 -std=c99 -x c");
         row("cross compiler", "arm-none-eabi-gcc -x c");
         row("clang", "clang -x c");

@@ -3,22 +3,14 @@
 #include "row.h"
 #include "sub_popup_menu.h"
 
-#include <QTest>
-
 namespace {
 
-CompilerRecord compiler(const QString &name, const QString &family)
-{
-    CompilerRecord record;
-    record.Name = name;
-    record.Family = family;
-    return record;
-}
-
 const CompilerCatalogue catalogue {{"Alpha & Co", "Beta", "Plus", "Empty"},
-                                   {compiler("a - C", "Alpha & Co"),
-                                    compiler("a&b - C++", "Alpha & Co"), compiler("XC", "Beta"),
-                                    compiler("p - C++", "Plus"), compiler("orphan", "Gamma")}};
+                                   {{"a - C", "Alpha & Co"},
+                                    {"a&b - C++", "Alpha & Co"},
+                                    {"XC", "Beta"},
+                                    {"p - C++", "Plus"},
+                                    {"orphan", "Gamma"}}};
 
 QString shownItem(const QAction *action)
 {
@@ -43,17 +35,12 @@ class TestMenu : public QObject
 private slots:
     void offersWhatIsForTheProduct_data()
     {
-        QTest::addColumn<QString>("familySet");
-        QTest::addColumn<QString>("product");
-        QTest::addColumn<QStringList>("shown"); // with "-" where disabled
-        row("C", "", "kov",
-            QStringList {"Alpha && Co", "a - C", "-a&&b - C++", "Beta", "XC", "-Plus", "-p - C++",
-                         "-Empty"});
-        row("C++", "", "kovpp",
-            QStringList {"Alpha && Co", "-a - C", "a&&b - C++", "Beta", "XC", "Plus", "p - C++",
-                         "-Empty"});
+        // What is shown has "-" before it where it is disabled.
+        const Columns<QString, QString, QString> row("familySet", "product", "shown");
+        row("C", "", "kov", "Alpha && Co|a - C|-a&&b - C++|Beta|XC|-Plus|-p - C++|-Empty");
+        row("C++", "", "kovpp", "Alpha && Co|-a - C|a&&b - C++|Beta|XC|Plus|p - C++|-Empty");
         row("some families", "x;Empty;beta;Alpha & Co", "kov",
-            QStringList {"Alpha && Co", "a - C", "-a&&b - C++", "-Empty"});
+            "Alpha && Co|a - C|-a&&b - C++|-Empty");
     }
     void offersWhatIsForTheProduct()
     {
@@ -72,7 +59,7 @@ private slots:
             for (const QAction *action : family->menu()->actions())
                 shown << shownItem(action);
         }
-        QTEST(shown, "shown");
+        QTEST(shown.join('|'), "shown");
     }
 
     void handsTheChoiceOn()
@@ -87,10 +74,7 @@ private slots:
 
     void tellsLanguages_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("product");
-        QTest::addColumn<bool>("offered");
-        QTest::addColumn<bool>("conflicts");
+        const Columns<QString, QString, bool, bool> row("name", "product", "offered", "conflicts");
         row("C++ under KOV", "C++", "kov", false, true);
         row("x - C++ under KOV", "x - C++", "kov", false, true);
         row("x C++ under KOV", "x C++", "kov", true, true);

@@ -4,8 +4,6 @@
 #include "order_tokens.h"
 #include "row.h"
 
-#include <QTest>
-
 namespace {
 
 /// The command by which Bexlor compiles a probe with \a record, as one line.
@@ -32,7 +30,7 @@ private slots:
     // As the makers' manuals show them.
     void compilesAsTheManualsSay_data()
     {
-        QTest::addColumn<QString>("command");
+        const Columns<QString> row("command");
         row("gcc - C", "gcc -o probe.o -DA=1 -c probe.c");
         row("cl - C", "cl /nologo /c /Foprobe.obj /DA=1 probe.c");
         row("clang-cl - C++", "clang-cl /nologo /c /Foprobe.obj /DA=1 probe.c");

@@ -1,14 +1,13 @@
 // A library that stands before that of the system. It is linked to the program that tries saves,
-// and loaded before the generator: there the variables FAULT_CALL, FAULT_ERROR and FAULT_MARK, a
-// file that is made when a call fails, say what beginFault() is told, and FAULT_PROGRAM in which
-// program.
+// and loaded before the generator: there the variables FAULT_CALL and FAULT_ERROR say what
+// beginFault() is told, FAULT_PROGRAM in which program, and FAULT_MARK names a file that is made
+// when the call fails.
 #include "faulty_calls.h"
 
 #include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
@@ -19,8 +18,8 @@
 
 namespace {
 
-Fault fault;
-std::atomic<bool> isOn = false, failed = false;
+int faultyCall = 0, faultyError = 0;
+std::atomic<bool> failed = false;
 std::atomic<int> calls = 0;
 pid_t owner = 0; // a process that it forks has calls of its own
 
@@ -40,18 +39,18 @@ void leaveMark()
 /// Whether the call that begins here is to fail; errno is set then.
 bool fails(Change change)
 {
-    if (!isOn || getpid() != owner)
+    if (getpid() != owner)
         return false;
-    const bool isMeant = ++calls == fault.call;
-    const bool isAfter = failed && lasts(fault.error) && change == Change::OfDisk;
+    const bool isMeant = ++calls == faultyCall;
+    const bool isAfter = failed && lasts(faultyError) && change == Change::OfDisk;
     if (!isMeant && !isAfter)
         return false;
     if (!failed.exchange(true))
         leaveMark();
-    if (fault.error == killHere)
+    if (faultyError == killHere)
         kill(getpid(), SIGKILL);
-    errno = fault.error;
-    return fault.error > 0 && (change == Change::OfDisk || !lasts(fault.error));
+    errno = faultyError;
+    return faultyError > 0 && (change == Change::OfDisk || !lasts(faultyError));
 }
 
 /// Pipes and terminals know no full disk.
@@ -69,18 +68,13 @@ Function *real(Function *, const char *name)
     return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
 }
 
-struct Environment
+[[gnu::constructor]] void obeyTheEnvironment()
 {
-    Environment()
-    {
-        const char *program = getenv("FAULT_PROGRAM"), *call = getenv("FAULT_CALL"),
-                   *error = getenv("FAULT_ERROR");
-        if (!program || !call || !error || std::strcmp(program, program_invocation_short_name) != 0)
-            return;
-        const Fault given {std::atoi(call), std::atoi(error)};
-        beginFault(&given);
-    }
-} environment;
+    const char *program = getenv("FAULT_PROGRAM"), *call = getenv("FAULT_CALL"),
+               *error = getenv("FAULT_ERROR");
+    if (program && call && error && std::strcmp(program, program_invocation_short_name) == 0)
+        beginFault(std::atoi(call), std::atoi(error));
+}
 
 mode_t modeOf(int flags, va_list arguments)
 {
@@ -132,25 +126,23 @@ extern "C" ssize_t read(int file, void *bytes, std::size_t size)
 
 extern "C" ssize_t write(int file, const void *bytes, std::size_t size)
 {
-    const bool wasWhole = calls < fault.call;
+    const bool isBefore = calls < faultyCall;
     if (isFile(file) && fails(Change::OfDisk))
         return -1;
-    const bool isShort = isOn && fault.error == writeLess && wasWhole && calls >= fault.call;
+    const bool isShort = faultyError == writeLess && isBefore && calls >= faultyCall;
     return real(&write, "write")(file, bytes, isShort && size > 1 ? size / 2 : size);
 }
 
-extern "C" void beginFault(const Fault *given)
+void beginFault(int call, int error)
 {
-    fault = *given;
+    faultyCall = call;
+    faultyError = error;
     calls = 0;
     failed = false;
     owner = getpid();
-    isOn = true;
 }
 
-extern "C" int endFault(bool *hasFailed)
+bool hasFaulted()
 {
-    isOn = false;
-    *hasFailed = failed;
-    return calls;
+    return failed;
 }

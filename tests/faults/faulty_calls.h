@@ -1,18 +1,13 @@
 #pragma once
 
-/// Calls of the system that fail when they are told to, those that open, read, write, name and
-/// remove files.
-struct Fault
-{
-    int call = 0;  ///< which of the calls fails, from 1 on; 0 for none
-    int error = 0; ///< with which value of errno, or one of those below
-};
-
+// In the place of a value of errno:
 const int killHere = -1;
 const int writeLess = -2; ///< a write takes only a half; other calls are not touched
 
-/// Lets the calls of this process, from now on, be counted, and one of them fail once. With ENOSPC,
+/// Lets, of the calls of this process to the system from now on that open, read, write, name and
+/// remove files, the one with the number \a call, from 1 on, fail with \a error. With ENOSPC,
 /// EDQUOT and EROFS the later ones that would change something on the disk fail, too.
-extern "C" void beginFault(const Fault *fault);
-/// How many calls there have been since, and whether one has failed.
-extern "C" int endFault(bool *hasFailed);
+void beginFault(int call, int error);
+
+/// Whether there has been such a call.
+bool hasFaulted();

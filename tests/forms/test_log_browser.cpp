@@ -1,11 +1,23 @@
 #include "log_browser.h"
 #include "row.h"
 
-#include <QBuffer>
 #include <QScrollBar>
-#include <QTest>
 #include <QTextBlock>
 #include <QTextLayout>
+
+namespace {
+
+/// A small one that is shown.
+struct ShownBrowser : LogBrowser
+{
+    ShownBrowser()
+    {
+        resize(200, 100);
+        show();
+    }
+};
+
+} // namespace
 
 class TestLogBrowser : public QObject
 {
@@ -14,9 +26,7 @@ class TestLogBrowser : public QObject
 private slots:
     void startsParagraphsWhereTheLastHasText_data()
     {
-        QTest::addColumn<QString>("first");
-        QTest::addColumn<QString>("second");
-        QTest::addColumn<QString>("shown");
+        const Columns<QString, QString, QString> row("first", "second", "shown");
         row("text after text", "one", "two", "one\ntwo");
         row("text after a line feed", "one\n", "two", "one\ntwo");
         row("text after an empty line", "one\n\n", "two", "one\n\ntwo");
@@ -36,20 +46,17 @@ private slots:
 
     void breaksAReviewAtSpacesOnly()
     {
-        LogBrowser browser;
-        browser.resize(200, 100);
+        ShownBrowser browser;
         const QString text = "arm-none-eabi-gcc -mcpu=cortex-m4 -mfloat-abi=hard -DA=1 -c\n\n"
                              "-I/a/path/that/is/longer/than/the/whole/line-of-200-pixels/is -x";
         browser.setReview(text);
-        browser.show();
         QCOMPARE(browser.toPlainText(), text);
         int lines = 0;
         for (QTextBlock block = browser.document()->begin(); block.isValid();
              block = block.next()) {
-            const QTextLayout *layout = block.layout();
-            for (int line = 0; line < layout->lineCount(); ++line, ++lines) {
-                const int end =
-                    layout->lineAt(line).textStart() + layout->lineAt(line).textLength();
+            for (int line = 0; line < block.layout()->lineCount(); ++line, ++lines) {
+                const QTextLine broken = block.layout()->lineAt(line);
+                const int end = broken.textStart() + broken.textLength();
                 QVERIFY(end == block.text().size() || block.text()[end - 1] == ' ');
             }
         }
@@ -65,9 +72,7 @@ private slots:
 
     void savesAllThatCame_data()
     {
-        QTest::addColumn<QString>("piece");
-        QTest::addColumn<int>("pieces");
-        QTest::addColumn<bool>("showsAll");
+        const Columns<QString, int, bool> row("piece", "pieces", "showsAll");
         row("a long line", QString("0123456789").repeated(1000), 3, true);
         row("a long text", QString("a line of a long text\n").repeated(1000), 60, true);
         row("more than can be shown", QString("\n").repeated(20'000), 100, false);
@@ -77,9 +82,7 @@ private slots:
         QFETCH(QString, piece);
         QFETCH(int, pieces);
         QFETCH(bool, showsAll);
-        LogBrowser browser;
-        browser.resize(200, 100);
-        browser.show();
+        ShownBrowser browser;
         browser.setText("first\n");
         for (int i = 0; i < pieces; ++i)
             browser.write(piece);
@@ -87,7 +90,7 @@ private slots:
         QBuffer saved;
         QVERIFY(saved.open(QIODevice::WriteOnly) && browser.save(saved));
         const QByteArray all = "first\n" + piece.repeated(pieces).toLocal8Bit();
-        QVERIFY(saved.data().startsWith(all.left(all.size() - 1)) && saved.data().endsWith("last"));
+        QVERIFY(saved.data().startsWith(all.chopped(1)) && saved.data().endsWith("last"));
         QVERIFY(saved.size() - all.size() <= 5);
         const QString shown = browser.toPlainText();
         QVERIFY(shown.endsWith("\nlast"));
@@ -97,9 +100,7 @@ private slots:
 
     void keepsThePlaceOfAReader()
     {
-        LogBrowser browser;
-        browser.resize(200, 100);
-        browser.show();
+        ShownBrowser browser;
         browser.setText(QString("line\n").repeated(100));
         QScrollBar *scrollBar = browser.verticalScrollBar();
         scrollBar->setValue(scrollBar->maximum());

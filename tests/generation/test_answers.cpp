@@ -8,8 +8,6 @@
 #include "row.h"
 #include "settings_text.h"
 
-#include <QTest>
-
 namespace {
 
 /// Everything that a settings file says of \a answers, keys that it never holds included.
@@ -44,18 +42,16 @@ private slots:
     // else.
     void goEveryWay_data()
     {
+        // The lines of the settings file and of the catalogue, if there is one; all of the
+        // generator's arguments; whether it is on a page, and whether a compiler of the other
+        // language resets it.
+        const Columns<QString, QString, QString, bool, bool> add("lines", "recordLine", "arguments",
+                                                                 "isSeen", "isReset");
         enum { Unseen = 0, Seen = 1, Reset = 2 };
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QString>("lines");      // of the settings file
-        QTest::addColumn<QString>("recordLine"); // of the catalogue; empty: none
-        QTest::addColumn<QString>("arguments");  // all of the generator's
-        QTest::addColumn<bool>("isSeen");        // on a page
-        QTest::addColumn<bool>("isReset");       // with a compiler of the other language
-        const auto row = [](const char *key, const QString &lines, const QString &recordLine,
-                            const char *argument, const char *inItsPlace, int flags) {
-            QTest::newRow(key) << QString(key) << lines << recordLine
-                               << QString(noArguments).replace(argument, inItsPlace)
-                               << bool(flags & Seen) << bool(flags & Reset);
+        const auto row = [&add](const char *key, const QString &lines, const QString &recordLine,
+                                const char *argument, const char *inItsPlace, int flags) {
+            add(key, lines, recordLine, QString(noArguments).replace(argument, inItsPlace),
+                flags & Seen, flags & Reset);
         };
         row("Product:", "kovpp\n", "", "|kov|", "|kovpp|", Seen);
         row("Personality Destination Directory:", "D\n", "", "|\\.p_c", "|D\\.p_c", Seen);
@@ -88,11 +84,11 @@ private slots:
     }
     void goEveryWay()
     {
-        QFETCH(QString, key);
         QFETCH(QString, lines);
         QFETCH(QString, recordLine);
         QFETCH(bool, isSeen);
         QFETCH(bool, isReset);
+        const QString key = QTest::currentDataTag();
         const Answers none = unanswered();
         const auto isRecorded = [&recordLine](const CompilerRecord &record) {
             return catalogueText({{}, {record}}).contains("  " + recordLine.toUtf8() + "</");

@@ -1,9 +1,7 @@
 #include "program_folder.h"
 
 #include "files.h"
-
-#include <QTemporaryDir>
-#include <QTest>
+#include "row.h"
 
 class TestProgramFolder : public QObject
 {

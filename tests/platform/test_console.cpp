@@ -2,9 +2,6 @@
 #include "program_run.h"
 #include "row.h"
 
-#include <QDir>
-#include <QTemporaryDir>
-#include <QTest>
 #include <windows.h>
 
 class TestConsole : public QObject
@@ -18,7 +15,7 @@ private slots:
 
     void staysOffTheScreen_data()
     {
-        QTest::addColumn<QString>("program");
+        const Columns<QString> row("program");
         row("program", "compiler.exe");
         row("batch file", "compiler.bat");
     }

@@ -2,11 +2,6 @@
 #include "row.h"
 #include "text_file.h"
 
-#include <QDir>
-#include <QTemporaryDir>
-#include <QTest>
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -29,31 +24,6 @@ class TestFileReplacement : public QObject
     Q_OBJECT
 
 private slots:
-    void leavesTheOldFileOnAFullDisk_data()
-    {
-        QTest::addColumn<int>("size");
-        row("all of it waiting in the buffer", 5000);
-        row("more than the buffer holds", 100'000);
-    }
-    void leavesTheOldFileOnAFullDisk()
-    {
-        QFETCH(int, size);
-        const QTemporaryDir folder;
-        const QString path = folder.filePath("x");
-        writeTestFile(path, "old\n");
-        // A limit on the size of files stands for a disk that fills up.
-        std::signal(SIGXFSZ, SIG_IGN);
-        rlimit limit;
-        getrlimit(RLIMIT_FSIZE, &limit);
-        const rlimit small {1000, limit.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-        const bool written = platform::writeFile(path, QByteArray(size, 'x'));
-        setrlimit(RLIMIT_FSIZE, &limit);
-        QVERIFY(!written);
-        QCOMPARE(readTestFile(path), QByteArray("old\n"));
-        QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
-    }
-
     void keepsLinksAndModes()
     {
         const QTemporaryDir folder;
@@ -71,23 +41,21 @@ private slots:
 
     void writesInPlaceWhereTheFolderAllowsNoOther_data()
     {
-        QTest::addColumn<int>("folderMode");
-        QTest::addColumn<int>("fileMode");
-        QTest::addColumn<bool>("isWritten");
+        const Columns<mode_t, mode_t, bool> row("folderMode", "fileMode", "isWritten");
         row("only the file", 0555, 0666, true);
         row("neither", 0555, 0444, false);
         row("a file of somebody else", 0777, 0666, true);
     }
     void writesInPlaceWhereTheFolderAllowsNoOther()
     {
-        QFETCH(int, folderMode);
-        QFETCH(int, fileMode);
+        QFETCH(mode_t, folderMode);
+        QFETCH(mode_t, fileMode);
         QFETCH(bool, isWritten);
         const QTemporaryDir folder;
         const QString path = folder.filePath("x");
         writeTestFile(path, "old content\n");
-        chmod(QFile::encodeName(path), mode_t(fileMode));
-        chmod(QFile::encodeName(folder.path()), mode_t(folderMode));
+        chmod(QFile::encodeName(path), fileMode);
+        chmod(QFile::encodeName(folder.path()), folderMode);
         struct stat before, after;
         stat(QFile::encodeName(path), &before);
         {

@@ -4,10 +4,6 @@
 #include "host_path.h"
 #include "row.h"
 
-#include <QDir>
-#include <QTemporaryDir>
-#include <QTest>
-
 class TestProgramSearch : public QObject
 {
     Q_OBJECT
@@ -28,21 +24,19 @@ private slots:
 
     void triesTheCandidatesInOrder()
     {
-        using platform::programCandidates;
-        QStringList expected {".\\cc.exe",     "D:\\x\\cc", "D:\\x\\cc.exe", "D:\\x\\cc.com",
-                              "D:\\x\\cc.bat", "\\cc",      "\\cc.exe",      "\\cc.com",
-                              "\\cc.bat",      "y \\cc",    "y \\cc.exe",    "y \\cc.com",
-                              "y \\cc.bat"};
-        for (QString &candidate : expected)
-            candidate = platform::hostPath(candidate);
-        QCOMPARE(programCandidates("cc", "D:\\x;;y "), expected);
-        QCOMPARE(programCandidates("cc", QString()), expected.mid(0, 1));
+        QStringList expected {".\\cc.exe"};
+        for (const char *path : {"D:\\x\\cc", "\\cc", "y \\cc"}) {
+            for (const char *suffix : {"", ".exe", ".com", ".bat"})
+                expected << platform::hostPath(QString(path) + suffix);
+        }
+        expected[0] = platform::hostPath(expected[0]);
+        QCOMPARE(platform::programCandidates("cc", "D:\\x;;y "), expected);
+        QCOMPARE(platform::programCandidates("cc", QString()), expected.mid(0, 1));
     }
 
     void findsCommands_data()
     {
-        QTest::addColumn<QString>("word");
-        QTest::addColumn<QString>("found"); // in the folder; empty: nothing
+        const Columns<QString, QString> row("word", "found"); // in the folder
         row("bare name on the path", "plain", "tools/plain");
         row("suffix .com on the path", "dos", "tools/dos.com");
         row("suffix .bat on the path", "script", "tools/script.bat");

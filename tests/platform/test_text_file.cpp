@@ -1,9 +1,6 @@
 #include "files.h"
+#include "row.h"
 #include "text_file.h"
-
-#include <QDir>
-#include <QTemporaryDir>
-#include <QTest>
 
 class TestTextFile : public QObject
 {

@@ -2,8 +2,6 @@
 #include "order_tokens.h"
 #include "row.h"
 
-#include <QTest>
-
 class TestProtocol : public QObject
 {
     Q_OBJECT
@@ -11,8 +9,8 @@ class TestProtocol : public QObject
 private slots:
     void readsOrders_data()
     {
-        QTest::addColumn<QString>("order");
-        QTest::addColumn<QString>("tokens"); // a letter each, upper case where a space follows
+        // Of the tokens a letter each, upper case where a space follows.
+        const Columns<QString, QString> row("order", "tokens");
         row("all, flags joined", "%c %o%e %d%j %s ", "CoEdJS");
         row("two", "%s %c ", "SC");
         row("none", "", "");
@@ -32,29 +30,14 @@ private slots:
         QTEST(tokens, "tokens");
     }
 
-    void joinsLinesWithCommas_data()
-    {
-        QTest::addColumn<QString>("lines");
-        QTest::addColumn<QString>("list");
-        row("an empty line", "A\nB\n\nC", "A,B,C");
-        row("a trailing line feed", "A\n", "A,");
-        row("two empty lines", "A\n\n\nB", "A,,B");
-    }
-    void joinsLinesWithCommas()
-    {
-        QFETCH(QString, lines);
-        QTEST(toCommaList(lines), "list");
-    }
-
     void splitsLists_data()
     {
-        QTest::addColumn<QString>("list");
-        QTest::addColumn<QStringList>("items");
-        row("spaces", " ONE,TWO=2, THREE=3 ", QStringList {"ONE", "TWO=2", "THREE=3"});
-        row("parameters", "F(a,b)=a,G", QStringList {"F(a,b)=a", "G"});
-        row("string", "S=\"a,(b\",G", QStringList {"S=\"a,(b\"", "G"});
-        row("stray parenthesis", "A=),B", QStringList {"A=)", "B"});
-        row("nothing", ",, ,", QStringList());
+        const Columns<QString, QStringList> row("list", "items");
+        row("spaces", " ONE,TWO=2, THREE=3 ", {"ONE", "TWO=2", "THREE=3"});
+        row("parameters", "F(a,b)=a,G", {"F(a,b)=a", "G"});
+        row("string", "S=\"a,(b\",G", {"S=\"a,(b\"", "G"});
+        row("stray parenthesis", "A=),B", {"A=)", "B"});
+        row("nothing", ",, ,", {});
     }
     void splitsLists()
     {

@@ -4,7 +4,7 @@
 //
 //     print TEXT        TEXT and a line feed on the standard output
 //     bytes TEXT        TEXT alone, with \xHH for a byte; flushed, and followed by a pause
-//     lines COUNT       COUNT numbered lines
+//     lines COUNT       COUNT lines "one of many"
 //     flood             lines without end
 //     input             what comes on the standard input, up to its end
 //     file NAME TEXT    a file
@@ -57,7 +57,7 @@ void obey(const std::string &instruction)
         std::this_thread::sleep_for(100ms);
     } else if (word == "lines") {
         for (int i = 0; i < std::stoi(rest); ++i)
-            std::cout << "line " << i << " of a generator that has a lot to say <b>today</b>\n";
+            std::cout << "one of many\n";
     } else if (word == "flood") {
         while (std::cout << "line without end\n") { }
     } else if (word == "input") {

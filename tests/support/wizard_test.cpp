@@ -2,18 +2,6 @@
 
 #include "files.h"
 #include "form_font.h"
-#include "row.h"
-
-#include <QAbstractButton>
-#include <QApplication>
-#include <QDir>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMessageBox>
-#include <QProcess>
-#include <QTest>
-#include <QTimer>
 
 ProgramFolder::ProgramFolder()
     : m_previousDirectory(QDir::currentPath()), m_previousPath(qgetenv("PATH"))

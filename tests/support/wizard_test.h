@@ -1,14 +1,12 @@
 #pragma once
 
 #include "calyx.h"
+#include "log_browser.h"
+#include "row.h"
 
-#include <QTemporaryDir>
-#include <QTranslator>
+#include <QtWidgets>
 #include <functional>
 #include <memory>
-
-class QLineEdit;
-class QListWidget;
 
 /// A program folder of its own for one test, which is the working directory while it lives. On the
 /// PATH are a compiler "cc" and the stand-in generator.
