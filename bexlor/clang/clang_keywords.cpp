@@ -1,5 +1,7 @@
 #include "clang.h"
 
+#include <algorithm>
+
 namespace {
 
 // Keywords that clang has itself, from its manual ("Language Extensions") and the GCC manual's
@@ -14,6 +16,12 @@ const char *const clangKeywords =
     "__decltype "
     "_Complex _Imaginary _Atomic _Bool _Noreturn _Static_assert _Generic _Thread_local _Alignas "
     "_Alignof";
+
+bool hasKeyword(const Facts &facts, const QByteArray &name)
+{
+    return std::any_of(facts.keywords.begin(), facts.keywords.end(),
+                       [&name](const Keyword &keyword) { return keyword.name == name; });
+}
 
 } // namespace
 
@@ -31,6 +39,11 @@ QList<Macro> keywordDefinitions(const Facts &facts)
     const Macro *gnuVersion = findMacro(facts.macros, "__GNUC__");
     if (gnuVersion && gnuVersion->value.toInt() >= 11)
         definitions << Macro {"__malloc__(...)", "__malloc__"};
+    // Clang's <arm_acle.h>, which takes the place of the compiler's, asks for this (Arm C Language
+    // Extensions 2.0), and GCC has not got it.
+    if (gnuVersion && findMacro(facts.macros, "__ARM_ARCH")
+        && !findMacro(facts.macros, "__ARM_ACLE"))
+        definitions << Macro {"__ARM_ACLE", "200"};
     for (const Keyword &keyword : facts.keywords) {
         if (known.contains(keyword.name))
             continue;
@@ -40,6 +53,8 @@ QList<Macro> keywordDefinitions(const Facts &facts)
             definitions << Macro {keyword.name + "(...)", {}};
         else if (!keyword.standIn.isEmpty())
             definitions << Macro {keyword.name, keyword.standIn};
+        else if (keyword.name == "_Float128" && hasKeyword(facts, "__float128"))
+            definitions << Macro {keyword.name, "__float128"};
     }
     return definitions;
 }
