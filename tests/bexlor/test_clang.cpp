@@ -108,6 +108,17 @@ private slots:
             "#if !__cpp_rtti\n#error\n#endif\n");
         facts.keywords.append({"_Accum", Keyword::Undetermined, {}});
         row("fixed point", false, "long _Accum a; unsigned _Fract b = 0.5ur;");
+        facts.macros.known = macros("__arm__ __ELF__ __ARM_ARCH=7 __ARM_ARCH_7A__ __ARM_NEON "
+                                    "__STDC_VERSION__=201112L __ARM_FP=12 __GNUC__=12");
+        row("Arm's instructions", false,
+            "#include <arm_neon.h>\n#include <arm_acle.h>\n"
+            "float32x4_t f(float32x4_t x) { __dmb(15); return vaddq_f32(x, x); }");
+        facts.macros.known = macros("__powerpc__ __ALTIVEC__ __ELF__");
+        row("AltiVec", false, "__vector float a;");
+        facts.macros.known = macros("__i386__ __linux__");
+        facts.keywords = {{"_Float128", Keyword::TypeName, {}},
+                          {"__float128", Keyword::TypeName, {}}};
+        row("_Float128", false, "char a[sizeof(_Float128)==16?1:-1];");
         facts = Facts();
         facts.macros.known = macros("__x86_64__ __linux__ __STRICT_ANSI__");
         facts.types = types({4, 8, 8, 8, 8});
@@ -136,7 +147,7 @@ private slots:
         const QTemporaryDir folder;
         const QString source = folder.filePath(isCpp ? "x.cpp" : "x.c");
         writeTestFile(source, code);
-        QStringList command {"clang", source, "-fsyntax-only", "-nostdinc"};
+        QStringList command {"clang", source, "-fsyntax-only", "-nostdlibinc"};
         for (const QByteArray &option : languageOptions(facts, isCpp))
             command << option;
         for (const Macro &macro : keywordDefinitions(facts))
