@@ -52,6 +52,11 @@ private slots:
         row("nothing to check", QStringList {"check", "x"}, "last one: x$");
         row("no file", QStringList {"check", "x", "y", "--json"}, "last one: --json$");
         row("unknown flag", QStringList {"again", "x", "--x"}, "Argument 3 .*: --x$");
+        row("unknown format", QStringList {"export", "x", "xml"}, "Argument 3 .*: xml$");
+        row("no database", QStringList {"export", "x", "compile-commands"}, "commands$");
+        row("no output", QStringList {"export", "x", "cppcheck"}, "last one: cppcheck$");
+        row("a database for nothing", QStringList {"export", "x", "json", "y"}, "4 .*: y$");
+        row("no place for an entry", QStringList {"entry", "x"}, "last one: x$");
         row("more than a word", QStringList {"--help", "me"}, "Argument 2 .*: me$");
     }
     void namesTheWrongArgument()

@@ -221,6 +221,37 @@ private slots:
         QCOMPARE(readTestFile(elsewhere + "/moved.p_c"), "-DX=1\n");
     }
 
+    void generatesWhatTheCatalogueHas()
+    {
+        const Workshop workshop;
+        const auto entry = [](const QByteArray &name, const QByteArray &command) {
+            return "<Compiler>\n<Name>" + name + "</Name>\n<Family>F</Family>\n<ExeCommand>"
+                 + command
+                 + "</ExeCommand>\n<CrossCompiler>no</CrossCompiler>\n<OutputFlag>-o</OutputFlag>\n"
+                   "<DefineFlag>-D</DefineFlag>\n<ObjectFlag>-c</ObjectFlag>\n"
+                   "<ObjectFileExtension>o</ObjectFileExtension>\n"
+                   "<Order>%c %o %e %d%j %s </Order>\n<CompilerDefines>A,B=2</CompilerDefines>\n"
+                   "</Compiler>\n";
+        };
+        workshop.write("compilers.txt", entry("plain - C", "tcc -nostdinc")
+                                            + entry("open - C", "tcc --target=<specify target>"));
+        const auto generate = [&workshop](const QString &name) {
+            return workshop.run({GENERATOR, "entry", name, "-op", "sub folder/mine.p_c"});
+        };
+        const ProgramRun open = generate("open - C");
+        QVERIFY2(open.exitCode == 1
+                     && open.output.endsWith("\n  ExeCommand: tcc --target=<specify target>\n"),
+                 open.output);
+        const ProgramRun unknown = generate("odd");
+        QVERIFY2(unknown.exitCode == 1
+                     && unknown.output.endsWith("\n  F/plain - C\n  F/open - C\n"),
+                 unknown.output);
+        const ProgramRun generated = generate("F/plain - C");
+        QVERIFY2(generated.succeeded(), generated.output);
+        const QString text = workshop.read("sub folder/mine.p_c");
+        QVERIFY2(text.contains("\"-DA=1\"") && text.contains("\"-DB=2\""), qPrintable(text));
+    }
+
     void checksWhetherClangSeesTheSame()
     {
         const Workshop workshop;
@@ -232,9 +263,11 @@ private slots:
                     "accepts\\.\n");
         QVERIFY2(QString(generated.output).contains(QRegularExpression(says)), generated.output);
         workshop.write("same.c", "#include <stdarg.h>\n#include <stdio.h>\n#include \"x.h\"\n"
-                                 "int f(FILE *a, ...) { va_list b; va_start(b, a); return X; }\n");
+                                 "int f(FILE *a, ...) { va_list b; va_start(b, a); return X; }\n"
+                                 "#if __has_attribute(optimize) && !defined __has_feature\n"
+                                 "int g;\n#endif\n");
         workshop.write("include/x.h", "#define X Y\n");
-        workshop.write("other.c", "#ifdef __has_feature\nint a;\n#else\nint b;\n#endif\n");
+        workshop.write("other.c", "#ifdef __is_identifier\nint a;\n#else\nint b;\n#endif\n");
         workshop.write("nested.c", "void f(void) { void g(void) { } }\n");
         workshop.write("wrong.c", "int int;\n");
         const QString folder = QDir(workshop.folder.path()).canonicalPath();
@@ -242,6 +275,7 @@ private slots:
                                     + "\", \"file\": \"same.c\", \"command\": "
                                       "\"gcc -Iinclude -DY=1 -MD -o same.o -c same.c\"}]")
                                        .toUtf8());
+        workshop.write("gone.json", "[{\"file\": \"b.c\", \"arguments\": [\"no-such-cc\"]}]");
         const QStringList before = QDir(folder).entryList();
         const auto check = [&](const QStringList &sources) {
             return workshop.run(QStringList {GENERATOR, "check", workshop.personality} + sources);
@@ -257,6 +291,9 @@ private slots:
         QVERIFY(workshop.read("out.json").contains("\"rejected-by-clang\": 1"));
         QFile::remove(workshop.folder.filePath("out.json"));
 
+        const ProgramRun gone = check({"gone.json"});
+        QVERIFY2(gone.exitCode == 3 && gone.output.contains("b.c: cannot be started: no-such-cc\n"),
+                 gone.output);
         const ProgramRun listed = check({"all.json"});
         QVERIFY2(listed.succeeded() && listed.output.contains("same.c: same\n"), listed.output);
         QCOMPARE(QDir(folder).entryList(), before);
