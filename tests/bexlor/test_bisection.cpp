@@ -2,8 +2,6 @@
 
 #include "row.h"
 
-#include <QTest>
-
 namespace {
 
 const ProbeLimits limits {200, 1000};
@@ -62,9 +60,8 @@ class TestBisection : public QObject
 private slots:
     void findsWhatIsAccepted_data()
     {
-        QTest::addColumn<QString>("names");
-        QTest::addColumn<QList<int>>("bad");
-        QTest::addColumn<int>("starts"); // at most
+        // starts: at most
+        const Columns<QString, QList<int>, int> row("names", "bad", "starts");
         const QList<int> few {0, 7, 8, 31, 149}, none;
         row("no errors", "all", none, 2);
         row("names all", "all", few, 10);
@@ -116,8 +113,8 @@ private slots:
 
     void findsWhatDrawsNoMessage_data()
     {
-        QTest::addColumn<QString>("names");
-        QTest::addColumn<bool>("isSilent"); // on everything
+        // isSilent: on everything
+        const Columns<QString, bool> row("names", "isSilent");
         row("names all", "all", false);
         row("stops at its first error", "first", false);
         row("says nothing", "none", true);

@@ -2,10 +2,6 @@
 #include "files.h"
 #include "row.h"
 
-#include <QDir>
-#include <QTemporaryDir>
-#include <QTest>
-
 class TestCompiler : public QObject
 {
     Q_OBJECT
@@ -13,17 +9,15 @@ class TestCompiler : public QObject
 private slots:
     void splitsTheCommand_data()
     {
-        QTest::addColumn<QString>("command");
-        QTest::addColumn<QStringList>("words");
-        row("bare", "cc", QStringList {"cc"});
-        row("options", "\"cc -m32 -x\"", QStringList {"cc", "-m32", "-x"});
-        row("path with a space", "\"/a b/cc\"", QStringList {"/a b/cc"});
-        row("quoted path with options", "\"/a b/cc\" -m32 \"-D x\"",
-            QStringList {"/a b/cc", "-m32", "-D x"});
-        row("options with quotes", "\"cc -I\"a b\" -m32\"", QStringList {"cc", "-Ia b", "-m32"});
-        row("path with quotes", "\"/a \"b\"/cc\"", QStringList {"/a \"b\"/cc"});
-        row("unknown program", "\"dd -m32\"", QStringList {"dd", "-m32"});
-        row("empty", "", QStringList());
+        const Columns<QString, QStringList> row("command", "words");
+        row("bare", "cc", {"cc"});
+        row("options", "\"cc -m32 -x\"", {"cc", "-m32", "-x"});
+        row("path with a space", "\"/a b/cc\"", {"/a b/cc"});
+        row("quoted path with options", "\"/a b/cc\" -m32 \"-D x\"", {"/a b/cc", "-m32", "-D x"});
+        row("options with quotes", "\"cc -I\"a b\" -m32\"", {"cc", "-Ia b", "-m32"});
+        row("path with quotes", "\"/a \"b\"/cc\"", {"/a \"b\"/cc"});
+        row("unknown program", "\"dd -m32\"", {"dd", "-m32"});
+        row("empty", "", {});
     }
     void splitsTheCommand()
     {
@@ -36,8 +30,8 @@ private slots:
 
     void makesRelativePathsAbsolute_data()
     {
-        QTest::addColumn<QString>("word");
-        QTest::addColumn<QString>("absolute"); // "$" stands for the current folder
+        // absolute: "$" stands for the current folder
+        const Columns<QString, QString> row("word", "absolute");
         row("file", "first.h", "$/first.h");
         row("behind a letter", "-Iinc dir", "-I$/inc dir");
         row("response file", "@first.h", "@$/first.h");
@@ -85,8 +79,7 @@ private slots:
 
     void leavesOutWhatIsNoQuestion_data()
     {
-        QTest::addColumn<QString>("options");
-        QTest::addColumn<QString>("kept");
+        const Columns<QString, QString> row("options", "kept");
         row("errors of warnings",
             "-Wall -Werror=x -W error -Werror --Werror -pedantic-errors /WX -W x", "-Wall -W x");
         row("outputs", "-o x -oa/x -MF d -MFd -MT t -MMD -MP -aux-info a -Map m -I i", "-I i");
@@ -109,10 +102,9 @@ private slots:
 
     void ordersTheCommand_data()
     {
-        QTest::addColumn<QString>("order");
-        QTest::addColumn<QString>("outputFlag");
-        QTest::addColumn<QString>("objectFlag");
-        QTest::addColumn<QString>("command"); // words, each followed by "|"
+        // command: words, each followed by "|"
+        const Columns<QString, QString, QString, QString> row("order", "outputFlag", "objectFlag",
+                                                              "command");
         row("joined flags", "%c %o%e %d%j %s ", "-o", "-c", "cc|-m32|-oout.o|-DA|-DB=1 2|-c|in.c|");
         row("flags apart", "%c %o %e %d %j %s ", "-o", "-c",
             "cc|-m32|-o|out.o|-D|A|-D|B=1 2|-c|in.c|");

@@ -3,10 +3,6 @@
 #include "files.h"
 #include "row.h"
 
-#include <QDir>
-#include <QTemporaryDir>
-#include <QTest>
-
 using platform::ProgramRun;
 
 namespace {
@@ -37,11 +33,11 @@ private slots:
 
     void findsTheSearchPath_data()
     {
-        QTest::addColumn<QString>("question"); // that the compiler understands
-        QTest::addColumn<bool>("onErrors");    // whether it answers there
-        QTest::addColumn<QString>("listing");  // "$" stands for a folder
-        QTest::addColumn<QString>("directories");
-        QTest::addColumn<QString>("quoted");
+        // question: that the compiler understands
+        // onErrors: whether it answers there
+        // listing: "$" stands for a folder
+        const Columns<QString, bool, QString, QString, QString> row(
+            "question", "onErrors", "listing", "directories", "quoted");
         const QString gnu = "Target: none\nignoring nonexistent directory \"$/x\"\n"
                             "#include \"...\" search starts here:\n $/own\n"
                             "#include <...> search starts here:\n $/a/../b c\n $/a\n $/a\n"

@@ -1,13 +1,8 @@
 #include "header_scan.h"
 
 #include "files.h"
+#include "row.h"
 
-#include <QDir>
-#include <QFile>
-#include <QProcess>
-#include <QSet>
-#include <QTemporaryDir>
-#include <QTest>
 #include <filesystem>
 #include <fstream>
 
@@ -41,11 +36,7 @@ private:
 private slots:
     void findsNames_data()
     {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QStringList>("names");
-        const auto row = [](const char *name, const QByteArray &content, const QStringList &names) {
-            QTest::newRow(name) << content << names;
-        };
+        const Columns<QByteArray, QStringList> row("content", "names");
         row("conditionals",
             "#ifdef A1\n # if defined(Bb) \\\n || C\n#elif D /* E */ // F\n#endif\n",
             {"A1:T", "Bb:T", "C:T", "D:T", "defined:T"});
@@ -61,8 +52,7 @@ private slots:
         row("a mark within a definition", "#define A \\\n#if __b\n__c\n",
             {"__b:U", "__c:U", "if:U"});
         row("a tested call", "#if __has(x)\n#endif\n__has (x)\n", {"__has:TUC", "x:T"});
-        row("long names", QByteArray("__") + QByteArray(62, 'a') + " abcdefghijklm #\n",
-            QStringList());
+        row("long names", "__" + QByteArray(62, 'a') + " abcdefghijklm #\n", {});
         row("no line feed at the end", "#if __LAST", {"__LAST:T"});
         row("an unfinished comment", "__x /* __y", {"__x:U"});
         row("binary", QByteArray("\0\1__unix__\0ab\0UPPER_2=lower\0Mixed__case\0% __x", 45),

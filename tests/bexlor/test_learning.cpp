@@ -4,12 +4,6 @@
 #include "files.h"
 #include "row.h"
 
-#include <QDir>
-#include <QMap>
-#include <QStandardPaths>
-#include <QTemporaryDir>
-#include <QTest>
-
 using platform::ProgramRun;
 
 // Compilers that list their macros are asked for them by probes alone, and the two answers are
@@ -60,14 +54,13 @@ private:
 private slots:
     void findsMacrosAsTheyAre_data()
     {
-        QTest::addColumn<QStringList>("command");
-        QTest::addColumn<bool>("isSmall");
-        QTest::addColumn<int>("mayMiss"); // names that stand in its own headers and programs only
-        row("gcc", QStringList {"gcc"}, false, 3);
-        row("object files without bytes", QStringList {"gcc", "-flto"}, false, 3);
-        row("another character set", QStringList {"gcc", "-fexec-charset=IBM1047"}, false, 3);
-        row("stops at the first error", QStringList {"tcc"}, false, 5);
-        row("objects of text, small probes", QStringList {"sdcc", "-mz80"}, true, 0);
+        // mayMiss: names that stand in its own headers and programs only
+        const Columns<QStringList, bool, int> row("command", "isSmall", "mayMiss");
+        row("gcc", {"gcc"}, false, 3);
+        row("object files without bytes", {"gcc", "-flto"}, false, 3);
+        row("another character set", {"gcc", "-fexec-charset=IBM1047"}, false, 3);
+        row("stops at the first error", {"tcc"}, false, 5);
+        row("objects of text, small probes", {"sdcc", "-mz80"}, true, 0);
     }
     void findsMacrosAsTheyAre()
     {
@@ -113,17 +106,16 @@ private slots:
 
     void measuresTypes_data()
     {
-        QTest::addColumn<QStringList>("command");
-        QTest::addColumn<QString>("types");
-        row("gcc", QStringList {"gcc"},
+        const Columns<QStringList, QString> row("command", "types");
+        row("gcc", {"gcc"},
             "short2/2 int4/4 long8/8 long double16/16 void *8/8 signed enum4 order1 "
             "unsigned long|long|int");
         row("32 bits, other options",
-            QStringList {"gcc", "-m32", "-funsigned-char", "-fshort-wchar", "-fshort-enums",
-                         "-mlong-double-64"},
+            {"gcc", "-m32", "-funsigned-char", "-fshort-wchar", "-fshort-enums",
+             "-mlong-double-64"},
             "short2/2 int4/4 long4/4 long double8/4 void *4/4 unsigned enum1 order1 "
             "unsigned int|int|unsigned short");
-        row("8 bits", QStringList {"sdcc", "-mz80"},
+        row("8 bits", {"sdcc", "-mz80"},
             "short2/1 int2/1 long4/1 void *2/1 unsigned enum1 order1 "
             "unsigned int|int|unsigned long");
     }
@@ -165,11 +157,10 @@ private slots:
 
     void findsTheListedDirectories_data()
     {
-        QTest::addColumn<QStringList>("command");
-        QTest::addColumn<QString>("header");
-        row("gcc", QStringList {"gcc", "-ansi"}, "stdio.h");
-        row("tcc", QStringList {"tcc", "-DA"}, "stdio.h");
-        row("sdcc", QStringList {"sdcc", "-mmcs51"}, "8051.h");
+        const Columns<QStringList, QString> row("command", "header");
+        row("gcc", {"gcc", "-ansi"}, "stdio.h");
+        row("tcc", {"tcc", "-DA"}, "stdio.h");
+        row("sdcc", {"sdcc", "-mmcs51"}, "8051.h");
     }
     void findsTheListedDirectories()
     {
@@ -189,9 +180,9 @@ private slots:
 
     void findsTheSearchPath_data()
     {
-        QTest::addColumn<QStringList>("command");
-        row("tells what it has", QStringList {"gcc"});
-        row("must include", QStringList {"tcc"});
+        const Columns<QStringList> row("command");
+        row("tells what it has", {"gcc"});
+        row("must include", {"tcc"});
     }
     void findsTheSearchPath()
     {

@@ -5,10 +5,6 @@
 #include "files.h"
 #include "row.h"
 
-#include <QDir>
-#include <QTemporaryDir>
-#include <QTest>
-
 namespace {
 
 /// The macros that clang has with the personality \a text, in the language of \a source.
@@ -97,7 +93,7 @@ private slots:
 
     void makesClangSeeTheListedMacros_data()
     {
-        QTest::addColumn<QString>("command");
+        const Columns<QString> row("command");
         row("gcc for 32 bits", "gcc -m32 -std=c99 -x c");
         row("cross compiler", "arm-none-eabi-gcc -x c");
         row("clang", "clang -x c");

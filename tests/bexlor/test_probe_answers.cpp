@@ -4,9 +4,6 @@
 #include "files.h"
 #include "row.h"
 
-#include <QTemporaryDir>
-#include <QTest>
-
 class TestProbeAnswers : public QObject
 {
     Q_OBJECT
@@ -15,13 +12,7 @@ private slots:
     void readsLineNumbers_data()
     {
         using Lines = QList<int>;
-        QTest::addColumn<QByteArray>("messages");
-        QTest::addColumn<Lines>("lines");
-        QTest::addColumn<Lines>("errors");
-        const auto row = [](const char *name, const QByteArray &messages, const Lines &lines,
-                            const Lines &errors) {
-            QTest::newRow(name) << messages << lines << errors;
-        };
+        const Columns<QByteArray, Lines, Lines> row("messages", "lines", "errors");
         row("colons", "/t/1/x.c:12:4: error: no\n  12 | int\n", {12}, {12});
         row("parentheses", "x.c(7): Error: no", {7}, {7});
         row("words", "\"x.c\", line 30: Fatal", {30}, {30});
@@ -44,8 +35,7 @@ private slots:
 
     void readsObjectFiles_data()
     {
-        QTest::addColumn<QByteArray>("file");
-        QTest::addColumn<QByteArray>("bytes");
+        const Columns<QByteArray, QByteArray> row("file", "bytes");
         row("as it is",
             QByteArray("\x7f"
                        "ELF\0ab",
@@ -53,13 +43,11 @@ private slots:
             QByteArray("\x7f"
                        "ELF\0ab",
                        7));
-        row("relocatable text",
-            QByteArray("XL3\nH 9 areas\nT 00 00 00 61 62\nR 00 00 00\nT 02 00 00 63\n"),
-            QByteArray("abc"));
-        row("relocatable text, two bytes of address", QByteArray("XH2\r\nT 00 00 61\r\n"),
-            QByteArray("a"));
+        row("relocatable text", "XL3\nH 9 areas\nT 00 00 00 61 62\nR 00 00 00\nT 02 00 00 63\n",
+            "abc");
+        row("relocatable text, two bytes of address", "XH2\r\nT 00 00 61\r\n", "a");
         row("one fragment for each byte",
-            QByteArray("Uzna\0\1a\1\2\0\1b\1\x82\1\0\1c\2\1\1\xff", 22), QByteArray("\n\n\n\nabc"));
+            QByteArray("Uzna\0\1a\1\2\0\1b\1\x82\1\0\1c\2\1\1\xff", 22), "\n\n\n\nabc");
     }
     void readsObjectFiles()
     {

@@ -1,7 +1,7 @@
 #include "progress.h"
 
-#include <QRegularExpression>
-#include <QTest>
+#include "row.h"
+
 #include <atomic>
 #include <vector>
 
