@@ -11,19 +11,19 @@ namespace platform {
 
 namespace {
 
-const qsizetype outputLimit = 1'000'000;
 const int milliseconds = 50; // between two looks at what the program has written
 
-/// Adds to \a kept what fits and drops the rest, so that a program that never stops printing does
-/// not fill the memory.
-void keep(QByteArray &kept, const QByteArray &more)
+/// Adds to \a kept what fits into \a limit and drops the rest, so that a program that never stops
+/// printing does not fill the memory.
+void keep(QByteArray &kept, const QByteArray &more, qsizetype limit)
 {
-    kept += more.left(outputLimit - kept.size());
+    kept += more.left(limit - kept.size());
 }
 
 } // namespace
 
-ProgramRun runProgram(const QStringList &command, const QString &directory, int timeLimit)
+ProgramRun runProgram(const QStringList &command, const QString &directory, int timeLimit,
+                      qsizetype outputLimit)
 {
     ProgramRun run;
     if (command.isEmpty())
@@ -41,14 +41,14 @@ ProgramRun runProgram(const QStringList &command, const QString &directory, int 
     const QDeadlineTimer deadline(timeLimit);
     while (process.state() != QProcess::NotRunning && !deadline.hasExpired()) {
         process.waitForReadyRead(milliseconds);
-        keep(run.output, process.readAllStandardOutput());
-        keep(run.errors, process.readAllStandardError());
+        keep(run.output, process.readAllStandardOutput(), outputLimit);
+        keep(run.errors, process.readAllStandardError(), outputLimit);
     }
     const bool timedOut = process.state() != QProcess::NotRunning;
     tree.end();
     process.waitForFinished();
-    keep(run.output, process.readAllStandardOutput());
-    keep(run.errors, process.readAllStandardError());
+    keep(run.output, process.readAllStandardOutput(), outputLimit);
+    keep(run.errors, process.readAllStandardError(), outputLimit);
     run.ending = timedOut                                    ? ProgramRun::TimedOut
                : process.exitStatus() == QProcess::CrashExit ? ProgramRun::Crashed
                                                              : ProgramRun::Exited;

@@ -2,7 +2,7 @@
 
 #include <QString>
 #include <QStringList>
-#include <optional>
+#include <variant>
 
 /// How a compile command is put together.
 struct CommandLayout
@@ -12,6 +12,15 @@ struct CommandLayout
     QString defineFlag;
     QString objectExtension; ///< with its dot, or empty
     QString order;           ///< order token string
+};
+
+/// A command line, and the folder that relative paths in it start from.
+struct CommandLine
+{
+    QString directory;
+    QStringList arguments; ///< without the program's name
+
+    bool operator==(const CommandLine &) const = default;
 };
 
 /// What the generator has been asked for: its command line, taken apart. Paths are the host's.
@@ -29,11 +38,15 @@ struct Arguments
     QString forceIncludeFile;
     QString substituteHeaders;
     bool reduceFileSize = false;
+    CommandLine answers; ///< the list that all this was taken from, with an empty text as the path
+                         ///< of the personality
 };
 
-/// One line that says how the generator is called.
-QString usage();
+/// Why a command line is not one that usage() allows: a sentence that names the argument.
+struct UsageError
+{
+    QString sentence;
+};
 
-/// Takes \a list, the command line without the program's name, apart. Nothing when it is not made
-/// as usage() says.
-std::optional<Arguments> parseArguments(const QStringList &list);
+/// Takes \a list, the answers of the wizard, apart.
+std::variant<UsageError, Arguments> parseArguments(const QStringList &list);

@@ -109,8 +109,11 @@ QList<QByteArray> languageOptions(const Facts &facts, bool isCpp)
     const QByteArray target = clangTarget(facts);
     if (!target.isEmpty())
         options << "--target=" + target;
+    // Without these clang warns, though it is not to link, that it cannot; and it does so before it
+    // reads in a file that it should not. The processor is the one that avr-gcc assumes.
     if (target.startsWith("avr-"))
-        options << "-nostdlib"; // or clang warns, without linking, that it cannot link
+        options << "-nostdlib"
+                << "-mmcu=avr2";
     options << (isCpp ? standardOption(facts.macros, "__cplusplus", cppStandards, "c++", "gnu++")
                       : standardOption(facts.macros, "__STDC_VERSION__", cStandards, "c", "gnu"));
     if (isCpp) {

@@ -54,8 +54,15 @@ bool fitsOnLine(const Macro &macro)
 Personality composePersonality(const Arguments &arguments, const Facts &facts,
                                const QStringList &includedByCommand, const QByteArray &templateText)
 {
-    Personality personality {
-        arguments.command, arguments.switches, facts, templateText, {}, {}, {}, {}};
+    Personality personality {arguments.command,
+                             arguments.switches,
+                             arguments.answers,
+                             facts,
+                             templateText,
+                             {},
+                             {},
+                             {},
+                             {}};
     if (!templateText.isEmpty() && !templateText.endsWith('\n'))
         personality.templateText += '\n';
     MacroFacts &macros = personality.facts.macros;

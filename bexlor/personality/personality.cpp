@@ -2,6 +2,9 @@
 
 #include "clang.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <algorithm>
 #include <cstring>
 #include <optional>
@@ -132,6 +135,23 @@ void read(const QByteArray &text, Keyword &keyword)
         keyword.standIn = standIn;
 }
 
+// The keys are those of a compilation database, in which a command line is kept the same way.
+const QLatin1StringView directoryKey("directory"), argumentsKey("arguments");
+
+QByteArray written(const CommandLine &line)
+{
+    const QJsonObject object {{directoryKey, line.directory},
+                              {argumentsKey, QJsonArray::fromStringList(line.arguments)}};
+    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+}
+
+void read(const QByteArray &text, CommandLine &line)
+{
+    const QJsonObject object = QJsonDocument::fromJson(text).object();
+    line.directory = object[directoryKey].toString();
+    line.arguments = object[argumentsKey].toVariant().toStringList();
+}
+
 /// Writes a line for each fact that is known.
 struct FactWriter
 {
@@ -187,6 +207,7 @@ void visitFacts(Visitor &visitor, Visited &personality)
     auto &facts = personality.facts;
     visitor.one("command", personality.command);
     visitor.each("switch", personality.switches);
+    visitor.one("answers", personality.answers);
     visitor.one("version", facts.versionLine);
     visitor.each("type", facts.types.basic);
     visitor.one("char", facts.types.charIsUnsigned);
@@ -222,7 +243,8 @@ QList<Option> optionsOf(const Section &section, const Personality &personality)
 {
     if (section.options)
         return personality.*section.options;
-    QList<Option> options {{"-undef"}};
+    // From version 19 on, clang warns of every macro of its own that is taken back.
+    QList<Option> options {{"-undef"}, {"-Wno-builtin-macro-redefined"}};
     for (const QByteArray &name : macrosOfClang())
         options.append({"-U" + name});
     for (const Macro &macro : personality.facts.macros.known)

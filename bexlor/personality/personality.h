@@ -12,6 +12,7 @@ struct Personality
 {
     QString command;      ///< the compiler's command as it was typed
     QStringList switches; ///< implicit switches
+    CommandLine answers;  ///< by which it has been generated
     Facts facts;
     QByteArray templateText; ///< options that come before all others, in whole lines
     QList<Option> language;

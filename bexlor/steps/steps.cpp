@@ -7,6 +7,7 @@
 #include "text_file.h"
 #include "visible_text.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -37,12 +38,14 @@ QString howItEnded(const ProbeAnswer &answer)
                                                           : end;
 }
 
-/// Leaves \a command and what it wrote in the working directory.
-void leaveLogs(const QStringList &command, const platform::ProgramRun &run)
+/// Leaves \a command and what it wrote in \a folder.
+void leaveLogs(const QString &folder, const QStringList &command, const platform::ProgramRun &run)
 {
-    platform::writeTextFile(generator::attemptedCommand, commandLine(command) + u'\n');
-    platform::writeFile(generator::standardOutput, run.output);
-    platform::writeFile(generator::standardError, run.errors);
+    const QDir logs(folder);
+    platform::writeTextFile(logs.filePath(generator::attemptedCommand),
+                            commandLine(command) + u'\n');
+    platform::writeFile(logs.filePath(generator::standardOutput), run.output);
+    platform::writeFile(logs.filePath(generator::standardError), run.errors);
 }
 
 /// Why \a arguments are refused, or the files that they name cannot be used, or an empty text.
@@ -147,18 +150,19 @@ std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arg
     return usable;
 }
 
-std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner)
+std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner,
+                                             const QString &logFolder)
 {
     const QString against = optionAgainstObjects(runner.compiler().command);
     if (!against.isEmpty()) {
-        leaveLogs(runner.command(), {});
+        leaveLogs(logFolder, runner.command(), {});
         progress.say(u"With the option %1 the compiler makes no object file. Take it out of the "
                      "command on the page Compiler Command."_s.arg(against));
         return {};
     }
     const ProgressStep step(progress, u"Compiling a first probe ..."_s, &nothing);
     const ProbeAnswer answer = runner.ask(acceptedProbe);
-    leaveLogs(runner.command(), answer.run);
+    leaveLogs(logFolder, runner.command(), answer.run);
     if (answer.compiled())
         return answer;
     progress.say(u"Compiling the first probe failed: %1."_s.arg(howItEnded(answer)));
@@ -232,7 +236,8 @@ Questions findHowToAsk(Progress &progress, const ProbeRunner &runner)
 }
 
 std::optional<MacroFacts> findMacros(Progress &progress, const Questions &questions,
-                                     const QList<Macro> &listed, const QList<ScannedName> &names)
+                                     const QList<Macro> &listed, const QList<ScannedName> &names,
+                                     const QString &logFolder)
 {
     MacroFacts macros {listed, {}};
     if (listed.isEmpty()) {
@@ -244,7 +249,7 @@ std::optional<MacroFacts> findMacros(Progress &progress, const Questions &questi
         const ProbeRunner &runner = questions.runner();
         const ProgressStep step(progress, u"Looking for predefined macros ..."_s, probesOf(runner));
         macros = learnMacros(questions, macroCandidates(names, runner.compiler().defines));
-        if (!worksStill(progress, runner))
+        if (!worksStill(progress, runner, logFolder))
             return {};
     }
     QString found =
@@ -288,13 +293,13 @@ SearchPath findSearchPath(Progress &progress, const Questions &questions, const 
     return path;
 }
 
-bool worksStill(Progress &progress, const ProbeRunner &runner)
+bool worksStill(Progress &progress, const ProbeRunner &runner, const QString &logFolder)
 {
     const ProgressStep step(progress, u"Compiling the first probe again ..."_s, &nothing);
     const ProbeAnswer again = runner.ask(acceptedProbe);
     if (again.compiled())
         return true;
-    leaveLogs(runner.command(), again.run);
+    leaveLogs(logFolder, runner.command(), again.run);
     progress.say(u"The compiler no longer answers as it did: %1."_s.arg(howItEnded(again)));
     return false;
 }
@@ -313,19 +318,26 @@ bool checkCompleteness(Progress &progress, const Facts &facts, bool lacksSearchP
     return hasTypes && !lacksSearchPath;
 }
 
-bool writePersonality(Progress &progress, const Arguments &arguments, const Compiler &compiler,
-                      const Facts &facts)
+QByteArray textOfPersonality(const Arguments &arguments, const Compiler &compiler,
+                             const Facts &facts)
 {
     const QByteArray templateText =
         platform::readTextFile(arguments.templateFile).value_or(QString()).toUtf8();
-    const Personality personality =
-        composePersonality(arguments, facts, compiler.includedFirst, templateText);
-    const QString &path = arguments.personality;
+    return personalityText(
+        composePersonality(arguments, facts, compiler.includedFirst, templateText));
+}
+
+bool writePersonality(Progress &progress, const QString &path, const QByteArray &text)
+{
     const bool isThere = QFileInfo::exists(path);
-    if (!platform::writeFile(path, personalityText(personality))) {
+    if (!platform::writeFile(path, text)) {
         progress.say(u"The personality cannot be written: %1"_s.arg(path));
         return false;
     }
     progress.say((isThere ? u"Replaced %1"_s : u"Wrote %1"_s).arg(path));
+    const QStringList option {u"--config"_s, QDir::current().absoluteFilePath(path)};
+    progress.say("  "_L1 + commandLine(QStringList {u"clang"_s} + option)
+                 + " -fsyntax-only FILE"_L1);
+    progress.say("  clang-tidy FILE -- "_L1 + commandLine(option));
     return true;
 }

@@ -16,8 +16,9 @@ void removeLogs();
 /// or the files that they name cannot be used. Says first which files are used that no page shows.
 std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arguments);
 
-/// What the compiler says to a probe that any compiler accepts. Leaves the logs.
-std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner);
+/// What the compiler says to a probe that any compiler accepts. Leaves the logs in \a logFolder.
+std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner,
+                                             const QString &logFolder);
 
 /// Whether the answers of \a runner's compiler, \a first being that to the first probe, can be
 /// trusted as far as is needed: it must reject what is no C.
@@ -35,9 +36,10 @@ HeaderScan readDirectories(Progress &progress, const QStringList &directories);
 Questions findHowToAsk(Progress &progress, const ProbeRunner &runner);
 
 /// The predefined macros: those \a listed or, if there are none, those that can be found by their
-/// names.
+/// names. \a logFolder as for worksStill().
 std::optional<MacroFacts> findMacros(Progress &progress, const Questions &questions,
-                                     const QList<Macro> &listed, const QList<ScannedName> &names);
+                                     const QList<Macro> &listed, const QList<ScannedName> &names,
+                                     const QString &logFolder);
 
 TypeFacts measureTypes(Progress &progress, const Questions &questions);
 
@@ -49,14 +51,18 @@ SearchPath findSearchPath(Progress &progress, const Questions &questions, const 
                           const HeaderScan &scan);
 
 /// Whether the first probe still compiles: a compiler that has stopped working, for want of a
-/// license or of room on the disk, would be taken for one that rejects everything.
-bool worksStill(Progress &progress, const ProbeRunner &runner);
+/// license or of room on the disk, would be taken for one that rejects everything. Leaves the logs
+/// in \a logFolder then.
+bool worksStill(Progress &progress, const ProbeRunner &runner, const QString &logFolder);
 
 /// Whether \a facts hold the types, and the search path is not one that the compiler has and that
 /// is lacking: without them clang would read code as if it were for another compiler.
 bool checkCompleteness(Progress &progress, const Facts &facts, bool lacksSearchPath);
 
-/// Writes the personality of the compiler of \a facts to where the user wants it, over one that has
-/// been there before.
-bool writePersonality(Progress &progress, const Arguments &arguments, const Compiler &compiler,
-                      const Facts &facts);
+/// The text of the personality of the compiler of \a facts.
+QByteArray textOfPersonality(const Arguments &arguments, const Compiler &compiler,
+                             const Facts &facts);
+
+/// Writes the personality \a text to \a path, over one that has been there before, and says how
+/// clang and clang-tidy take it.
+bool writePersonality(Progress &progress, const QString &path, const QByteArray &text);

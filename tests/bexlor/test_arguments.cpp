@@ -1,10 +1,11 @@
-#include "arguments.h"
+#include "request.h"
 
 #include "host_path.h"
 #include "refusal.h"
 #include "row.h"
 
 #include <QDir>
+#include <QRegularExpression>
 #include <QTest>
 
 class TestArguments : public QObject
@@ -20,11 +21,12 @@ private:
 private slots:
     void takesTheWholeList()
     {
-        const std::optional<Arguments> arguments = parseArguments(
+        const Request request = parseRequest(
             {"kovpp",  "ccmp",         "\"cc -m32\"", "",         "-c",   "",      "",
              "%c %s ", "-i",           "..\\a b",     "-i",       "-op",  "-op",   "x.p_c",
              "-xd",    "A, B=(1,2) ,", "-xs",         "-x -y,-z", "-tpl", "..\\t", "-fi",
              "f",      "-sub",         "s",           "-rfs"});
+        const auto *arguments = std::get_if<Arguments>(&request);
         QVERIFY(arguments);
         QVERIFY(arguments->isCpp && arguments->crossCompiler && arguments->reduceFileSize);
         QCOMPARE(arguments->headerDirectories, QStringList({platform::hostPath("..\\a b"), "-op"}));
@@ -35,22 +37,32 @@ private slots:
         QCOMPARE(arguments->forceIncludeFile + arguments->substituteHeaders, "fs");
     }
 
-    void refusesOtherLists_data()
+    void namesTheWrongArgument_data()
     {
         QTest::addColumn<QStringList>("list");
-        row("none", QStringList());
-        row("too short", plain().mid(0, 9));
-        row("no output", plain().mid(0, 8));
-        row("unknown product", QStringList("c") + plain().mid(1));
-        row("unknown option", plain() + QStringList {"-x", "y"});
-        row("option without a value", plain() + QStringList {"-xd"});
-        row("wrong order", plain() + QStringList {"-rfs", "-xd", "A"});
+        QTest::addColumn<QString>("says");
+        row("none", QStringList(), "no arguments");
+        row("too short", plain().mid(0, 9), "missing behind the last one: -op");
+        row("no output", plain().mid(0, 8), "missing behind the last one: %c %s ");
+        row("unknown product", QStringList("-i") + plain().mid(1), "Argument 1 is not.*: -i$");
+        row("unknown option", plain() + QStringList {"-x", "y"}, "Argument 11 is not.*: -x$");
+        row("option without a value", plain() + QStringList {"-xd"}, "last one: -xd$");
+        row("wrong order", plain() + QStringList {"-rfs", "-xd", "A"}, "Argument 12 .*: -xd$");
+        row("no personality", QStringList {"again"}, "last one: again$");
+        row("nothing to check", QStringList {"check", "x"}, "last one: x$");
+        row("no file", QStringList {"check", "x", "y", "--json"}, "last one: --json$");
+        row("unknown flag", QStringList {"again", "x", "--x"}, "Argument 3 .*: --x$");
+        row("more than a word", QStringList {"--help", "me"}, "Argument 2 .*: me$");
     }
-    void refusesOtherLists()
+    void namesTheWrongArgument()
     {
-        QVERIFY(parseArguments(plain()));
+        QVERIFY(std::holds_alternative<Arguments>(parseRequest(plain())));
         QFETCH(QStringList, list);
-        QVERIFY(!parseArguments(list));
+        QFETCH(QString, says);
+        const Request request = parseRequest(list);
+        const auto *error = std::get_if<UsageError>(&request);
+        QVERIFY(error);
+        QVERIFY2(error->sentence.contains(QRegularExpression(says)), qPrintable(error->sentence));
     }
 
     void refusesWhatIsNotShown_data()
@@ -88,7 +100,7 @@ private slots:
         QFETCH(QString, reason);
         QStringList list = plain() + more;
         list[place] = given;
-        const QString told = refusalReason(*parseArguments(list));
+        const QString told = refusalReason(std::get<Arguments>(parseArguments(list)));
         QVERIFY2(reason.isEmpty() ? told.isEmpty() : told.startsWith(reason), qPrintable(told));
         QVERIFY(!told.contains('\n'));
     }

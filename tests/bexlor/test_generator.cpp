@@ -130,6 +130,31 @@ private slots:
         workshop.checkBothTake("x.cpp", command, {});
     }
 
+    void isQuietInEveryClang_data()
+    {
+        QTest::addColumn<QString>("product");
+        for (const char *compiler :
+             {"gcc", "arm-none-eabi-gcc", "avr-gcc", "sdcc", "tcc", "x86_64-w64-mingw32-gcc"})
+            row(compiler, QString("kov"));
+        row("g++", QString("kovpp"));
+    }
+    void isQuietInEveryClang()
+    {
+        QFETCH(QString, product);
+        const Workshop workshop;
+        const ProgramRun generated = workshop.generate(product, QTest::currentDataTag());
+        QVERIFY2(generated.succeeded(), generated.output);
+        const QString source = product == "kovpp" ? "x.cpp" : "x.c";
+        for (const char *code : {"", "int main(void) { return 0; }\n"}) {
+            workshop.write(source, code);
+            for (const char *clang : {"clang-14", "clang-19"}) {
+                const ProgramRun seen = workshop.run(
+                    {clang, "--config", workshop.personality, "-Werror", "-fsyntax-only", source});
+                QVERIFY2(seen.succeeded() && seen.errors.isEmpty(), seen.errors);
+            }
+        }
+    }
+
     void givesTheSameBytesForTheSameAnswers()
     {
         const Workshop workshop;
@@ -149,6 +174,98 @@ private slots:
         }
         QVERIFY(texts[0].contains("\n\"-DAA=1\"\n\"-DCC=2\"\n"));
         QCOMPARE(texts[1], texts[0]);
+    }
+
+    void generatesOnceMore()
+    {
+        const Workshop workshop;
+        workshop.write("-op/a.h", "#if AA\n#endif\n");
+        workshop.write("b.h", "");
+        workshop.write("t.p_c", "-DTEMPLATE=1\n");
+        const ProgramRun generated =
+            workshop.generate("kov", "gcc -DODD=\"x -include b.h",
+                              {"-xd", "AA=\"1,2\",BB", "-xs", "-std=c99", "-tpl", "t.p_c", "-fi",
+                               "b.h", "-sub", "-op"},
+                              {"-i", "-op"});
+        QVERIFY2(generated.succeeded(), generated.output);
+        const QByteArray text = readTestFile(workshop.personality);
+        const QString elsewhere = workshop.folder.filePath("elsewhere");
+        QDir().mkdir(elsewhere);
+        QFile::rename(workshop.personality, elsewhere + "/moved.p_c");
+        QFile::remove(workshop.folder.filePath("compile.bat"));
+        const auto again = [&elsewhere](const QStringList &more) {
+            return platform::runProgram(QStringList {GENERATOR, "again", "moved.p_c"} + more,
+                                        elsewhere, 600'000);
+        };
+        const ProgramRun same = again({"--verify"});
+        QVERIFY2(same.succeeded() && same.output.endsWith("\nNothing has changed.\n"), same.output);
+        QVERIFY(!QFile::exists(workshop.folder.filePath("compile.bat")));
+
+        QByteArray changed = text;
+        changed.replace("\"-DBB=1\"\n", "").replace(" int, size 4", " int, size 5");
+        writeTestFile(elsewhere + "/moved.p_c", changed);
+        const ProgramRun differs = again({"--verify"});
+        QCOMPARE(differs.exitCode, 3);
+        QVERIFY2(differs.output.endsWith("\ntype: - int, size 5, alignment 4\n"
+                                         "type: + int, size 4, alignment 4\n"
+                                         "Predefined macros: + \"-DBB=1\"\n"),
+                 differs.output);
+        QCOMPARE(readTestFile(elsewhere + "/moved.p_c"), changed);
+
+        const ProgramRun once = again({});
+        QVERIFY2(once.succeeded(), once.output);
+        QCOMPARE(readTestFile(elsewhere + "/moved.p_c"), text);
+
+        writeTestFile(elsewhere + "/moved.p_c", "-DX=1\n");
+        QCOMPARE(again({}).exitCode, 1);
+        QCOMPARE(readTestFile(elsewhere + "/moved.p_c"), "-DX=1\n");
+    }
+
+    void checksWhetherClangSeesTheSame()
+    {
+        const Workshop workshop;
+        const ProgramRun generated = workshop.generate("kov", "gcc -I include");
+        QVERIFY2(generated.succeeded(), generated.output);
+        const QString says =
+            QString("/sub folder/mine.p_c\"? -fsyntax-only FILE\n  clang-tidy FILE -- --config "
+                    ".*\n(.*\n)?clang \\d+ accepts \\d+ of the \\d+ headers that the compiler "
+                    "accepts\\.\n");
+        QVERIFY2(QString(generated.output).contains(QRegularExpression(says)), generated.output);
+        workshop.write("same.c", "#include <stdarg.h>\n#include <stdio.h>\n#include \"x.h\"\n"
+                                 "int f(FILE *a, ...) { va_list b; va_start(b, a); return X; }\n");
+        workshop.write("include/x.h", "#define X Y\n");
+        workshop.write("other.c", "#ifdef __has_feature\nint a;\n#else\nint b;\n#endif\n");
+        workshop.write("nested.c", "void f(void) { void g(void) { } }\n");
+        workshop.write("wrong.c", "int int;\n");
+        const QString folder = QDir(workshop.folder.path()).canonicalPath();
+        workshop.write("all.json", ("[{\"directory\": \"" + folder
+                                    + "\", \"file\": \"same.c\", \"command\": "
+                                      "\"gcc -Iinclude -DY=1 -MD -o same.o -c same.c\"}]")
+                                       .toUtf8());
+        const QStringList before = QDir(folder).entryList();
+        const auto check = [&](const QStringList &sources) {
+            return workshop.run(QStringList {GENERATOR, "check", workshop.personality} + sources);
+        };
+
+        const ProgramRun all = check({"other.c", "nested.c", "wrong.c", "--json", "out.json"});
+        QCOMPARE(all.exitCode, 1);
+        for (const QByteArray line :
+             {"/other.c:4, where the compiler has \"b\" and clang has \"a\"\n",
+              "/nested.c: other: ", "/wrong.c: rejected by the compiler: ",
+              "clang 14 accepts 1 of the 2 sources", "Why clang rejects them:\n      1  other\n"})
+            QVERIFY2(all.output.contains(line), all.output);
+        QVERIFY(workshop.read("out.json").contains("\"rejected-by-clang\": 1"));
+        QFile::remove(workshop.folder.filePath("out.json"));
+
+        const ProgramRun listed = check({"all.json"});
+        QVERIFY2(listed.succeeded() && listed.output.contains("same.c: same\n"), listed.output);
+        QCOMPARE(QDir(folder).entryList(), before);
+        const ProgramRun blind = check({"other.c", "--preprocess", "--no-such"});
+        QVERIFY2(blind.succeeded() && blind.output.contains("not compared\n"), blind.output);
+        QCOMPARE(check({"nowhere.json"}).exitCode, 3);
+        QCOMPARE(workshop.run({"env", "PATH=", GENERATOR, "check", workshop.personality, "same.c"})
+                     .exitCode,
+                 3);
     }
 
     void refusesFilesThatAreMissing_data()
@@ -280,7 +397,7 @@ private slots:
         QDir(workshop.folder.path()).mkdir("temporary");
         qputenv("TMPDIR", workshop.folder.filePath("temporary").toLocal8Bit());
         qputenv("BEXLOR_LEARN_ONLY", "1");
-        const QRegularExpression mayDiffer("^#: command|" + open);
+        const QRegularExpression mayDiffer("^#: (command|answers) |" + open);
         static QStringList right; // of the same compiler when nothing ails it
         if (right.isEmpty()) {
             QVERIFY(workshop.generate("kov", "tcc -nostdinc").succeeded());
@@ -363,7 +480,7 @@ private slots:
         QVERIFY2(run.succeeded(), run.output);
         QCOMPARE(run.output.count("it has a control character in its name"), 3);
         const QString text = workshop.read("sub folder/mine.p_c");
-        QVERIFY2(!text.contains("EVIL") && text.contains("\"-DEVEN=1\""), qPrintable(text));
+        QVERIFY2(!text.contains("\n-DEVIL") && text.contains("\"-DEVEN=1\""), qPrintable(text));
         QVERIFY(text.contains("\n#: macro ODD undetermined\n"));
         QVERIFY(text.contains("\n#: version odd [31mcc 1.2\n"));
         for (const QChar character : text)
@@ -389,13 +506,28 @@ private slots:
             qPrintable(said));
     }
 
-    void refusesAWrongList()
+    void saysHowItIsCalled_data()
     {
+        QTest::addColumn<QString>("word");
+        QTest::addColumn<int>("exitCode");
+        QTest::addColumn<QByteArray>("prints");
+        QTest::addColumn<QByteArray>("reports");
+        const QByteArray usage = "\nusage: Bexlor.exe kov|kovpp ";
+        row("a wrong list", "kov", 2, QByteArray(), "last one: kov" + usage);
+        row("help", "--help", 0, usage, QByteArray());
+        row("version", "--version", 0, QByteArray("Bexlor 2."), QByteArray());
+    }
+    void saysHowItIsCalled()
+    {
+        QFETCH(QString, word);
+        QFETCH(QByteArray, prints);
+        QFETCH(QByteArray, reports);
         const Workshop workshop;
-        const ProgramRun refused = workshop.run({GENERATOR, "kov"});
-        QCOMPARE(refused.exitCode, 2);
-        QVERIFY(refused.errors.startsWith("usage: Bexlor.exe"));
-        QVERIFY(refused.output.isEmpty());
+        const ProgramRun run = workshop.run({GENERATOR, word});
+        QTEST(run.exitCode, "exitCode");
+        QVERIFY2(run.output.contains(prints), run.output);
+        QVERIFY2(run.errors.contains(reports), run.errors);
+        QVERIFY(run.output.isEmpty() == prints.isEmpty());
     }
 };
 

@@ -23,6 +23,7 @@ Personality fullPersonality()
     arguments.forceIncludeFile = "/first \"one\".h";
     arguments.substituteHeaders = QString::fromUtf8("/gr\303\266\303\237e \\x");
     arguments.headerDirectories = QStringList {"/usr/include"};
+    arguments.answers = {"/x", {"", "a\nb \\ \"c\"", QString::fromUtf8("\303\274\t")}};
     Facts facts;
     facts.versionLine = "cc \377 1.2, size 3";
     facts.macros.known = {{"A", "\"a \\\"b\\\" \\\\\" = 1"}, {"F(a,b)", "a##b #a"}, {"EMPTY", ""}};

@@ -1,0 +1,253 @@
+#include "token_stream.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace {
+
+// Longest first. ISO C, "Punctuators", and ISO C++, "Operators and punctuators".
+const char *const punctuators[] = {
+    "%:%:", "...", "<<=", ">>=", "->*", "<=>", "->", "++", "--", "<<", ">>",
+    "<=",   ">=",  "==",  "!=",  "&&",  "||",  "*=", "/=", "%=", "+=", "-=",
+    "&=",   "^=",  "|=",  "##",  "::",  ".*",  "<:", ":>", "<%", "%>", "%:"};
+
+// Pragmas that a preprocessor obeys, and may then write or not.
+const char *const pragmasOfThePreprocessor[] = {
+    "once", "push_macro", "pop_macro", "GCC system_header", "GCC poison", "GCC warning",
+};
+
+// A declaration that a header of the C library leaves out behind the GNU compilers' <stdarg.h>, and
+// repeats behind clang's, which does not define the macro that it looks for.
+const char *const repeatedDeclaration[] = {"typedef", "__gnuc_va_list", "va_list", ";"};
+
+const char *const literalPrefixes[] = {"L", "u", "U", "u8", "R", "LR", "uR", "UR", "u8R"};
+
+bool isOfIdentifier(char character)
+{
+    const auto byte = static_cast<unsigned char>(character);
+    return std::isalnum(byte) || character == '_' || character == '$' || byte >= 0x80;
+}
+
+bool isDigit(char character)
+{
+    return character >= '0' && character <= '9';
+}
+
+template <typename Words>
+bool isOneOf(const Words &words, QByteArrayView word)
+{
+    return std::find(std::begin(words), std::end(words), word) != std::end(words);
+}
+
+/// The tokens of a preprocessed source, one after the other.
+class TokenStream
+{
+public:
+    explicit TokenStream(const PreprocessedSource &source)
+        : m_text(source.text), m_ownHeaders(source.ownHeaders)
+    { }
+
+    /// The next token that counts, empty at the end.
+    QByteArrayView next();
+
+    QString file() const { return m_file; } ///< of the last token, like the next
+    int line() const { return m_line; }
+
+private:
+    char at(qsizetype offset) const
+    {
+        return m_place + offset < m_text.size() ? m_text[m_place + offset] : '\0';
+    }
+
+    QByteArrayView takeToken();
+    bool passRepeatedDeclaration();
+    bool passSpace();
+    bool passDirective();
+    void readMarker(QByteArrayView directive);
+    qsizetype tokenSize() const;
+    qsizetype wordSize() const;
+    qsizetype numberSize() const;
+    qsizetype literalSize(qsizetype start) const;
+    qsizetype rawLiteralSize(qsizetype start) const;
+    qsizetype punctuatorSize() const;
+
+    QByteArrayView m_text;
+    QStringList m_ownHeaders;
+    qsizetype m_place = 0;
+    bool m_atLineStart = true;
+    bool m_isOwnHeader = false;
+    QString m_file;
+    int m_line = 1;
+};
+
+QByteArrayView TokenStream::next()
+{
+    while (passRepeatedDeclaration()) { }
+    return takeToken();
+}
+
+bool TokenStream::passRepeatedDeclaration()
+{
+    TokenStream ahead = *this;
+    for (const char *expected : repeatedDeclaration) {
+        if (ahead.takeToken() != expected)
+            return false;
+    }
+    *this = ahead;
+    return true;
+}
+
+QByteArrayView TokenStream::takeToken()
+{
+    QByteArrayView token;
+    do {
+        while (passSpace() || passDirective()) { }
+        token = m_text.sliced(m_place, tokenSize());
+        m_line += int(token.count('\n'));
+        m_place += token.size();
+        m_atLineStart = false;
+    } while (m_isOwnHeader && !token.isEmpty());
+    return token;
+}
+
+bool TokenStream::passSpace()
+{
+    const qsizetype start = m_place;
+    while (m_place < m_text.size() && std::isspace(static_cast<unsigned char>(at(0)))) {
+        if (m_text[m_place++] == '\n') {
+            ++m_line;
+            m_atLineStart = true;
+        }
+    }
+    return m_place != start;
+}
+
+/// Passes a line marker or a pragma that is set aside, if that comes next.
+bool TokenStream::passDirective()
+{
+    if (!m_atLineStart || at(0) != '#')
+        return false;
+    const qsizetype end = m_text.indexOf('\n', m_place);
+    const QByteArrayView line = m_text.sliced(m_place, (end < 0 ? m_text.size() : end) - m_place);
+    QByteArrayView directive = line.sliced(1).trimmed();
+    if (directive.startsWith("pragma ")) {
+        const QByteArrayView pragma = directive.sliced(7).trimmed();
+        const bool isSetAside =
+            std::any_of(std::begin(pragmasOfThePreprocessor), std::end(pragmasOfThePreprocessor),
+                        [pragma](const char *start) { return pragma.startsWith(start); });
+        m_place += isSetAside ? line.size() : 0;
+        return isSetAside;
+    }
+    if (directive.startsWith("line "))
+        directive = directive.sliced(5).trimmed();
+    if (directive.isEmpty() || !isDigit(directive.front()))
+        return false;
+    readMarker(directive);
+    m_place += line.size();
+    return true;
+}
+
+/// Takes the place that a marker such as "12 \"x.h\" 3" gives to the line behind it.
+void TokenStream::readMarker(QByteArrayView directive)
+{
+    const qsizetype quote = directive.indexOf('"');
+    const qsizetype digits = directive.indexOf(' ');
+    m_line = directive.first(digits < 0 ? directive.size() : digits).toInt() - 1;
+    if (quote < 0)
+        return;
+    const qsizetype end = directive.lastIndexOf('"');
+    QByteArray name =
+        directive.sliced(quote + 1, std::max<qsizetype>(end - quote - 1, 0)).toByteArray();
+    m_file = QString::fromLocal8Bit(name.replace("\\\\", "\\"));
+    m_isOwnHeader =
+        std::any_of(m_ownHeaders.begin(), m_ownHeaders.end(), [this](const QString &folder) {
+            return m_file.startsWith(folder + QLatin1Char('/'));
+        });
+}
+
+qsizetype TokenStream::tokenSize() const
+{
+    if (m_place >= m_text.size())
+        return 0;
+    if (isDigit(at(0)) || (at(0) == '.' && isDigit(at(1))))
+        return numberSize();
+    if (isOfIdentifier(at(0)))
+        return wordSize();
+    if (at(0) == '"' || at(0) == '\'')
+        return literalSize(0);
+    return punctuatorSize();
+}
+
+/// The size of an identifier, or of the literal that it is the prefix of.
+qsizetype TokenStream::wordSize() const
+{
+    qsizetype size = 1;
+    while (isOfIdentifier(at(size)))
+        ++size;
+    const bool isBeforeLiteral = at(size) == '"' || at(size) == '\'';
+    if (!isBeforeLiteral || !isOneOf(literalPrefixes, m_text.sliced(m_place, size)))
+        return size;
+    return at(size - 1) == 'R' ? rawLiteralSize(size) : literalSize(size);
+}
+
+qsizetype TokenStream::numberSize() const
+{
+    qsizetype size = 1;
+    while (true) {
+        const bool isSign =
+            (at(size) == '+' || at(size) == '-') && QByteArrayView("eEpP").contains(at(size - 1));
+        const bool isSeparator = at(size) == '\'' && isOfIdentifier(at(size + 1));
+        if (!isSign && !isSeparator && at(size) != '.' && !isOfIdentifier(at(size)))
+            return size;
+        ++size;
+    }
+}
+
+/// The size of a literal that is quoted from \a start on. One that does not end ends with its line.
+qsizetype TokenStream::literalSize(qsizetype start) const
+{
+    const char quote = at(start);
+    qsizetype size = start + 1;
+    while (m_place + size < m_text.size() && at(size) != quote && at(size) != '\n')
+        size += at(size) == '\\' ? 2 : 1;
+    size += at(size) == quote ? 1 : 0;
+    return std::min(size, m_text.size() - m_place);
+}
+
+qsizetype TokenStream::rawLiteralSize(qsizetype start) const
+{
+    const qsizetype open = m_text.indexOf('(', m_place + start);
+    if (open < 0)
+        return literalSize(start);
+    const QByteArray end =
+        ')' + m_text.sliced(m_place + start + 1, open - m_place - start - 1).toByteArray() + '"';
+    const qsizetype close = m_text.indexOf(end, open);
+    return close < 0 ? literalSize(start) : close + end.size() - m_place;
+}
+
+qsizetype TokenStream::punctuatorSize() const
+{
+    for (const QByteArrayView punctuator : punctuators) {
+        if (m_text.sliced(m_place).startsWith(punctuator))
+            return punctuator.size();
+    }
+    return 1;
+}
+
+} // namespace
+
+std::optional<TokenDifference> firstDifference(const PreprocessedSource &ofCompiler,
+                                               const PreprocessedSource &ofClang)
+{
+    TokenStream compiler(ofCompiler), clang(ofClang);
+    while (true) {
+        const QByteArrayView one = compiler.next(), other = clang.next();
+        if (one != other) {
+            const TokenStream &place = one.isEmpty() ? clang : compiler;
+            return TokenDifference {place.file(), place.line(), one.toByteArray(),
+                                    other.toByteArray()};
+        }
+        if (one.isEmpty())
+            return {};
+    }
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QByteArray>
+#include <QStringList>
+#include <optional>
+
+/// What a preprocessor has written.
+struct PreprocessedSource
+{
+    QByteArray text;
+    /// Folders with headers that belong to one compiler and that another has its own of. What
+    /// comes from there is passed over.
+    QStringList ownHeaders;
+};
+
+/// Where two compilers begin to see different code.
+struct TokenDifference
+{
+    QString file; ///< by the compiler's line markers, like the next
+    int line = 0;
+    QByteArray ofCompiler; ///< token; empty at the end of its source, like the next
+    QByteArray ofClang;
+};
+
+/// The first place where the tokens of two sources differ, white space, line markers and pragmas
+/// that are for the preprocessor alone set aside. Nothing when they are the same to the end.
+std::optional<TokenDifference> firstDifference(const PreprocessedSource &ofCompiler,
+                                               const PreprocessedSource &ofClang);

@@ -1,0 +1,109 @@
+#include "checked_source.h"
+#include "rejection.h"
+#include "token_stream.h"
+
+#include "row.h"
+
+#include <QTest>
+
+class TestCheck : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void comparesTokens_data()
+    {
+        QTest::addColumn<QByteArray>("ofCompiler");
+        QTest::addColumn<QByteArray>("ofClang");
+        QTest::addColumn<QString>("difference"); // FILE:LINE and both tokens, or empty
+        const auto row = [](const char *name, const QByteArray &ofCompiler,
+                            const QByteArray &ofClang, const QString &difference) {
+            QTest::newRow(name) << ofCompiler << ofClang << difference;
+        };
+        row("white space and markers", "# 1 \"x.c\"\nint  a;\n# 9 \"y.h\" 2\n b", "int a ;\n\nb\n",
+            "");
+        row("place", "# 1 \"x.c\"\na\n#line 7 \"odd \\\\ y.h\"\nb\nc\n", "a b d",
+            "odd \\ y.h:8 c d");
+        row("an end", "# 1 \"x.c\"\na\nb", "a", "x.c:2 b ");
+        row("the other end", "a", "# 5 \"x.c\"\na b", "x.c:5  b");
+        row("glued signs", "# 1 \"x.c\"\na + +b", "a ++b", "x.c:1 + ++");
+        row("numbers", "1.5e+3+x 0x1p-2 1'000", "1.5e+3 +x 0x1p-2 1'000", "");
+        row("literals", "\"a  b\" L'\\'' /", "\"a  b\" L'\\'' /", "");
+        row("space in a literal", "# 1 \"x.c\"\n\"a  b\"", "\"a b\"", "x.c:1 \"a  b\" \"a b\"");
+        row("raw literal", "# 1 \"x.c\"\nR\"(\"\n#)\" a\nb", "R\"(\"\n#)\"  a c", "x.c:3 b c");
+        row("literals that do not end", "'\na R\"x \\", "'\na R\"x \\", "");
+        row("pragmas", "#pragma GCC system_header\n#pragma pack(1)\na", "#pragma pack(1)\na", "");
+        row("a pragma for the compiler", "# 1 \"x.c\"\n#pragma pack(1)\na", "a", "x.c:1 # a");
+        row("a repeated declaration", "a typedef int va_list; b",
+            "a typedef __gnuc_va_list va_list; typedef int va_list; b", "");
+        row("headers of its own", "# 1 \"/own/stddef.h\" 1\na b\n# 2 \"x.c\" 2\nc",
+            "# 1 \"/clang/stddef.h\" 1\nz\n# 2 \"x.c\" 2\nc", "");
+    }
+    void comparesTokens()
+    {
+        QFETCH(QByteArray, ofCompiler);
+        QFETCH(QByteArray, ofClang);
+        const auto found = firstDifference({ofCompiler, {"/own"}}, {ofClang, {"/clang"}});
+        const QString shown = !found ? QString()
+                                     : QString("%1:%2 %3 %4")
+                                           .arg(found->file)
+                                           .arg(found->line)
+                                           .arg(found->ofCompiler, found->ofClang);
+        QTEST(shown, "difference");
+    }
+
+    void tellsTheKindOfARejection_data()
+    {
+        QTest::addColumn<QByteArray>("message");
+        for (const auto &[message, kind] : {
+                 std::pair("clang: error: unknown argument: '-mx'", "option"),
+                 {"x.c:1:2: fatal error: 'a.h' file not found", "header not found"},
+                 {"x.c:1:9: error: unknown type name '__far'", "keyword"},
+                 {"x.c:1:9: error: invalid output constraint '=z' in asm", "inline assembler"},
+                 {"x.c:1:9: error: 'weak' attribute only applies to", "attribute"},
+                 {"x.c:1:9: error: use of undeclared identifier '__builtin_x'", "builtin"},
+                 {"x.h:1:2: error: \"own words\"", "other"},
+                 {"PLEASE submit a report", "other"},
+             })
+            row(kind, QByteArray(message));
+    }
+    void tellsTheKindOfARejection()
+    {
+        QFETCH(QByteArray, message);
+        const Rejection rejection =
+            rejectionIn("x.c:1:1: warning: no error\n" + message + "\nx.c:2:1: error: asm\n");
+        QVERIFY(message.startsWith("PLEASE") || rejection.message == message);
+        const QString kind = QTest::currentDataTag();
+        QVERIFY(message.startsWith("PLEASE") || rejection.kind == kind);
+    }
+
+    void readsADatabase()
+    {
+        Compiler compiler;
+        compiler.layout = {"-o", "-c", "-D", ".o", "%c %o %e %d%j %s "};
+        QByteArray json =
+            "[{'directory': '/p', 'file': 'a.c', 'arguments': ['cc', '-Iinc', '-isystem', 's', "
+            "'-O2', '-include', 'f.h', '-DA=1', '-D', 'B', '-MD', '-MF', 'a.d', '-o', 'a.o', '-c', "
+            "'a.c']},\n"
+            "{'directory': '/p', 'file': 'b.cpp', 'command': 'c++ -c b.cpp'},\n"
+            "{'directory': '/q', 'file': 'b.c', 'command': "
+            "'\\'c c\\' -DX=\\\\\\'y\\\\\\' \\'-DP=a b\\' -ob.o b.c'}]";
+        json.replace('\'', '"');
+        const auto sources = sourcesOfDatabase(json, compiler, "/tmp");
+        QVERIFY(sources);
+        QCOMPARE(sources->size(), 2);
+        const CheckedSource &first = sources->first(), &second = sources->last();
+        QCOMPARE(first.directory + first.file, "/pa.c");
+        QCOMPARE(first.command.join(' '), "cc -Iinc -isystem s -O2 -include f.h -DA=1 -D B -c a.c "
+                                          "-o /tmp/0.o");
+        QCOMPARE(first.bareCommand.join(' '),
+                 "cc -Iinc -isystem s -O2 -include f.h -DA=1 -D B a.c");
+        QCOMPARE(first.clangOptions.join(' '), "-Iinc -isystem s -include f.h -DA=1 -D B a.c");
+        QCOMPARE(second.bareCommand, QStringList({"c c", "-DX=\"y\"", "-DP=a b", "b.c"}));
+        QVERIFY(!sourcesOfDatabase("{}", compiler, "/tmp"));
+        QVERIFY(!sourcesOfDatabase("[{}]", compiler, "/tmp"));
+    }
+};
+
+QTEST_APPLESS_MAIN(TestCheck)
+#include "test_check.moc"
