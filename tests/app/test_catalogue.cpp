@@ -165,6 +165,8 @@ private slots:
             dialog.buttonCancel->click();
         });
         QCOMPARE(saved, before);
+        // It is the chosen one now, and does not go with the product.
+        QVERIFY(!messageOf([&] { user->KOVRadioButton->click(); }).isEmpty());
 
         folder.write("bin/compilers.txt", QByteArray("\xff\xfe<\0C\0", 6));
         QVERIFY(

@@ -4,9 +4,6 @@
 #include "files.h"
 #include "row.h"
 
-#include <QTemporaryDir>
-#include <QTest>
-
 namespace {
 
 QList<Macro> macros(const QByteArray &names)
@@ -39,15 +36,8 @@ class TestClang : public QObject
 private slots:
     void findsTheTarget_data()
     {
-        QTest::addColumn<QByteArray>("defined");
-        QTest::addColumn<QList<int>>("sizes");
-        QTest::addColumn<ByteOrder>("order");
-        QTest::addColumn<QByteArray>("target");
-        using Sizes = QList<int>;
-        const auto row = [](const char *name, const QByteArray &defined, const Sizes &sizes,
-                            ByteOrder order, const QByteArray &target) {
-            QTest::newRow(name) << defined << sizes << order << target;
-        };
+        const Columns<QByteArray, QList<int>, ByteOrder, QByteArray> row("defined", "sizes",
+                                                                         "order", "target");
         const ByteOrder little = ByteOrder::LittleEndian, big = ByteOrder::BigEndian;
         row("Linux", "__x86_64__ __linux__", {}, little, "x86_64-unknown-linux-gnu");
         row("x32", "__x86_64__ __ILP32__ __linux__", {}, little, "x86_64-unknown-linux-gnux32");
@@ -82,12 +72,10 @@ private slots:
 
     void takesTheSameCode_data()
     {
-        QTest::addColumn<Facts>("facts");
-        QTest::addColumn<bool>("isCpp");
-        QTest::addColumn<QByteArray>("code");
+        const Columns<Facts, bool, QByteArray> add("facts", "isCpp", "code");
         Facts facts;
-        const auto row = [&facts](const char *name, bool isCpp, const QByteArray &code) {
-            QTest::newRow(name) << facts << isCpp << code;
+        const auto row = [&](const char *name, bool isCpp, const QByteArray &code) {
+            add(name, facts, isCpp, code);
         };
         facts.macros.known = macros("__arm__ __ELF__ __STDC_VERSION__=201112L __cplusplus=201703L");
         facts.types = types({4, 4, 4, 8, 8});

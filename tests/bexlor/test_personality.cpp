@@ -7,16 +7,6 @@
 
 namespace {
 
-/// The macros that clang has with the personality \a text, in the language of \a source.
-platform::ProgramRun macrosOfClangWith(const QByteArray &text, const QString &source)
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("odd \"name\".p_c");
-    writeTestFile(path, text);
-    return platform::runProgram({"clang", "--config", path, "-dM", "-E", source}, folder.path(),
-                                60'000);
-}
-
 QList<Macro> sorted(QList<Macro> macros)
 {
     std::sort(macros.begin(), macros.end(),
@@ -119,8 +109,11 @@ private slots:
         Facts facts;
         facts.macros.known = macrosIn(platform::runProgram(words, folder.path(), 60'000).output);
         QVERIFY(facts.macros.known.size() > 200);
-        const platform::ProgramRun seen = macrosOfClangWith(
-            personalityText(composePersonality(arguments, facts, {}, "-DTEMPLATE=1")), source);
+        const QString path = folder.filePath("odd \"name\".p_c");
+        writeTestFile(path,
+                      personalityText(composePersonality(arguments, facts, {}, "-DTEMPLATE=1")));
+        const platform::ProgramRun seen = platform::runProgram(
+            {"clang", "--config", path, "-dM", "-E", source}, folder.path(), 60'000);
         QCOMPARE(seen.errors, QByteArray());
         QList<Macro> macros = macrosIn(seen.output);
         const QList<Macro> added = keywordDefinitions(facts);
