@@ -1,7 +1,7 @@
 ; The installer for one user: no administrator's rights, and a folder in which the wizard may write.
-; Defined on the command line: VERSION (three numbers); FOLDER, the program folder; SETUP, the file to
-; make; REMOVAL, a file of instructions that take away what is installed; SIGN, a command to which a
-; program file is added.
+; Defined on the command line: VERSION, three numbers; FOLDER, the program folder; SETUP, the file to
+; make; REMOVAL, a file of instructions that take away what is installed; SIGN, a command to which
+; a program file is added.
 Unicode true
 Target amd64-unicode
 !include MUI2.nsh
@@ -98,8 +98,8 @@ Section
     WriteRegDWORD HKCU "${entry}" "EstimatedSize" $0
 SectionEnd
 
-; Only what has been installed goes. The catalogue, the settings and everything else that the user has
-; put into the folder stay, and with them the folders that hold it.
+; Only what has been installed goes. The catalogue, the settings and everything else that the user
+; has put into the folder stay, and with them the folders that hold it.
 Section Uninstall
     !insertmacro wait_for_programs
     SetOutPath $TEMP ; a folder that is in use cannot be removed
