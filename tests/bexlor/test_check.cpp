@@ -4,6 +4,8 @@
 
 #include "row.h"
 
+#include <QTest>
+
 class TestCheck : public QObject
 {
     Q_OBJECT
@@ -11,8 +13,13 @@ class TestCheck : public QObject
 private slots:
     void comparesTokens_data()
     {
-        // difference: FILE:LINE and both tokens, or empty
-        const Columns<QByteArray, QByteArray, QString> row("ofCompiler", "ofClang", "difference");
+        QTest::addColumn<QByteArray>("ofCompiler");
+        QTest::addColumn<QByteArray>("ofClang");
+        QTest::addColumn<QString>("difference"); // FILE:LINE and both tokens, or empty
+        const auto row = [](const char *name, const QByteArray &ofCompiler,
+                            const QByteArray &ofClang, const QString &difference) {
+            QTest::newRow(name) << ofCompiler << ofClang << difference;
+        };
         row("white space and markers", "# 1 \"x.c\"\nint  a;\n# 9 \"y.h\" 2\n b", "int a ;\n\nb\n",
             "");
         row("place", "# 1 \"x.c\"\na\n#line 7 \"odd \\\\ y.h\"\nb\nc\n", "a b d",
@@ -47,7 +54,7 @@ private slots:
 
     void tellsTheKindOfARejection_data()
     {
-        const Columns<QByteArray> row("message");
+        QTest::addColumn<QByteArray>("message");
         for (const auto &[message, kind] : {
                  std::pair("clang: error: unknown argument: '-mx'", "option"),
                  {"x.c:1:2: fatal error: 'a.h' file not found", "header not found"},
