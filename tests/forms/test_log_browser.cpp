@@ -99,9 +99,7 @@ private slots:
         const QString shown = browser.toPlainText();
         QVERIFY(shown.endsWith("\nlast"));
         QCOMPARE(shown.startsWith("first"), showsAll);
-        static const QRegularExpression remark(
-            "^\\[\\d\\.\\d million older characters are not shown");
-        QCOMPARE(remark.match(shown).hasMatch(), !showsAll);
+        QCOMPARE(shown.left(100).contains("older characters are not shown"), !showsAll);
     }
 
     void keepsThePlaceOfAReader()
