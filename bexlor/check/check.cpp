@@ -1,5 +1,6 @@
 #include "check.h"
 
+#include "clang.h"
 #include "probe_runner.h"
 #include "text_file.h"
 
@@ -176,7 +177,8 @@ QStringList ownHeadersOf(const Personality &personality)
 {
     QStringList folders;
     for (const QString &directory : personality.facts.searchPath.directories) {
-        if (personality.searchPath.contains(Option {"-idirafter", directory.toUtf8()}))
+        if (personality.searchPath.contains(Option {"-idirafter", directory.toUtf8()})
+            && holdsIntrinsics(directory))
             folders << directory;
     }
     return folders;

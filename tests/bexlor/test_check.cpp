@@ -14,7 +14,7 @@ class TestCheck : public QObject
 private slots:
     void comparesTokens_data()
     {
-        // The last is FILE:LINE and both tokens, or empty.
+        // difference: FILE:LINE and both tokens, or empty
         const Columns<QByteArray, QByteArray, QString> row("ofCompiler", "ofClang", "difference");
         row("white space and markers", "# 1 \"x.c\"\nint  a;\n# 9 \"y.h\" 2\n b", "int a ;\n\nb\n",
             "");
@@ -51,7 +51,7 @@ private slots:
 
     void tellsTheKindOfARejection_data()
     {
-        QTest::addColumn<QByteArray>("message");
+        const Columns<QByteArray> row("message");
         for (const auto &[message, kind] : {
                  std::pair("clang: error: unknown argument: '-mx'", "option"),
                  {"x.c:1:2: fatal error: 'a.h' file not found", "header not found"},
