@@ -1,5 +1,6 @@
 #include "calyx.h"
 
+#include "argument_texts.h"
 #include "comma_list.h"
 #include "command_order.h"
 #include "form_answers.h"

@@ -2,18 +2,17 @@
 //
 // Progress goes to the standard output, one line for each step, which grows while the step goes on.
 // The command attempted, and what it wrote, are left in the working directory as compile.bat,
-// stdout.log and stderr.log. The exit status is 0 when the personality has been written, 1 when a
-// step failed, 2 for a command line that usage() does not allow, and 3 when a personality that was
-// to be verified has changed.
+// stdout.log and stderr.log. Behind a command word it does other things with a personality; help()
+// lists them, ExitStatus says what the program returns.
 
 #include "again.h"
+#include "catalogue_answers.h"
 #include "check_steps.h"
 #include "process_tree.h"
 #include "request.h"
 #include "steps.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QTemporaryDir>
 #include <cstdio>
 #include <functional>
@@ -74,109 +73,131 @@ std::optional<QByteArray> makePersonality(Progress &progress, const Arguments &a
     return textOfPersonality(*usable, compiler, *facts);
 }
 
-bool generate(Progress &progress, const Arguments &arguments, const QString &folder)
+ExitStatus generate(Progress &progress, const Arguments &arguments, const QString &folder)
 {
     removeLogs();
     const std::optional<QByteArray> text = makePersonality(progress, arguments, folder, u"."_s);
     if (!text || !writePersonality(progress, arguments.personality, *text))
-        return false;
-    checkHeaders(progress, arguments, folder);
-    return true;
+        return ExitStatus::Failed;
+    checkHeaders(progress, arguments, *text, folder);
+    return ExitStatus::Done;
 }
 
-/// Says what has changed since a personality was written, and returns the exit status.
-int verify(Progress &progress, const EarlierPersonality &earlier, const QString &folder)
+/// Says what has changed since a personality was written.
+ExitStatus verify(Progress &progress, const EarlierPersonality &earlier, const QString &folder)
 {
     const std::optional<QByteArray> text =
         makePersonality(progress, earlier.arguments, folder, folder);
     if (!text)
-        return 1;
+        return ExitStatus::Failed;
     const QStringList changes = changesBetween(earlier.text, *text);
     for (const QString &change : changes)
         progress.say(change);
     if (!changes.isEmpty())
-        return 3;
+        return ExitStatus::Missing;
     progress.say(u"Nothing has changed."_s);
-    return 0;
+    return ExitStatus::Done;
 }
 
-/// Does \a work, which is given a folder for temporary files, and returns its exit status.
-int inWorkshop(const std::function<int(Progress &progress, const QString &folder)> &work)
+using Work = std::function<ExitStatus(Progress &progress, const QString &folder)>;
+
+/// Does \a work, which is given a folder for temporary files.
+ExitStatus inWorkshop(const Work &work)
 {
     Progress progress(&print);
     QTemporaryDir workshop;
     if (!workshop.isValid()) {
         progress.say(u"No temporary folder can be made: %1"_s.arg(workshop.errorString()));
-        return 1;
+        return ExitStatus::Failed;
     }
     const platform::ProgramGuard guard(workshop.path());
     const ProgressClock clock(progress);
     return work(progress, workshop.path());
 }
 
-// run() does what a command line asks for, and returns the exit status.
+/// The same with the personality \a path; \a otherwise is the status when that cannot be read.
+ExitStatus withPersonality(
+    const QString &path, ExitStatus otherwise,
+    const std::function<ExitStatus(Progress &progress, const EarlierPersonality &earlier,
+                                   const QString &folder)> &work)
+{
+    const auto read = readEarlierPersonality(path);
+    if (const auto *problem = std::get_if<QString>(&read)) {
+        print(*problem + u'\n');
+        return otherwise;
+    }
+    return inWorkshop([&](Progress &progress, const QString &folder) {
+        return work(progress, std::get<EarlierPersonality>(read), folder);
+    });
+}
 
-int run(const Arguments &arguments)
+// run() does what a command line asks for.
+
+ExitStatus run(const Arguments &arguments)
 {
     return inWorkshop([&arguments](Progress &progress, const QString &folder) {
-        return generate(progress, arguments, folder) ? 0 : 1;
+        return generate(progress, arguments, folder);
     });
 }
 
-int run(const AgainRequest &request)
+ExitStatus run(const AgainRequest &request)
 {
-    const auto read = readEarlierPersonality(request.personality);
-    if (const auto *problem = std::get_if<QString>(&read)) {
-        print(*problem + u'\n');
-        return 1;
-    }
-    const auto &earlier = std::get<EarlierPersonality>(read);
-    return inWorkshop([&](Progress &progress, const QString &folder) {
-        if (!earlier.remark.isEmpty())
-            progress.say(earlier.remark);
-        if (request.verifiesOnly)
-            return verify(progress, earlier, folder);
-        return generate(progress, earlier.arguments, folder) ? 0 : 1;
-    });
+    return withPersonality(
+        request.personality, ExitStatus::Failed,
+        [&request](Progress &progress, const EarlierPersonality &earlier, const QString &folder) {
+            if (!earlier.remark.isEmpty())
+                progress.say(earlier.remark);
+            return request.verifiesOnly ? verify(progress, earlier, folder)
+                                        : generate(progress, earlier.arguments, folder);
+        });
 }
 
-int run(CheckRequest request)
+ExitStatus run(const EntryRequest &request)
 {
-    for (QString *path : {&request.personality, &request.jsonFile}) {
-        if (!path->isEmpty())
-            *path = QDir::current().absoluteFilePath(*path);
-    }
-    for (QString &path : request.sources)
-        path = QDir::current().absoluteFilePath(path);
-    const auto read = readEarlierPersonality(request.personality);
-    if (const auto *problem = std::get_if<QString>(&read)) {
+    const auto answers = answersOfEntry(request.name, request.catalogue, request.personality);
+    if (const auto *problem = std::get_if<QString>(&answers)) {
         print(*problem + u'\n');
-        return 3;
+        return ExitStatus::Failed;
     }
-    const auto &earlier = std::get<EarlierPersonality>(read);
-    return inWorkshop([&](Progress &progress, const QString &folder) {
-        return checkWithPersonality(progress, request, earlier.arguments,
-                                    parsePersonality(earlier.text), folder);
-    });
+    return run(std::get<Arguments>(answers));
 }
 
-int run(const HelpRequest &)
+ExitStatus run(const CheckRequest &request)
+{
+    return withPersonality(
+        request.personality, ExitStatus::Missing,
+        [&request](Progress &progress, const EarlierPersonality &earlier, const QString &folder) {
+            return checkWithPersonality(progress, request, earlier.arguments, earlier.content,
+                                        folder);
+        });
+}
+
+ExitStatus run(const ExportRequest &request)
+{
+    return withPersonality(
+        request.personality, ExitStatus::Missing,
+        [&request](Progress &progress, const EarlierPersonality &earlier, const QString &folder) {
+            return exportPersonality(progress, request, earlier.arguments, earlier.content, folder);
+        });
+}
+
+ExitStatus run(const HelpRequest &)
 {
     print(help() + u'\n');
-    return 0;
+    return ExitStatus::Done;
 }
 
-int run(const VersionRequest &)
+ExitStatus run(const VersionRequest &)
 {
     print(u"Bexlor " BEXLOR_VERSION "\n"_s);
-    return 0;
+    return ExitStatus::Done;
 }
 
-int run(const UsageError &error)
+ExitStatus run(const UsageError &error)
 {
     const QString lines = error.sentence + u'\n' + usage() + u'\n';
     std::fputs(lines.toLocal8Bit().constData(), stderr);
-    return 2;
+    return ExitStatus::Usage;
 }
 
 } // namespace
@@ -185,15 +206,5 @@ int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
     const Request request = parseRequest(application.arguments().mid(1));
-    if (const auto *error = std::get_if<UsageError>(&request))
-        return run(*error);
-    if (const auto *arguments = std::get_if<Arguments>(&request))
-        return run(*arguments);
-    if (const auto *again = std::get_if<AgainRequest>(&request))
-        return run(*again);
-    if (const auto *check = std::get_if<CheckRequest>(&request))
-        return run(*check);
-    if (const auto *help = std::get_if<HelpRequest>(&request))
-        return run(*help);
-    return run(VersionRequest());
+    return int(std::visit([](const auto &wanted) { return run(wanted); }, request));
 }

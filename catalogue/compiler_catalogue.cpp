@@ -71,6 +71,17 @@ CompilerRecord *findRecord(QList<CompilerRecord> &compilers, const QString &fami
     return found == compilers.end() ? nullptr : &*found;
 }
 
+QStringList fieldsWith(const CompilerRecord &record, const QString &text)
+{
+    QStringList lines;
+    for (const Field &field : fields) {
+        const QString &value = record.*field.value;
+        if (value.contains(text))
+            lines << field.tag.opens.sliced(1).chopped(1) + ": "_L1 + value;
+    }
+    return lines;
+}
+
 QStringList namesOf(const QList<CompilerRecord> &compilers, const QString &family)
 {
     QStringList names;

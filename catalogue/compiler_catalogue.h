@@ -44,6 +44,9 @@ struct CompilerCatalogue
 CompilerRecord *findRecord(QList<CompilerRecord> &compilers, const QString &family,
                            const QString &name);
 
+/// The fields of \a record that hold \a text, each as "Field: value".
+QStringList fieldsWith(const CompilerRecord &record, const QString &text);
+
 /// The names of those of \a compilers that are of that family, in their order.
 QStringList namesOf(const QList<CompilerRecord> &compilers, const QString &family);
 

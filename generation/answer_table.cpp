@@ -1,10 +1,10 @@
 #include "answer_table.h"
 
+#include "argument_texts.h"
 #include "calyx_base.h"
 #include "comma_list.h"
 #include "command_order.h"
 #include "compiler_catalogue.h"
-#include "generator_arguments.h"
 
 #include <QCheckBox>
 #include <QLineEdit>

@@ -35,6 +35,7 @@ class Run:
         self.failure = self.seconds = None
         self.folder = tempfile.TemporaryDirectory(dir=place, prefix="run.",
                                                   ignore_cleanup_errors=True)
+        os.chmod(self.folder.name, 0o711)  # some give up root's rights, and must get there still
         self.output = tempfile.TemporaryFile()
         self.start = time.monotonic()
         self.process = subprocess.Popen(

@@ -1,6 +1,5 @@
 #include "again.h"
 
-#include "personality.h"
 #include "text_file.h"
 
 #include <QDir>
@@ -75,19 +74,19 @@ QStringList changesIn(const QByteArray &name, const QList<QByteArray> &before,
 
 std::variant<EarlierPersonality, QString> readEarlierPersonality(const QString &path)
 {
-    const QString absolutePath = QDir::current().absoluteFilePath(path);
-    const platform::FileContent file = platform::readFile(absolutePath);
+    const platform::FileContent file = platform::readFile(path);
     if (file.state != platform::FileContent::Whole)
         return u"The personality cannot be read: %1"_s.arg(path);
-    const CommandLine answers = parsePersonality(file.bytes).answers;
+    const Personality content = parsePersonality(file.bytes);
+    const CommandLine &answers = content.answers;
     if (answers.arguments.isEmpty())
         return u"The personality does not say by which answers it was generated: %1"_s.arg(path);
     const auto parsed = parseArguments(answers.arguments);
     if (const auto *error = std::get_if<UsageError>(&parsed))
         return u"The answers in the personality are not complete. %1"_s.arg(error->sentence);
 
-    EarlierPersonality earlier {file.bytes, std::get<Arguments>(parsed), {}};
-    earlier.arguments.personality = absolutePath;
+    EarlierPersonality earlier {file.bytes, content, std::get<Arguments>(parsed), {}};
+    earlier.arguments.personality = path;
     earlier.arguments.answers = answers;
     if (!QDir::setCurrent(answers.directory))
         earlier.remark =

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "arguments.h"
+#include "personality.h"
 
 #include <optional>
 
@@ -8,12 +9,13 @@
 struct EarlierPersonality
 {
     QByteArray text;
+    Personality content;
     Arguments arguments; ///< by which it was generated, for the same file
     QString remark;      ///< on what is no longer as it was then, or empty
 };
 
-/// Reads the personality \a path, and goes to the folder that it was generated in, where that still
-/// exists. Otherwise a sentence that says why it cannot be generated once more.
+/// Reads the personality \a path, a whole path, and goes to the folder that it was generated in,
+/// where that still exists. Otherwise a sentence that says why it cannot be generated once more.
 std::variant<EarlierPersonality, QString> readEarlierPersonality(const QString &path);
 
 /// What differs between two texts of personalities, a line each: the heading or the word that the

@@ -2,6 +2,8 @@
 
 #include "host_path.h"
 
+#include <QDir>
+
 using namespace Qt::StringLiterals;
 
 QString ArgumentReader::value()
@@ -13,6 +15,11 @@ QString ArgumentReader::value()
 QString ArgumentReader::path()
 {
     return platform::hostPath(value());
+}
+
+QString ArgumentReader::wholePath()
+{
+    return QDir::current().absoluteFilePath(path());
 }
 
 bool ArgumentReader::flag(QLatin1StringView flag)

@@ -13,6 +13,8 @@ public:
     QString value();
     /// The same as the host's path.
     QString path();
+    /// The same as a path that does not depend on the working directory.
+    QString wholePath();
     /// Whether the next argument is \a flag, which is then passed.
     bool flag(QLatin1StringView flag);
     /// One of two words; true for the second.

@@ -2,24 +2,44 @@
 
 #include "arguments.h"
 
-#include <variant>
+// What a command line may ask for. Paths are the host's and do not depend on the working directory.
 
 /// To generate a personality once more.
 struct AgainRequest
 {
-    QString personality;       ///< the host's path
+    QString personality;
     bool verifiesOnly = false; ///< and to write nothing, but tell what has changed
+};
+
+/// To generate the personality of a compiler of the catalogue.
+struct EntryRequest
+{
+    QString name; ///< of the compiler, alone or behind its family and a slash
+    QString catalogue;
+    QString personality;
 };
 
 /// To check whether clang sees code as the compiler of a personality does.
 struct CheckRequest
 {
-    QString personality; ///< the host's path, like all others
+    QString personality;
     QStringList sources; ///< files, or one compilation database
     QString preprocess;  ///< the option that makes the compiler preprocess
+    QString clang;       ///< a program's name or path
     QString jsonFile;    ///< to write the verdicts to, or empty
 
     bool isDatabase() const;
+};
+
+/// To write a personality in the form that another program reads.
+struct ExportRequest
+{
+    enum Format { CompileCommands, Clangd, Cppcheck, VsCode, Json };
+    QString personality;
+    Format format = Json;
+    QString database; ///< a compilation database, or empty
+    QString output;   ///< the file to write; empty for the standard output
+    QString clang;    ///< as above
 };
 
 /// To say how the generator is called.
@@ -33,8 +53,8 @@ struct VersionRequest
 };
 
 /// What a command line asks for.
-using Request =
-    std::variant<UsageError, Arguments, AgainRequest, CheckRequest, HelpRequest, VersionRequest>;
+using Request = std::variant<UsageError, Arguments, AgainRequest, EntryRequest, CheckRequest,
+                             ExportRequest, HelpRequest, VersionRequest>;
 
 /// The lines that say how the generator is called, without a line feed behind the last.
 QString usage();

@@ -1,8 +1,11 @@
 #include "bisection.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
+
+const QByteArray harmless = "extern int calyx_harmless;\n";
 
 /// Those of \a batch, whose items stand one after the other behind \a prelude, that \a lines name.
 Batch itemsOn(const QSet<int> &lines, const QByteArray &prelude, const QList<QByteArray> &items,
@@ -100,6 +103,56 @@ private:
     QList<Batch> m_next;
 };
 
+/// How many of \a suspects, from the first one on, are rejected each for itself: the compiler names
+/// them, and nothing of what stands between them, where it would still be astray.
+qsizetype rejectedForThemselves(const AskProbes &ask, const QByteArray &prelude,
+                                const QList<QByteArray> &items, const Batch &suspects)
+{
+    QList<QByteArray> mixed;
+    for (const int index : suspects)
+        mixed << items[index] << harmless;
+    Batch all(mixed.size());
+    std::iota(all.begin(), all.end(), 0);
+    const ProbeAnswer answer = ask({prelude + mixed.join()}).first();
+    const Batch named = itemsOn(answer.lines, prelude, mixed, all);
+    if (answer.compiled())
+        return 0;
+    qsizetype count = 0;
+    while (count < named.size() && named[count] == 2 * count)
+        ++count;
+    return count;
+}
+
+/// Those of \a suspects for which it takes a probe of their own to tell whether they are rejected.
+Batch doubtful(const AskProbes &ask, const QByteArray &prelude, const QList<QByteArray> &items,
+               const Batch &suspects)
+{
+    Batch open = suspects, alone;
+    while (!open.isEmpty()) {
+        const qsizetype count = rejectedForThemselves(ask, prelude, items, open);
+        if (count < 2)
+            break; // it stops at its first error, goes astray, or names no line
+        open.remove(0, count);
+        // It has stopped after so many errors, or this one is accepted.
+        if (!open.isEmpty())
+            alone << open.takeFirst();
+    }
+    return alone + open;
+}
+
+/// Sets in \a accepted whether \a suspects are accepted apart from one another.
+void confirm(const AskProbes &ask, const QByteArray &prelude, const QList<QByteArray> &items,
+             const Batch &suspects, QList<bool> &accepted)
+{
+    const Batch alone = doubtful(ask, prelude, items, suspects);
+    QList<QByteArray> sources;
+    for (const int index : alone)
+        sources << prelude + items[index];
+    const QList<ProbeAnswer> answers = ask(sources);
+    for (qsizetype i = 0; i < answers.size(); ++i)
+        accepted[alone[i]] = answers[i].compiled();
+}
+
 } // namespace
 
 QList<Batch> batchesOf(const QList<QByteArray> &items, qsizetype preludeSize, ProbeLimits limits)
@@ -128,19 +181,22 @@ QByteArray joinedItems(const QList<QByteArray> &items, const Batch &batch)
 }
 
 QList<bool> acceptedItems(const AskProbes &ask, const QByteArray &prelude,
-                          const QList<QByteArray> &items, ProbeLimits limits, bool confirmsAlone)
+                          const QList<QByteArray> &items, ProbeLimits limits, bool confirms)
 {
     Bisection bisection(prelude, items);
     bisection.run(ask, batchesOf(items, prelude.size(), limits));
-    if (!confirmsAlone || bisection.suspects.isEmpty())
-        return bisection.accepted;
-    QList<QByteArray> sources;
-    for (const int index : bisection.suspects)
-        sources << prelude + items[index];
-    const QList<ProbeAnswer> answers = ask(sources);
-    for (qsizetype i = 0; i < answers.size(); ++i)
-        bisection.accepted[bisection.suspects[i]] = answers[i].compiled();
+    if (confirms)
+        confirm(ask, prelude, items, bisection.suspects, bisection.accepted);
     return bisection.accepted;
+}
+
+QList<bool> itemsAcceptedApart(const AskProbes &ask, const QByteArray &prelude,
+                               const QList<QByteArray> &items, ProbeLimits limits)
+{
+    QList<bool> accepted(items.size(), false);
+    for (const Batch &batch : batchesOf(items, prelude.size(), limits))
+        confirm(ask, prelude, items, batch, accepted);
+    return accepted;
 }
 
 std::optional<QList<bool>> itemsWithoutMessage(const AskProbes &ask, const QByteArray &prelude,

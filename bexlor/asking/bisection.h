@@ -36,10 +36,16 @@ QByteArray joinedItems(const QList<QByteArray> &items, const Batch &batch);
 
 /// Which of \a items are accepted behind \a prelude. Those that are have compiled in one probe with
 /// their neighbours. One that is not may have been rejected for what stands before it, unless
-/// \a confirmsAlone asks to try it without the others. Works with a compiler that stops at its
+/// \a confirms asks to try it apart from other suspects: between harmless declarations or,
+/// where that does not tell, alone. Works with a compiler that stops at its
 /// first error, or that names no line or a wrong one, too; it needs more probes then.
 QList<bool> acceptedItems(const AskProbes &ask, const QByteArray &prelude,
-                          const QList<QByteArray> &items, ProbeLimits limits, bool confirmsAlone);
+                          const QList<QByteArray> &items, ProbeLimits limits, bool confirms);
+
+/// Which of \a items are accepted behind \a prelude apart from one another. Takes few probes only
+/// where most are rejected, by a compiler that finds its way again behind each of them.
+QList<bool> itemsAcceptedApart(const AskProbes &ask, const QByteArray &prelude,
+                               const QList<QByteArray> &items, ProbeLimits limits);
 
 /// Which of \a items draw no message of any kind behind \a prelude. \a control is one that must
 /// draw one; it stands behind them and shows that the compiler has got that far. Nothing when it

@@ -81,7 +81,7 @@ QStringList commandWords(const QString &command, bool (*isProgram)(const QString
     return !words.isEmpty() && isProgram(words.first()) ? words : QProcess::splitCommand(inside);
 }
 
-QString withAbsolutePath(const QString &word)
+QString withAbsolutePath(const QString &word, const QDir &folder)
 {
     // What stands before a path in one word: an option with a sign behind it, a single letter, the
     // mark of a response file, or nothing.
@@ -90,8 +90,9 @@ QString withAbsolutePath(const QString &word)
     if (QFileInfo(word).isAbsolute() && QFileInfo::exists(word))
         return word;
     const QString option = start.match(word).captured();
-    const QFileInfo file(word.mid(option.size()));
-    const bool isRelative = !file.filePath().isEmpty() && file.isRelative() && file.exists();
+    const QString path = word.mid(option.size());
+    const QFileInfo file(folder, path);
+    const bool isRelative = !path.isEmpty() && QDir::isRelativePath(path) && file.exists();
     return isRelative ? option + file.absoluteFilePath() : word;
 }
 

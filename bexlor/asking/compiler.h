@@ -2,6 +2,8 @@
 
 #include "arguments.h"
 
+#include <QDir>
+
 /// The user's compiler, ready to be started: from the same command line everything about it is
 /// asked.
 struct Compiler
@@ -22,9 +24,9 @@ struct Compiler
 /// which of the two it is.
 QStringList commandWords(const QString &command, bool (*isProgram)(const QString &word));
 
-/// \a word with the relative path in it made absolute, if it is the name of a file or directory
-/// here, alone or behind an option, since probes are compiled elsewhere.
-QString withAbsolutePath(const QString &word);
+/// \a word with the relative path in it made absolute, if it is the name of a file or directory in
+/// \a folder, alone or behind an option, since probes are compiled elsewhere.
+QString withAbsolutePath(const QString &word, const QDir &folder = QDir::current());
 
 /// The compiler of \a arguments, its program found where the wizard finds it too. When there is no
 /// such program the first word stays as it was typed.

@@ -3,6 +3,7 @@
 using namespace Qt::StringLiterals;
 
 const QByteArray acceptedProbe = "int calyx_probe;\n";
+const QByteArray rejectedProbe = "int calyx_syntax = ;\n";
 
 namespace {
 
@@ -15,7 +16,7 @@ const struct
     QByteArray source;
     QLatin1StringView name;
 } controlProbes[] = {
-    {ErrorKind::Syntax, "int calyx_syntax = ;\n", "a syntax error"_L1},
+    {ErrorKind::Syntax, rejectedProbe, "a syntax error"_L1},
     {ErrorKind::UnknownName, "void calyx_f(void) { extern calyx_unknown *calyx_object; }\n",
      "an unknown name"_L1},
     {ErrorKind::NegativeArraySize, "extern char calyx_array[1-2*(sizeof(char)!=2)];\n",

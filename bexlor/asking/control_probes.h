@@ -8,8 +8,8 @@
 /// Probes of which it is known what a compiler must say to them. They come before all others and
 /// show what its answers are worth.
 
-/// A source that every compiler accepts.
-extern const QByteArray acceptedProbe;
+/// A source that every compiler accepts, and one that every compiler rejects.
+extern const QByteArray acceptedProbe, rejectedProbe;
 
 /// What can be wrong with a source.
 enum class ErrorKind {

@@ -15,10 +15,11 @@ struct ProbeAnswer
     QByteArray bytes;   ///< of the object file, read from hexadecimal text where it is that; of a
                         ///< program what it prints
 
-    bool leftNothing = false; ///< neither an object file nor anything else
+    bool leftNothing = false;    ///< neither an object file nor anything else
+    bool lacksConstants = false; ///< that its source has, though others can be read back
 
     /// Some compilers, and what they are started by, end alike whether there were errors or not.
-    bool compiled() const { return run.succeeded() && !leftNothing; }
+    bool compiled() const { return run.succeeded() && !leftNothing && !lacksConstants; }
 };
 
 /// How many declarations and bytes a probe may have.

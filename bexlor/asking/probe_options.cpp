@@ -6,10 +6,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// What matches a whole word. Kept, since all words of large projects are looked at.
+struct WholeWord : QRegularExpression
+{
+    WholeWord(const QString &pattern) : QRegularExpression(anchoredPattern(pattern)) { }
+};
+
 /// Options, as what matches a whole word, and the words that follow them.
 const struct
 {
-    QString pattern;
+    WholeWord pattern;
     int following;
 } otherPurposes[] = {
     // Files beside the object file, named in the next word or in the same.
@@ -34,18 +40,13 @@ const struct
     {u"-flto(=.*)?|-fuse-linker-plugin|-fwhole-program|[-/]GL"_s, 0},
 };
 
-QRegularExpression wholeWord(const QString &pattern)
-{
-    return QRegularExpression(QRegularExpression::anchoredPattern(pattern));
-}
-
 /// How many words, from \a word on, are left out with it.
 int wordsLeftOut(const QString &word, const QString &next)
 {
     if (word == "-W"_L1 && next == "error"_L1) // cc65's is made of two words
         return 2;
     for (const auto &row : otherPurposes) {
-        if (wholeWord(row.pattern).match(word).hasMatch())
+        if (row.pattern.match(word).hasMatch())
             return 1 + row.following;
     }
     return 0;
@@ -68,7 +69,7 @@ QStringList withoutOtherPurposes(const QStringList &words)
 QString optionAgainstObjects(const QStringList &words)
 {
     static const QRegularExpression option =
-        wholeWord(u"-E|-S|-fsyntax-only|--preprocess-only|[-/]EP|[-/]Zs|/E|/P"_s);
+        WholeWord(u"-E|-S|-fsyntax-only|--preprocess-only|[-/]EP|[-/]Zs|/E|/P"_s);
     const qsizetype index = words.indexOf(option, 1);
     return index < 0 ? QString() : words[index];
 }

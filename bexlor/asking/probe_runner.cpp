@@ -14,7 +14,13 @@ namespace {
 
 const int usualTimeLimit = 60'000; // milliseconds for one compilation
 
-const int mostRepetitions = 2; // of a probe whose answer is unlike all others
+// Behind that many answers that another try has mended, a compiler is taken for one that does not
+// work twice at a time.
+const int mostMended = 3;
+
+// Clang's (its manual, "Formatting of Diagnostics"), which else stops after 20 errors.
+const QString withoutErrorLimit = u"-ferror-limit=0"_s;
+const int manyErrors = 30;
 
 const ProbeLimits usualLimits {20'000, 500'000};
 const ProbeLimits smallLimits {99, 4000};
@@ -24,6 +30,13 @@ int timeLimit()
 {
     const int set = qEnvironmentVariableIntValue("BEXLOR_TIME_LIMIT");
     return set > 0 ? set : usualTimeLimit;
+}
+
+/// How often a probe is asked again whose answer \a first is unlike all others. One that took all
+/// its time would take it each time.
+int repetitionsAfter(const ProbeAnswer &first)
+{
+    return first.run.ending == platform::ProgramRun::TimedOut ? 1 : 3;
 }
 
 /// What the program that has been made in \a folder prints.
@@ -59,7 +72,18 @@ bool ProbeRunner::learnControls(const ProbeAnswer &accepted)
     const std::optional<Controls> controls = askControls(ask, accepted);
     m_knowsControls = controls.has_value();
     m_controls = controls.value_or(Controls());
+    if (m_knowsControls)
+        liftErrorLimit();
     return m_knowsControls;
+}
+
+/// Adds the option to the command that makes the compiler name all errors, if it understands it.
+void ProbeRunner::liftErrorLimit()
+{
+    m_compiler.command << withoutErrorLimit;
+    const QByteArray source = rejectedProbe.repeated(manyErrors);
+    if (askOnce(source, CompileTo::Object).lines.size() != manyErrors)
+        m_compiler.command.removeLast();
 }
 
 ProbeAnswer ProbeRunner::ask(const QByteArray &source, CompileTo goal) const
@@ -67,7 +91,7 @@ ProbeAnswer ProbeRunner::ask(const QByteArray &source, CompileTo goal) const
     if (m_malfunction)
         return *m_malfunction;
     const ProbeAnswer answer = askOnce(source, goal);
-    return isExpected(answer) ? answer : askAgain(source, goal);
+    return isExpected(answer) ? answer : askAgain(answer, source, goal);
 }
 
 QList<ProbeAnswer> ProbeRunner::askAll(const QList<QByteArray> &sources) const
@@ -77,6 +101,8 @@ QList<ProbeAnswer> ProbeRunner::askAll(const QList<QByteArray> &sources) const
     QList<ProbeAnswer> answers(sources.size());
     ProbeAnswer *const places = answers.data(); // not detached by the threads
     QThreadPool pool;
+    if (m_mended > mostMended)
+        pool.setMaxThreadCount(1);
     for (qsizetype i = 0; i < sources.size(); ++i) {
         pool.start(
             [this, places, &sources, i] { places[i] = askOnce(sources[i], CompileTo::Object); });
@@ -84,7 +110,7 @@ QList<ProbeAnswer> ProbeRunner::askAll(const QList<QByteArray> &sources) const
     pool.waitForDone();
     for (qsizetype i = 0; i < sources.size(); ++i) {
         if (!isExpected(answers[i]))
-            answers[i] = askAgain(sources[i], CompileTo::Object);
+            answers[i] = askAgain(answers[i], sources[i], CompileTo::Object);
     }
     return answers;
 }
@@ -94,21 +120,30 @@ bool ProbeRunner::isExpected(const ProbeAnswer &answer) const
     return !m_knowsControls || m_controls.isExpected(answer);
 }
 
-ProbeAnswer ProbeRunner::askAgain(const QByteArray &source, CompileTo goal) const
+ProbeAnswer ProbeRunner::askAgain(const ProbeAnswer &first, const QByteArray &source,
+                                  CompileTo goal) const
 {
     if (m_malfunction)
         return *m_malfunction;
     ProbeAnswer answer;
-    for (int tries = 0; tries < mostRepetitions && !m_controls.isRejection(answer); ++tries) {
+    for (int tries = 0; tries < repetitionsAfter(first); ++tries) {
         answer = askOnce(source, goal);
-        if (m_controls.isExpected(answer))
+        if (m_controls.isExpected(answer)) {
+            ++m_mended;
             return answer;
+        }
     }
     // The assembler and the linker name no line of the probe, and no licence server does.
     if (m_controls.isRejection(answer) && askOnce(acceptedProbe, CompileTo::Object).compiled())
         return answer;
-    m_malfunction = answer;
-    return answer;
+    return fail(answer);
+}
+
+ProbeAnswer ProbeRunner::fail(const ProbeAnswer &answer) const
+{
+    if (!m_malfunction)
+        m_malfunction = answer;
+    return *m_malfunction;
 }
 
 ProbeAnswer ProbeRunner::askOnce(const QByteArray &source, CompileTo goal) const

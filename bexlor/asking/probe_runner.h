@@ -22,8 +22,10 @@ public:
     /// if it stays so that is a malfunction, and no compiler is started any more.
     ProbeAnswer ask(const QByteArray &source, CompileTo goal = CompileTo::Object) const;
     /// The answers to \a sources in their order; asks as many at a time as there are processors,
-    /// but one alone what must be asked again.
+    /// but one alone what must be asked again, and all if that has been needed often.
     QList<ProbeAnswer> askAll(const QList<QByteArray> &sources) const;
+    /// Takes \a answer for a malfunction, unless there is one already. Returns it.
+    ProbeAnswer fail(const ProbeAnswer &answer) const;
     /// The answer that could not be understood, which all later ones repeat.
     const std::optional<ProbeAnswer> &malfunction() const { return m_malfunction; }
 
@@ -37,15 +39,17 @@ public:
 private:
     ProbeAnswer askOnce(const QByteArray &source, CompileTo goal) const;
     ProbeAnswer askIn(const QString &folder, const QByteArray &source, CompileTo goal) const;
-    ProbeAnswer askAgain(const QByteArray &source, CompileTo goal) const;
+    ProbeAnswer askAgain(const ProbeAnswer &first, const QByteArray &source, CompileTo goal) const;
     bool isExpected(const ProbeAnswer &answer) const;
+    void liftErrorLimit();
 
-    const Compiler m_compiler;
+    Compiler m_compiler;
     const QString m_folder;
     const ProbeLimits m_limits;
     Controls m_controls;
     bool m_knowsControls = false;
     mutable std::optional<ProbeAnswer> m_malfunction;
+    mutable int m_mended = 0; ///< answers that were right when asked for again
     mutable std::atomic<int> m_started = 0;
     mutable std::atomic<int> m_folders = 0;
 };

@@ -6,6 +6,8 @@ namespace {
 // shows them in another way, so that it is never taken for the object.
 const char begins = '\1', numbered = '\2', ends = '\3';
 
+const int mostReadings = 3; // of constants that should be there and are not
+
 /// The content between the marks of array \a number, if they stand in \a bytes.
 std::optional<QByteArray> contentOf(const QByteArray &bytes, int number)
 {
@@ -85,7 +87,8 @@ Questions::Questions(const ProbeRunner &runner) : m_runner(runner)
         sources << ConstantSource::RunningProgram;
     for (const ConstantSource source : sources) {
         m_source = source;
-        if (readsTexts() || (learnCharacterSet() && readsTexts()))
+        m_isProven = readsTexts() || (learnCharacterSet() && readsTexts());
+        if (m_isProven)
             return;
         m_characters.clear();
     }
@@ -124,9 +127,9 @@ AskProbes Questions::askProbes() const
 }
 
 QList<bool> Questions::accepted(const QByteArray &prelude, const QList<QByteArray> &items,
-                                bool confirmsAlone) const
+                                bool confirms) const
 {
-    return acceptedItems(askProbes(), prelude, items, limits(), confirmsAlone);
+    return acceptedItems(askProbes(), prelude, items, limits(), confirms);
 }
 
 std::optional<QList<bool>> Questions::withoutMessage(const QByteArray &prelude,
@@ -148,12 +151,9 @@ bool Questions::rejects(ErrorKind kind) const
     return m_runner.controls().rejects(kind);
 }
 
-QList<bool> Questions::acceptedAlone(const QList<QByteArray> &sources) const
+QList<bool> Questions::acceptedApart(const QList<QByteArray> &items) const
 {
-    QList<bool> isAccepted;
-    for (const ProbeAnswer &answer : eachAlone(sources))
-        isAccepted << answer.compiled();
-    return isAccepted;
+    return itemsAcceptedApart(askProbes(), {}, items, limits());
 }
 
 /// The bytes of the arrays in \a batch, with which \a source has been compiled.
@@ -172,6 +172,30 @@ QByteArray Questions::bytesOf(const QByteArray &source, const Batch &batch,
     return m_runner.ask(program + "return 0; }\n", CompileTo::Program).bytes;
 }
 
+/// Reads the contents of the arrays in \a batch, with which \a source has compiled with the answer
+/// \a first. A compiler that leaves some of them out, and does so again, has failed: they would be
+/// taken for conditions that are false.
+void Questions::readContents(const QByteArray &source, const Batch &batch, const ProbeAnswer &first,
+                             const QByteArray &characters,
+                             QList<std::optional<QByteArray>> &contents) const
+{
+    ProbeAnswer answer = first;
+    for (int tries = 0; tries < mostReadings; ++tries) {
+        if (tries > 0)
+            answer = m_runner.ask(source);
+        const QByteArray bytes = decoded(bytesOf(source, batch, answer), characters);
+        bool isWhole = true;
+        for (const int index : batch) {
+            contents[index] = contentOf(bytes, index);
+            isWhole &= contents[index].has_value();
+        }
+        if (isWhole || !m_isProven)
+            return;
+    }
+    answer.lacksConstants = true;
+    m_runner.fail(answer);
+}
+
 /// Reads the contents of the arrays \a items in \a batches into \a contents. Returns the batches
 /// that do not compile.
 QList<Batch> Questions::readBatches(const QByteArray &prelude, const QList<QByteArray> &items,
@@ -188,9 +212,7 @@ QList<Batch> Questions::readBatches(const QByteArray &prelude, const QList<QByte
             failed << batches[i];
             continue;
         }
-        const QByteArray bytes = decoded(bytesOf(sources[i], batches[i], answers[i]), characters);
-        for (const int index : batches[i])
-            contents[index] = contentOf(bytes, index);
+        readContents(sources[i], batches[i], answers[i], characters, contents);
     }
     return failed;
 }

@@ -23,7 +23,7 @@ public:
     /// Which of \a items, one or more whole lines each, are accepted behind \a prelude; see
     /// acceptedItems().
     QList<bool> accepted(const QByteArray &prelude, const QList<QByteArray> &items,
-                         bool confirmsAlone = false) const;
+                         bool confirms = false) const;
 
     /// Which of \a items draw no message behind \a prelude, though \a control does; see
     /// itemsWithoutMessage().
@@ -33,8 +33,8 @@ public:
 
     /// What the compiler says to each of \a sources, in a probe of its own.
     QList<ProbeAnswer> eachAlone(const QList<QByteArray> &sources) const;
-    /// Which of \a sources compile, each in a probe of its own.
-    QList<bool> acceptedAlone(const QList<QByteArray> &sources) const;
+    /// Which of \a items, most of which are rejected, are accepted; see itemsAcceptedApart().
+    QList<bool> acceptedApart(const QList<QByteArray> &items) const;
 
     /// The texts of string literals, each given as an expression that may only be one behind
     /// \a prelude. No value for one that is not.
@@ -58,6 +58,9 @@ private:
     QList<std::optional<QByteArray>> arrays(const QByteArray &prelude,
                                             const QList<QByteArray> &elements,
                                             const QByteArray &characters) const;
+    void readContents(const QByteArray &source, const Batch &batch, const ProbeAnswer &first,
+                      const QByteArray &characters,
+                      QList<std::optional<QByteArray>> &contents) const;
     QList<Batch> readBatches(const QByteArray &prelude, const QList<QByteArray> &items,
                              const QList<Batch> &batches, const QByteArray &characters,
                              QList<std::optional<QByteArray>> &contents) const;
@@ -67,5 +70,6 @@ private:
 
     const ProbeRunner &m_runner;
     ConstantSource m_source = ConstantSource::None;
+    bool m_isProven = false; ///< that constants come back from there
     QByteArray m_characters; ///< that the compiler's 256 codes stand for; empty if for themselves
 };

@@ -1,39 +1,86 @@
 #include "check.h"
 
+#include "clang.h"
 #include "probe_runner.h"
-#include "program_run.h"
-#include "program_search.h"
 #include "text_file.h"
 
-#include <QDeadlineTimer>
 #include <QDir>
-#include <QRegularExpression>
 #include <QThreadPool>
+#include <future>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-const int patience = 600'000; // milliseconds for one source
+const int patience = 600'000; // milliseconds for one compilation
 const qsizetype largestSource = 500'000'000;
 
 const QLatin1StringView syntaxOnly("-fsyntax-only");
 
+int timeLeft(const Checking &checking)
+{
+    return int(std::min<qint64>(checking.deadline.remainingTimeAsDuration().count() / 1'000'000,
+                                patience));
+}
+
+// Operators whose answers are each compiler's own. Those on headers tell about the search path.
+const char *const abilityOperators[] = {
+    "__has_attribute",          "__has_builtin",   "__has_c_attribute", "__has_cpp_attribute",
+    "__has_declspec_attribute", "__has_extension", "__has_feature",     "__has_warning",
+};
+
+/// Definitions, each behind \a flag, under which these operators answer no.
+QStringList withoutAbilities(const QString &flag)
+{
+    QStringList options;
+    for (const char *name : abilityOperators)
+        options << flag + QLatin1StringView(name) + "(...)=0"_L1;
+    return options;
+}
+
+/// \a command with \a options in the place of the object flag or, if there is none, behind the
+/// program's name.
+QStringList withOptions(const QStringList &command, const QStringList &options,
+                        const QString &objectFlag)
+{
+    const qsizetype flag = objectFlag.isEmpty() ? -1 : command.indexOf(objectFlag, 1);
+    const qsizetype place = std::max<qsizetype>(flag, 1);
+    return command.first(place) + options + command.sliced(flag < 0 ? place : place + 1);
+}
+
+platform::ProgramRun compile(const Checking &checking, const CheckedSource &source)
+{
+    const QStringList command =
+        checking.checksSyntaxOnly
+            ? withOptions(source.command, {syntaxOnly}, checking.layout.objectFlag)
+            : source.command;
+    const platform::ProgramRun run =
+        platform::runProgram(command, source.directory, timeLeft(checking));
+    QFile::remove(source.output);
+    return run;
+}
+
+/// What the compiler makes of \a source when it preprocesses it under \a definitions, be it printed
+/// or written where it writes objects to. Empty if it fails.
+QByteArray preprocess(const Checking &checking, const CheckedSource &source,
+                      const QStringList &definitions)
+{
+    const platform::ProgramRun run = platform::runProgram(
+        withOptions(source.command, checking.preprocess + definitions, checking.layout.objectFlag),
+        source.directory, timeLeft(checking), largestSource);
+    const QByteArray text =
+        run.output.isEmpty() ? platform::readFile(source.output, largestSource).bytes : run.output;
+    QFile::remove(source.output);
+    return run.succeeded() ? text : QByteArray();
+}
+
 platform::ProgramRun runClang(const Checking &checking, const CheckedSource &source,
                               const QStringList &options)
 {
-    const QStringList command {checking.clang.program, u"--config"_s, checking.personality, u"-w"_s,
-                               u"-ferror-limit=1"_s};
-    return platform::runProgram(command + options + source.clangOptions, source.directory, patience,
-                                largestSource);
-}
-
-/// \a source's command with \a option behind the program's name.
-QStringList withOption(const CheckedSource &source, const QString &option)
-{
-    QStringList command = source.bareCommand;
-    command.insert(1, option);
-    return command;
+    const QStringList quiet {u"-w"_s, u"-ferror-limit=1"_s};
+    return runClang(checking.clang, checking.personality, quiet + options + source.clangOptions,
+                    source.directory, timeLeft(checking), largestSource);
 }
 
 /// Lets clang leave the keywords in the code that it would otherwise not understand.
@@ -47,35 +94,63 @@ QStringList undefinedKeywords(const Personality &personality)
     return options;
 }
 
+/// What comparing \a source under definitions for both has come to; nothing if that was not
+/// possible.
+struct Comparison
+{
+    std::optional<TokenDifference> difference;
+};
+
+std::optional<Comparison> compare(const Checking &checking, const CheckedSource &source,
+                                  const QStringList &ownDefinitions,
+                                  const QStringList &clangDefinitions)
+{
+    const QByteArray own = preprocess(checking, source, ownDefinitions);
+    const platform::ProgramRun clang =
+        runClang(checking, source,
+                 QStringList {u"-E"_s} + undefinedKeywords(checking.content) + clangDefinitions);
+    if (own.isEmpty() || !clang.succeeded())
+        return {};
+    const QStringList ownHeaders = ownHeadersOf(checking.content);
+    return Comparison {
+        firstDifference({own, ownHeaders}, {clang.output, {checking.clang.headers}})};
+}
+
 /// Compares the code that both see in a source that both accept.
 void compare(const Checking &checking, const CheckedSource &source, Verdict &verdict)
 {
     verdict.result = Verdict::NotCompared;
     if (checking.preprocess.isEmpty())
         return;
-    const platform::ProgramRun own = platform::runProgram(
-        withOption(source, checking.preprocess), source.directory, patience, largestSource);
-    const platform::ProgramRun clang =
-        runClang(checking, source, QStringList {u"-E"_s} + undefinedKeywords(checking.content));
-    if (!own.succeeded() || own.output.isEmpty() || !clang.succeeded())
+    std::optional<Comparison> comparison = compare(checking, source, {}, {});
+    if (!comparison)
         return;
-    const QStringList ownHeaders = ownHeadersOf(checking.content);
-    const std::optional<TokenDifference> difference =
-        firstDifference({own.output, ownHeaders}, {clang.output, {checking.clang.headers}});
-    verdict.result = difference ? Verdict::Different : Verdict::Same;
-    verdict.difference = difference.value_or(TokenDifference());
+    if (comparison->difference && !checking.layout.defineFlag.isEmpty()) {
+        const auto alike = compare(checking, source, withoutAbilities(checking.layout.defineFlag),
+                                   withoutAbilities(u"-D"_s));
+        comparison = alike ? alike : comparison;
+    }
+    verdict.result = comparison->difference ? Verdict::Different : Verdict::Same;
+    verdict.difference = comparison->difference.value_or(TokenDifference());
+}
+
+QString firstLine(const platform::ProgramRun &run)
+{
+    return QString::fromLocal8Bit(run.errors + run.output).trimmed().section(u'\n', 0, 0);
 }
 
 Verdict checkSource(const Checking &checking, const CheckedSource &source)
 {
     Verdict verdict;
     verdict.file = source.file;
-    const QStringList command =
-        checking.checksSyntaxOnly ? withOption(source, syntaxOnly) : source.command;
-    const platform::ProgramRun own = platform::runProgram(command, source.directory, patience);
-    QFile::remove(source.output);
+    const platform::ProgramRun own = compile(checking, source);
+    if (own.ending == platform::ProgramRun::NotStarted) {
+        verdict.message = source.command.first();
+        return verdict;
+    }
     if (!own.succeeded()) {
-        verdict.message = QString::fromLocal8Bit(own.errors + own.output).section(u'\n', 0, 0);
+        verdict.result = Verdict::RejectedByCompiler;
+        verdict.message = firstLine(own);
         return verdict;
     }
     const platform::ProgramRun clang = runClang(checking, source, {syntaxOnly});
@@ -90,30 +165,12 @@ Verdict checkSource(const Checking &checking, const CheckedSource &source)
 
 } // namespace
 
-std::optional<Clang> findClang()
-{
-    Clang clang {platform::findCommand(u"clang"_s, platform::searchPathVariable()), {}, {}};
-    if (clang.program.isEmpty())
-        return {};
-    clang.program = QFileInfo(clang.program).absoluteFilePath();
-    static const QRegularExpression version(u"clang version (\\d+)"_s);
-    const auto ask = [&clang](const QString &question) {
-        return QString::fromLocal8Bit(
-            platform::runProgram({clang.program, question}, QDir::tempPath(), patience).output);
-    };
-    const QRegularExpressionMatch found = version.match(ask(u"--version"_s));
-    clang.version = "clang "_L1 + found.captured(1);
-    clang.headers = QDir::cleanPath(ask(u"-print-resource-dir"_s).trimmed() + "/include"_L1);
-    if (!found.hasMatch())
-        return {};
-    return clang;
-}
-
 QStringList ownHeadersOf(const Personality &personality)
 {
     QStringList folders;
     for (const QString &directory : personality.facts.searchPath.directories) {
-        if (personality.searchPath.contains(Option {"-idirafter", directory.toUtf8()}))
+        if (personality.searchPath.contains(Option {"-idirafter", directory.toUtf8()})
+            && holdsIntrinsics(directory))
             folders << directory;
     }
     return folders;
@@ -125,33 +182,30 @@ bool canCheckSyntaxOnly(const Compiler &compiler, const QString &folder)
         const QString file = folder + u'/' + name + probeName(compiler.isCpp);
         if (!platform::writeScratchFile(file, code))
             return false;
-        const QStringList command = withOption(sourceOfFile(compiler, file, folder), syntaxOnly);
+        const QStringList command = withOptions(sourceOfFile(compiler, file, folder, 0).command,
+                                                {syntaxOnly}, compiler.layout.objectFlag);
         return platform::runProgram(command, folder, patience).succeeded();
     };
     return accepts(u"right_"_s, "int right;\n") && !accepts(u"wrong_"_s, "int wrong wrong;\n");
 }
 
-QList<Verdict> checkSources(const Checking &checking, const QList<CheckedSource> &sources,
-                            std::atomic<int> &done, std::optional<int> timeLimit)
+void checkSources(const Checking &checking, const QList<CheckedSource> &sources,
+                  const std::function<void(const Verdict &)> &report)
 {
-    const QDeadlineTimer deadline =
-        timeLimit ? QDeadlineTimer(*timeLimit) : QDeadlineTimer(QDeadlineTimer::Forever);
-    QList<Verdict> verdicts(sources.size());
-    Verdict *const places = verdicts.data(); // not detached by the threads
-    std::atomic<int> next = 0;
+    // Nothing is left of a source that the deadline has come before, or that it has cut short.
+    using Outcome = std::optional<Verdict>;
+    std::vector<std::promise<Outcome>> outcomes(std::size_t(sources.size()));
     QThreadPool pool;
-    for (int thread = 0; thread < pool.maxThreadCount(); ++thread) {
-        pool.start([&] {
-            while (next < sources.size() && !deadline.hasExpired()) {
-                const int index = next++;
-                if (index >= sources.size())
-                    break;
-                places[index] = checkSource(checking, sources[index]);
-                ++done;
-            }
+    for (std::size_t i = 0; i < outcomes.size(); ++i) {
+        pool.start([&checking, &source = sources[qsizetype(i)], &outcome = outcomes[i]] {
+            const Verdict verdict =
+                checking.deadline.hasExpired() ? Verdict() : checkSource(checking, source);
+            outcome.set_value(checking.deadline.hasExpired() ? Outcome() : verdict);
         });
     }
+    for (std::promise<Outcome> &outcome : outcomes) {
+        if (const Outcome verdict = outcome.get_future().get())
+            report(*verdict);
+    }
     pool.waitForDone();
-    verdicts.resize(done);
-    return verdicts;
 }

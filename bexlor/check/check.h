@@ -1,29 +1,20 @@
 #pragma once
 
 #include "checked_source.h"
+#include "clang_program.h"
 #include "personality.h"
 #include "rejection.h"
 #include "token_stream.h"
 
-#include <atomic>
-
-/// A clang that has been found.
-struct Clang
-{
-    QString program; ///< its path
-    QString version; ///< "clang 14"
-    QString headers; ///< the folder of the headers that belong to it
-};
-
-/// The clang on the PATH. Nothing when there is none that answers.
-std::optional<Clang> findClang();
+#include <QDeadlineTimer>
+#include <functional>
 
 /// What two compilers make of one source.
 struct Verdict
 {
-    enum Result { Same, Different, NotCompared, RejectedByClang, RejectedByCompiler };
+    enum Result { Same, Different, NotCompared, RejectedByClang, RejectedByCompiler, NotStarted };
     QString file;
-    Result result = RejectedByCompiler;
+    Result result = NotStarted; ///< the compiler that the source's command names is not there
     TokenDifference difference; ///< only of code that is different
     Rejection rejection;        ///< only of a source that clang rejects
     QString message;            ///< the compiler's first words on one that it rejects
@@ -32,12 +23,14 @@ struct Verdict
 /// How sources are checked.
 struct Checking
 {
-    Compiler compiler;
     Clang clang;
-    QString personality; ///< its absolute path
-    Personality content; ///< what it holds
-    QString preprocess;  ///< what makes the compiler preprocess; empty: nothing is compared
+    QString personality;    ///< its whole path
+    Personality content;    ///< what it holds
+    CommandLayout layout;   ///< of the compiler's command
+    QStringList preprocess; ///< what makes the compiler preprocess; empty: nothing is compared
     bool checksSyntaxOnly = false; ///< the compiler takes the GNU compilers' option for that
+    /// After that no source is begun, and what is under way is ended.
+    QDeadlineTimer deadline = QDeadlineTimer(QDeadlineTimer::Forever);
 };
 
 /// The folders of headers that belong to the compiler of \a personality and that clang has its own
@@ -48,8 +41,8 @@ QStringList ownHeadersOf(const Personality &personality);
 /// folder is for probes.
 bool canCheckSyntaxOnly(const Compiler &compiler, const QString &folder);
 
-/// The verdicts on \a sources in their order, as many at a time as there are processors. \a done
-/// counts them. After \a timeLimit milliseconds no further source is begun; the verdicts end before
-/// the first that was not.
-QList<Verdict> checkSources(const Checking &checking, const QList<CheckedSource> &sources,
-                            std::atomic<int> &done, std::optional<int> timeLimit = {});
+/// Gives the verdicts on \a sources to \a report, in their order and each as soon as it is there.
+/// As many sources are checked at a time as there are processors. Those that the deadline has come
+/// before are left out.
+void checkSources(const Checking &checking, const QList<CheckedSource> &sources,
+                  const std::function<void(const Verdict &)> &report);

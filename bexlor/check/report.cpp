@@ -21,6 +21,7 @@ const struct ResultName
     {Verdict::NotCompared, "not-compared"_L1, "are accepted, but could not be compared"_L1},
     {Verdict::RejectedByClang, "rejected-by-clang"_L1, "are rejected by clang alone"_L1},
     {Verdict::RejectedByCompiler, "rejected-by-compiler"_L1, "are rejected by the compiler"_L1},
+    {Verdict::NotStarted, "not-started"_L1, "name a compiler that cannot be started"_L1},
 };
 
 qsizetype countOf(const QList<Verdict> &verdicts, Verdict::Result result)
@@ -31,7 +32,8 @@ qsizetype countOf(const QList<Verdict> &verdicts, Verdict::Result result)
 
 qsizetype acceptedByCompiler(const QList<Verdict> &verdicts)
 {
-    return verdicts.size() - countOf(verdicts, Verdict::RejectedByCompiler);
+    return verdicts.size() - countOf(verdicts, Verdict::RejectedByCompiler)
+         - countOf(verdicts, Verdict::NotStarted);
 }
 
 QString shown(const QByteArray &token)
@@ -44,7 +46,7 @@ QString alignedRow(qsizetype count, const QString &text)
     return u"%1  %2"_s.arg(count, 7).arg(text);
 }
 
-QJsonObject asJson(const Verdict &verdict)
+QJsonObject json(const Verdict &verdict)
 {
     const auto *name =
         std::find_if(std::begin(resultNames), std::end(resultNames),
@@ -60,7 +62,7 @@ QJsonObject asJson(const Verdict &verdict)
     } else if (verdict.result == Verdict::RejectedByClang) {
         object["kind"_L1] = verdict.rejection.kind;
         object["message"_L1] = verdict.rejection.message;
-    } else if (verdict.result == Verdict::RejectedByCompiler) {
+    } else if (!verdict.message.isEmpty()) {
         object["message"_L1] = verdict.message;
     }
     return object;
@@ -78,6 +80,8 @@ QString verdictLine(const Verdict &verdict)
         return start + "accepted, not compared"_L1;
     case Verdict::RejectedByCompiler:
         return start + "rejected by the compiler: "_L1 + verdict.message;
+    case Verdict::NotStarted:
+        return start + "cannot be started: "_L1 + verdict.message;
     case Verdict::RejectedByClang:
         return start + verdict.rejection.kind + ": "_L1 + verdict.rejection.message;
     case Verdict::Different:
@@ -106,7 +110,7 @@ QStringList summaryLines(const QString &clangVersion, const QList<Verdict> &verd
         if (const qsizetype count = countOf(verdicts, row.result))
             lines << alignedRow(count, row.text);
     }
-    if (clangAcceptsAll(verdicts))
+    if (countOf(verdicts, Verdict::RejectedByClang) == 0)
         return lines;
     lines << u"Why clang rejects them:"_s;
     for (const QString &kind : rejectionKinds()) {
@@ -127,7 +131,7 @@ QByteArray verdictsAsJson(const Checking &checking, const QList<Verdict> &verdic
         counts[row.key] = countOf(verdicts, row.result);
     QJsonArray files;
     for (const Verdict &verdict : verdicts)
-        files << asJson(verdict);
+        files << json(verdict);
     return QJsonDocument(QJsonObject {{"personality"_L1, checking.personality},
                                       {"clang"_L1, checking.clang.version},
                                       {"counts"_L1, counts},
@@ -135,7 +139,9 @@ QByteArray verdictsAsJson(const Checking &checking, const QList<Verdict> &verdic
         .toJson();
 }
 
-bool clangAcceptsAll(const QList<Verdict> &verdicts)
+ExitStatus exitStatus(const QList<Verdict> &verdicts)
 {
-    return countOf(verdicts, Verdict::RejectedByClang) == 0;
+    if (countOf(verdicts, Verdict::NotStarted) > 0)
+        return ExitStatus::Missing;
+    return countOf(verdicts, Verdict::RejectedByClang) == 0 ? ExitStatus::Done : ExitStatus::Failed;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "check.h"
+#include "exit_status.h"
 
 /// One line on \a verdict: the file, a colon, and what came out.
 QString verdictLine(const Verdict &verdict);
@@ -12,8 +13,8 @@ QStringList summaryLines(const QString &clangVersion, const QList<Verdict> &verd
 QString acceptanceSentence(const QString &clangVersion, const QList<Verdict> &verdicts,
                            const QString &noun);
 
-/// All of it for other programs; docs/architecture.md describes the keys.
+/// All of it for other programs; the README describes the keys.
 QByteArray verdictsAsJson(const Checking &checking, const QList<Verdict> &verdicts);
 
-/// Whether clang accepts every source that the compiler accepts.
-bool clangAcceptsAll(const QList<Verdict> &verdicts);
+/// Missing when a compiler is, Failed when clang rejects a source that the compiler accepts.
+ExitStatus exitStatus(const QList<Verdict> &verdicts);

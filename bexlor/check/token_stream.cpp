@@ -11,14 +11,15 @@ const char *const punctuators[] = {
     "<=",   ">=",  "==",  "!=",  "&&",  "||",  "*=", "/=", "%=", "+=", "-=",
     "&=",   "^=",  "|=",  "##",  "::",  ".*",  "<:", ":>", "<%", "%>", "%:"};
 
-// Pragmas that a preprocessor obeys, and may then write or not.
-const char *const pragmasOfThePreprocessor[] = {
-    "once", "push_macro", "pop_macro", "GCC system_header", "GCC poison", "GCC warning",
+// Pragmas that a preprocessor obeys or that are about messages: it may write them or not.
+const char *const pragmasSetAside[] = {
+    "once",       "push_macro",  "pop_macro",      "GCC system_header",
+    "GCC poison", "GCC warning", "GCC diagnostic",
 };
 
 // A declaration that a header of the C library leaves out behind the GNU compilers' <stdarg.h>, and
 // repeats behind clang's, which does not define the macro that it looks for.
-const char *const repeatedDeclaration[] = {"typedef", "__gnuc_va_list", "va_list", ";"};
+const char *const repeatedDeclaration[] = {"__gnuc_va_list", "va_list", ";"}; // behind "typedef"
 
 const char *const literalPrefixes[] = {"L", "u", "U", "u8", "R", "LR", "uR", "UR", "u8R"};
 
@@ -82,10 +83,13 @@ private:
 
 QByteArrayView TokenStream::next()
 {
-    while (passRepeatedDeclaration()) { }
-    return takeToken();
+    QByteArrayView token = takeToken();
+    while (token == "typedef" && passRepeatedDeclaration())
+        token = takeToken();
+    return token;
 }
 
+/// Passes what stands behind "typedef" if it is the declaration.
 bool TokenStream::passRepeatedDeclaration()
 {
     TokenStream ahead = *this;
@@ -133,7 +137,7 @@ bool TokenStream::passDirective()
     if (directive.startsWith("pragma ")) {
         const QByteArrayView pragma = directive.sliced(7).trimmed();
         const bool isSetAside =
-            std::any_of(std::begin(pragmasOfThePreprocessor), std::end(pragmasOfThePreprocessor),
+            std::any_of(std::begin(pragmasSetAside), std::end(pragmasSetAside),
                         [pragma](const char *start) { return pragma.startsWith(start); });
         m_place += isSetAside ? line.size() : 0;
         return isSetAside;

@@ -19,10 +19,13 @@ QList<QByteArray> macrosOfClang();
 /// Whether clang can be told the definition of \a macro in a file of options.
 bool canBeDefined(const Macro &macro);
 
+/// The extension keywords that clang has as well, for which nothing has to be defined.
+QList<QByteArray> keywordsOfClang();
+
 /// Definitions under which clang reads what the keywords that it lacks are used in.
 QList<Macro> keywordDefinitions(const Facts &facts);
 
-/// Whether \a directory holds a compiler's own headers for the instructions of x86 processors. They
+/// Whether \a directory holds a compiler's own headers for the instructions of its processors. They
 /// consist of calls to functions that are built into that compiler and no other; clang has headers
 /// of the same names and contents, made for itself.
 bool holdsIntrinsics(const QString &directory);

@@ -1,5 +1,7 @@
 #include "clang.h"
 
+#include <algorithm>
+
 namespace {
 
 // Keywords that clang has itself, from its manual ("Language Extensions") and the GCC manual's
@@ -8,23 +10,40 @@ const char *const clangKeywords =
     "asm typeof __asm __asm__ __inline __inline__ __signed __signed__ __const __const__ __volatile "
     "__volatile__ __restrict __restrict__ __extension__ __attribute __attribute__ __alignof "
     "__alignof__ __typeof __typeof__ __auto_type __label__ __thread __real __real__ __imag "
-    "__imag__ __complex __complex__ __builtin_va_list __int128 __int128_t __uint128_t __float128 "
+    "__imag__ __complex __complex__ __builtin_va_list __builtin_va_arg __builtin_offsetof "
+    "__builtin_choose_expr __builtin_types_compatible_p __int128 __int128_t __uint128_t __float128 "
     "_Accum _Fract _Sat __cdecl __stdcall __fastcall __thiscall __vectorcall __null __nullptr "
     "__decltype "
     "_Complex _Imaginary _Atomic _Bool _Noreturn _Static_assert _Generic _Thread_local _Alignas "
     "_Alignof";
 
+bool hasKeyword(const Facts &facts, const QByteArray &name)
+{
+    return std::any_of(facts.keywords.begin(), facts.keywords.end(),
+                       [&name](const Keyword &keyword) { return keyword.name == name; });
+}
+
 } // namespace
+
+QList<QByteArray> keywordsOfClang()
+{
+    return QByteArray(clangKeywords).split(' ');
+}
 
 QList<Macro> keywordDefinitions(const Facts &facts)
 {
-    const QList<QByteArray> known = QByteArray(clangKeywords).split(' ');
+    const QList<QByteArray> known = keywordsOfClang();
     QList<Macro> definitions;
     // From GCC 11 on this attribute takes arguments ("Common Function Attributes"), for clang it
     // has none.
     const Macro *gnuVersion = findMacro(facts.macros, "__GNUC__");
     if (gnuVersion && gnuVersion->value.toInt() >= 11)
         definitions << Macro {"__malloc__(...)", "__malloc__"};
+    // Clang's <arm_acle.h>, which takes the place of the compiler's, asks for this (Arm C Language
+    // Extensions 2.0), and GCC has not got it.
+    if (gnuVersion && findMacro(facts.macros, "__ARM_ARCH")
+        && !findMacro(facts.macros, "__ARM_ACLE"))
+        definitions << Macro {"__ARM_ACLE", "200"};
     for (const Keyword &keyword : facts.keywords) {
         if (known.contains(keyword.name))
             continue;
@@ -34,6 +53,8 @@ QList<Macro> keywordDefinitions(const Facts &facts)
             definitions << Macro {keyword.name + "(...)", {}};
         else if (!keyword.standIn.isEmpty())
             definitions << Macro {keyword.name, keyword.standIn};
+        else if (keyword.name == "_Float128" && hasKeyword(facts, "__float128"))
+            definitions << Macro {keyword.name, "__float128"};
     }
     return definitions;
 }

@@ -65,6 +65,57 @@ const Feature cppFeatures[] = {
     {"__cpp_char8_t", {"-fchar8_t"}, {"-fno-char8_t"}},
 };
 
+// Instructions for which headers of clang's own have to be told. Names: the manuals of GCC ("Arm
+// Options", "PowerPC Options", "MIPS Options") and of the Arm C Language Extensions.
+const Feature instructions[] = {
+    {"__ALTIVEC__", {"-maltivec"}, {}},
+    {"__VSX__", {"-mvsx"}, {}},
+    {"__mips_msa", {"-mmsa"}, {}},
+};
+
+// The macro that a GNU compiler has for an Arm architecture, and what clang calls it.
+const struct
+{
+    const char *macro;
+    const char *name;
+} armArchitectures[] = {
+    {"__ARM_ARCH_4T__", "armv4t"},
+    {"__ARM_ARCH_5TE__", "armv5te"},
+    {"__ARM_ARCH_5TEJ__", "armv5tej"},
+    {"__ARM_ARCH_6__", "armv6"},
+    {"__ARM_ARCH_6K__", "armv6k"},
+    {"__ARM_ARCH_6KZ__", "armv6kz"},
+    {"__ARM_ARCH_6T2__", "armv6t2"},
+    {"__ARM_ARCH_6M__", "armv6-m"},
+    {"__ARM_ARCH_7A__", "armv7-a"},
+    {"__ARM_ARCH_7R__", "armv7-r"},
+    {"__ARM_ARCH_7M__", "armv7-m"},
+    {"__ARM_ARCH_7EM__", "armv7e-m"},
+    {"__ARM_ARCH_8A__", "armv8-a"},
+    {"__ARM_ARCH_8R__", "armv8-r"},
+    {"__ARM_ARCH_8M_BASE__", "armv8-m.base"},
+    {"__ARM_ARCH_8M_MAIN__", "armv8-m.main"},
+};
+
+/// Options for a 32-bit Arm processor, without which clang takes an old one for granted and refuses
+/// the types and functions of newer ones.
+QList<QByteArray> armOptions(const MacroFacts &macros)
+{
+    QList<QByteArray> options;
+    for (const auto &row : armArchitectures) {
+        if (findMacro(macros, row.macro))
+            options << QByteArray("-march=") + row.name;
+    }
+    if (findMacro(macros, "__thumb__"))
+        options << "-mthumb";
+    if (findMacro(macros, "__ARM_NEON")) {
+        options << (findMacro(macros, "__ARM_ARCH_7A__") ? "-mfpu=neon" : "-mfpu=neon-fp-armv8");
+        if (!findMacro(macros, "__ARM_PCS_VFP"))
+            options << "-mfloat-abi=softfp";
+    }
+    return options;
+}
+
 /// Options for the types, where a target's may differ from the compiler's.
 QList<QByteArray> typeOptions(const Facts &facts, const QByteArray &target)
 {
@@ -109,6 +160,10 @@ QList<QByteArray> languageOptions(const Facts &facts, bool isCpp)
     const QByteArray target = clangTarget(facts);
     if (!target.isEmpty())
         options << "--target=" + target;
+    if (target.startsWith("arm"))
+        options << armOptions(facts.macros);
+    for (const Feature &feature : instructions)
+        options << (findMacro(facts.macros, feature.macro) ? feature.options : feature.opposite);
     // Without these clang warns, though it is not to link, that it cannot; and it does so before it
     // reads in a file that it should not. The processor is the one that avr-gcc assumes.
     if (target.startsWith("avr-"))
@@ -137,5 +192,9 @@ bool canBeDefined(const Macro &macro)
 
 bool holdsIntrinsics(const QString &directory)
 {
-    return QFileInfo::exists(directory + "/immintrin.h"_L1);
+    static const QLatin1StringView headers[] = {"immintrin.h"_L1, "arm_neon.h"_L1, "arm_acle.h"_L1,
+                                                "altivec.h"_L1, "msa.h"_L1};
+    return std::any_of(std::begin(headers), std::end(headers), [&directory](auto header) {
+        return QFileInfo::exists(directory + u'/' + header);
+    });
 }

@@ -35,7 +35,7 @@ const Use uses[] = {
 };
 
 /// Forms of what may stand behind a function. A compiler takes what is wrong there for the start of
-/// a definition in the old style and goes astray, so these are tried one in a probe, and only for
+/// a definition in the old style and may go astray, so these are tried apart, and only for
 /// keywords that have no other form.
 const Use usesBehindFunctions[] = {
     {"extern void %(void) @;", Keyword::Qualifier},
@@ -115,15 +115,17 @@ QByteArray lineOf(const Use &use, const QByteArray &keyword, qsizetype number)
     return QByteArray(use.line).replace('@', keyword).replace('%', name) + '\n';
 }
 
-/// Tries the forms in \a tried with those of \a keywords for which there is none in \a forms yet,
-/// and adds those that the compiler accepts; \a isAlone for one in a probe.
+/// Tries the forms in \a tried with those of \a keywords that are not \a settled and for which
+/// there is none in \a forms yet, and adds those that the compiler accepts; \a isAlone for one in a
+/// probe.
 void addForms(const Questions &questions, const QList<QByteArray> &keywords,
-              std::span<const Use> tried, bool isAlone, QList<QSet<int>> &forms)
+              std::span<const Use> tried, bool isApart, QList<QSet<int>> &forms,
+              const QList<QByteArray> &settled)
 {
     QList<QByteArray> lines;
     QList<std::pair<qsizetype, int>> asked; // keyword and form
     for (qsizetype i = 0; i < keywords.size(); ++i) {
-        if (!forms[i].isEmpty())
+        if (!forms[i].isEmpty() || settled.contains(keywords[i]))
             continue;
         for (const Use &use : tried) {
             // An unknown name must not pass for a type.
@@ -134,7 +136,7 @@ void addForms(const Questions &questions, const QList<QByteArray> &keywords,
         }
     }
     const QList<bool> isAccepted =
-        isAlone ? questions.acceptedAlone(lines) : questions.accepted({}, lines);
+        isApart ? questions.acceptedApart(lines) : questions.accepted({}, lines);
     for (const auto &[keyword, form] : selected(asked, isAccepted))
         forms[keyword] << form;
 }
@@ -199,13 +201,14 @@ void measureTypes(const Questions &questions, QList<Keyword> &keywords, const Ty
 } // namespace
 
 QList<Keyword> learnKeywords(const Questions &questions, const QList<ScannedName> &names,
-                             const MacroFacts &macros, const TypeFacts &types)
+                             const MacroFacts &macros, const TypeFacts &types,
+                             const QList<QByteArray> &settled)
 {
     const QList<QByteArray> found =
         undeclarableNames(questions, candidates(names, questions.isCpp(), macros));
     QList<QSet<int>> forms(found.size());
-    addForms(questions, found, uses, false, forms);
-    addForms(questions, found, usesBehindFunctions, true, forms);
+    addForms(questions, found, uses, false, forms, {});
+    addForms(questions, found, usesBehindFunctions, true, forms, settled);
     if (!questions.rejects(ErrorKind::ConflictingDeclaration))
         keepTypesApart(questions, found, forms);
     QSet<QByteArray> called;

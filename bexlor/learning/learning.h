@@ -20,9 +20,12 @@ MacroFacts learnMacros(const Questions &questions, const QList<QByteArray> &cand
 TypeFacts learnTypes(const Questions &questions);
 
 /// The keywords among \a names and the well-known ones that are no standard keywords and no
-/// \a macros, with stand-ins from \a types, in alphabetical order.
+/// \a macros, with stand-ins from \a types, in alphabetical order. Those \a settled, of which it is
+/// enough to know that they are there, are not tried behind functions, where each form needs a
+/// probe.
 QList<Keyword> learnKeywords(const Questions &questions, const QList<ScannedName> &names,
-                             const MacroFacts &macros, const TypeFacts &types);
+                             const MacroFacts &macros, const TypeFacts &types,
+                             const QList<QByteArray> &settled = {});
 
 /// Which directories with \a headers the compiler searches by itself, in its order.
 QStringList learnSearchPath(const Questions &questions, const QList<HeaderFile> &headers);

@@ -44,18 +44,19 @@ QList<Shape> shapesOf(const Questions &questions, const QByteArray &prelude,
 QByteArray typeBehind(const Questions &questions, const QByteArray &name, const Shape &shape,
                       const QList<Shape> &shapesOfTypes)
 {
-    QList<QByteArray> types, sources;
+    QList<QByteArray> types, declarations;
     for (qsizetype i = 0; i < integerTypes.size(); ++i) {
         const Shape &other = shapesOfTypes[i];
         if (!shape.size || other.size != shape.size || other.isUnsigned != shape.isUnsigned)
             continue;
+        const QByteArray object = " calyx_" + QByteArray::number(types.size()) + "; ";
         types << integerTypes[i];
-        sources << "#include <stddef.h>\nextern " + name + " calyx_object;\nextern "
-                       + integerTypes[i] + " calyx_object;\n";
+        declarations << "extern " + name + object + "extern " + integerTypes[i] + object + '\n';
     }
     if (!questions.rejects(ErrorKind::ConflictingDeclaration))
         return types.size() == 1 ? types.first() : QByteArray();
-    const QList<QByteArray> same = selected(types, questions.acceptedAlone(sources));
+    const QList<QByteArray> same =
+        selected(types, questions.accepted("#include <stddef.h>\n", declarations));
     return same.size() == 1 ? same.first() : QByteArray();
 }
 

@@ -27,12 +27,14 @@ QList<Option> searchOptions(const Arguments &arguments, const Facts &facts)
         options << pathOption("-isystem", arguments.substituteHeaders);
     for (const QString &directory : facts.searchPath.forQuotedNames)
         options << pathOption("-iquote", directory);
+    // Where the compiler searches its own headers clang searches those that are made for itself,
+    // and what the compiler searches behind them comes behind those, too.
     const QStringList &searched = facts.searchPath.directories;
+    const bool isClang = findMacro(facts.macros, "__clang__");
     bool usesClangsOwn = false;
     for (const QString &directory : searched) {
-        const bool isTied = !findMacro(facts.macros, "__clang__") && holdsIntrinsics(directory);
-        usesClangsOwn |= isTied;
-        options << pathOption(isTied ? "-idirafter" : "-isystem", directory);
+        usesClangsOwn |= !isClang && holdsIntrinsics(directory);
+        options << pathOption(usesClangsOwn ? "-idirafter" : "-isystem", directory);
     }
     for (const QString &directory : arguments.headerDirectories) {
         // What the user has given and the compiler does not search must not hide anything.

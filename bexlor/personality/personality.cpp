@@ -9,6 +9,8 @@
 #include <cstring>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// \a text as one word of an option file: in double quotes, in which a backslash makes the
@@ -138,18 +140,22 @@ void read(const QByteArray &text, Keyword &keyword)
 // The keys are those of a compilation database, in which a command line is kept the same way.
 const QLatin1StringView directoryKey("directory"), argumentsKey("arguments");
 
+QJsonObject object(const CommandLine &line)
+{
+    return {{directoryKey, line.directory},
+            {argumentsKey, QJsonArray::fromStringList(line.arguments)}};
+}
+
 QByteArray written(const CommandLine &line)
 {
-    const QJsonObject object {{directoryKey, line.directory},
-                              {argumentsKey, QJsonArray::fromStringList(line.arguments)}};
-    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+    return QJsonDocument(object(line)).toJson(QJsonDocument::Compact);
 }
 
 void read(const QByteArray &text, CommandLine &line)
 {
-    const QJsonObject object = QJsonDocument::fromJson(text).object();
-    line.directory = object[directoryKey].toString();
-    line.arguments = object[argumentsKey].toVariant().toStringList();
+    const QJsonObject written = QJsonDocument::fromJson(text).object();
+    line.directory = written[directoryKey].toString();
+    line.arguments = written[argumentsKey].toVariant().toStringList();
 }
 
 /// Writes a line for each fact that is known.
@@ -200,7 +206,61 @@ struct FactReader
     }
 };
 
-/// Takes \a visitor, which writes or reads, through the facts that no option carries.
+// What is more than a text or a number has keys in JSON.
+
+QJsonValue asJson(int number)
+{
+    return number;
+}
+
+QJsonValue asJson(const Type &type)
+{
+    return QJsonObject {{"name"_L1, QString::fromUtf8(type.name)},
+                        {"size"_L1, type.size},
+                        {"alignment"_L1, type.alignment}};
+}
+
+QJsonValue asJson(const Keyword &keyword)
+{
+    return QJsonObject {{"name"_L1, QString::fromUtf8(keyword.name)},
+                        {"form"_L1, QLatin1StringView(keywordForms[keyword.form])},
+                        {"type"_L1, QString::fromUtf8(keyword.standIn)}};
+}
+
+QJsonValue asJson(const CommandLine &line)
+{
+    return object(line);
+}
+
+template <typename Value>
+QJsonValue asJson(const Value &value)
+{
+    return QString::fromUtf8(written(value));
+}
+
+/// Collects the facts that are known.
+struct FactCollector
+{
+    QJsonObject facts;
+
+    template <typename Value>
+    void one(const char *word, const Value &value)
+    {
+        if (value != Value())
+            facts[QLatin1StringView(word)] = asJson(value);
+    }
+
+    template <typename Value>
+    void each(const char *word, const QList<Value> &values, const char * = "")
+    {
+        QJsonArray list;
+        for (const Value &value : values)
+            list << asJson(value);
+        facts[QLatin1StringView(word)] = list;
+    }
+};
+
+/// Takes \a visitor, which writes, reads or collects, through the facts that no option carries.
 template <typename Visitor, typename Visited>
 void visitFacts(Visitor &visitor, Visited &personality)
 {
@@ -250,6 +310,12 @@ QList<Option> optionsOf(const Section &section, const Personality &personality)
     for (const Macro &macro : personality.facts.macros.known)
         options.append({"-D" + macro.name + '=' + macro.value});
     return options;
+}
+
+void addWords(const Option &option, QJsonArray &words)
+{
+    for (const QByteArray &word : option)
+        words << QString::fromUtf8(word);
 }
 
 void readOption(const QByteArray &line, const Section &section, Personality &personality)
@@ -315,4 +381,21 @@ Personality parsePersonality(const QByteArray &text)
     }
     readSections(text.sliced(options), personality);
     return personality;
+}
+
+QJsonObject personalityFacts(const Personality &personality)
+{
+    FactCollector collector;
+    visitFacts(collector, personality);
+    QJsonObject macros;
+    for (const Macro &macro : personality.facts.macros.known)
+        macros[QString::fromUtf8(macro.name)] = QString::fromUtf8(macro.value);
+    collector.facts["predefined"_L1] = macros;
+    QJsonArray options;
+    for (const Section &section : sections) {
+        for (const Option &option : optionsOf(section, personality))
+            addWords(option, options);
+    }
+    collector.facts["options"_L1] = options;
+    return collector.facts;
 }

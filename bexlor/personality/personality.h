@@ -3,6 +3,8 @@
 #include "arguments.h"
 #include "facts.h"
 
+#include <QJsonObject>
+
 /// An option of clang: one word, or two if a path stands behind it.
 using Option = QList<QByteArray>;
 
@@ -37,3 +39,8 @@ QByteArray personalityText(const Personality &personality);
 
 /// Reads back what personalityText() has written. Lines that it does not write are passed over.
 Personality parsePersonality(const QByteArray &text);
+
+/// The facts of \a personality as a JSON object. Its keys are the words of the "#:" lines, each
+/// with the value of its line, or with a list of them where there may be several. Beside them,
+/// "predefined" has the macros by their names, and "options" the words that clang is given.
+QJsonObject personalityFacts(const Personality &personality);

@@ -6,6 +6,7 @@
 #include "text_file.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <algorithm>
 #include <random>
 
@@ -15,36 +16,35 @@ namespace {
 
 const int headersAtMost = 100;
 const int headerTimeLimit = 2000; // milliseconds
+const qint64 largestDatabase = 1'000'000'000;
 
-/// The sources that \a request names; a sentence if they cannot be read.
-std::variant<QList<CheckedSource>, QString>
-sourcesOf(const CheckRequest &request, const Compiler &compiler, const QString &folder)
+/// The sources that \a request names, and how many more there are in another language; a sentence
+/// if they cannot be read.
+struct Sources
 {
-    QList<CheckedSource> sources;
+    QList<CheckedSource> list;
+    int passedOver = 0;
+};
+
+std::variant<Sources, QString> sourcesOf(const CheckRequest &request, const Compiler &compiler,
+                                         const QString &folder)
+{
+    Sources sources;
     if (!request.isDatabase()) {
         for (const QString &file : request.sources)
-            sources << sourceOfFile(compiler, file, folder, sources.size());
+            sources.list << sourceOfFile(compiler, file, folder, sources.list.size());
         return sources;
     }
-    const QString &path = request.sources.first();
-    const platform::FileContent file = platform::readFile(path);
-    if (file.state != platform::FileContent::Whole)
-        return u"The compilation database cannot be read: %1"_s.arg(path);
-    const auto listed = sourcesOfDatabase(file.bytes, compiler, folder);
-    if (!listed)
-        return u"This is no compilation database: %1"_s.arg(path);
-    return *listed;
-}
-
-QList<Verdict> checkWithProgress(Progress &progress, const QString &text, const Checking &checking,
-                                 const QList<CheckedSource> &sources,
-                                 std::optional<int> timeLimit = {})
-{
-    std::atomic<int> done = 0;
-    const ProgressStep step(progress, text, [&done, &sources] {
-        return u"%1 of %2"_s.arg(done.load()).arg(sources.size());
-    });
-    return checkSources(checking, sources, done, timeLimit);
+    const auto read = readDatabase(request.sources.first());
+    if (const auto *problem = std::get_if<QString>(&read))
+        return *problem;
+    for (const CompileCommand &entry : std::get<QList<CompileCommand>>(read)) {
+        if (isInLanguage(entry.file, compiler.isCpp))
+            sources.list << sourceOfEntry(entry, compiler, folder, sources.list.size());
+        else
+            ++sources.passedOver;
+    }
+    return sources;
 }
 
 /// Some of the headers on the search path that can be included by their names alone. They are from
@@ -69,56 +69,72 @@ QStringList sampleOfHeaders(const Personality &content, bool isCpp)
 
 } // namespace
 
-int checkWithPersonality(Progress &progress, const CheckRequest &request,
-                         const Arguments &arguments, const Personality &content,
-                         const QString &folder)
+std::optional<Clang> findClang(Progress &progress, const QString &word)
+{
+    const std::optional<Clang> clang = findClang(word);
+    if (!clang)
+        progress.say(u"There is no clang that can be started: %1"_s.arg(word));
+    return clang;
+}
+
+std::variant<QList<CompileCommand>, QString> readDatabase(const QString &path)
+{
+    const platform::FileContent file = platform::readFile(path, largestDatabase);
+    if (file.state != platform::FileContent::Whole)
+        return u"The compilation database cannot be read: %1"_s.arg(path);
+    const auto commands = parseDatabase(file.bytes, QFileInfo(path).absolutePath());
+    if (!commands)
+        return u"This is no compilation database: %1"_s.arg(path);
+    return *commands;
+}
+
+ExitStatus checkWithPersonality(Progress &progress, const CheckRequest &request,
+                                const Arguments &arguments, const Personality &content,
+                                const QString &folder)
 {
     // The answers may be somebody else's, and name what is started.
     if (const QString reason = refusalReason(arguments); !reason.isEmpty()) {
         progress.say(reason);
-        return 3;
+        return ExitStatus::Missing;
     }
-    const std::optional<Clang> clang = findClang();
-    if (!clang) {
-        progress.say(u"There is no clang on the PATH."_s);
-        return 3;
-    }
+    const std::optional<Clang> clang = findClang(progress, request.clang);
     const Compiler compiler = findCompiler(arguments);
-    const auto listed = sourcesOf(request, compiler, folder);
-    if (const auto *problem = std::get_if<QString>(&listed)) {
+    if (!clang || !compileFirstProbe(progress, ProbeRunner(compiler, folder, false), folder))
+        return ExitStatus::Missing;
+    const auto read = sourcesOf(request, compiler, folder);
+    if (const auto *problem = std::get_if<QString>(&read)) {
         progress.say(*problem);
-        return 3;
+        return ExitStatus::Missing;
     }
-    if (!compileFirstProbe(progress, ProbeRunner(compiler, folder, false), folder))
-        return 3;
-    const Checking checking {compiler,
-                             *clang,
-                             arguments.personality,
-                             content,
-                             request.preprocess,
-                             canCheckSyntaxOnly(compiler, folder)};
-    const QList<Verdict> verdicts = checkWithProgress(
-        progress, u"Checking the sources ..."_s, checking, std::get<QList<CheckedSource>>(listed));
-    for (const Verdict &verdict : verdicts)
-        progress.say(verdictLine(verdict));
+    const auto &sources = std::get<Sources>(read);
+    if (sources.passedOver > 0)
+        progress.say(u"Passed over, being in another language: %1."_s.arg(sources.passedOver));
+    const Checking checking {
+        *clang,          request.personality,  content,
+        compiler.layout, {request.preprocess}, canCheckSyntaxOnly(compiler, folder)};
+    QList<Verdict> verdicts;
+    checkSources(checking, sources.list, [&](const Verdict &verdict) {
+        verdicts << verdict;
+        progress.say(u"[%1/%2] "_s.arg(verdicts.size()).arg(sources.list.size())
+                     + verdictLine(verdict));
+    });
     for (const QString &line : summaryLines(clang->version, verdicts))
         progress.say(line);
     if (!request.jsonFile.isEmpty()
         && !platform::writeFile(request.jsonFile, verdictsAsJson(checking, verdicts))) {
         progress.say(u"The verdicts cannot be written: %1"_s.arg(request.jsonFile));
-        return 3;
+        return ExitStatus::Missing;
     }
-    return clangAcceptsAll(verdicts) ? 0 : 1;
+    return exitStatus(verdicts);
 }
 
-void checkHeaders(Progress &progress, const Arguments &arguments, const QString &folder)
+void checkHeaders(Progress &progress, const Arguments &arguments, const QByteArray &text,
+                  const QString &folder)
 {
-    const std::optional<Clang> clang = findClang();
-    const QString path = QDir::current().absoluteFilePath(arguments.personality);
-    const platform::FileContent written = platform::readFile(path);
-    if (!clang || written.state != platform::FileContent::Whole)
+    const std::optional<Clang> clang = findClang(u"clang"_s);
+    if (!clang)
         return;
-    const Personality content = parsePersonality(written.bytes);
+    const Personality content = parsePersonality(text);
     const Compiler compiler = findCompiler(arguments);
     QList<CheckedSource> sources;
     for (const QString &name : sampleOfHeaders(content, arguments.isCpp)) {
@@ -129,11 +145,20 @@ void checkHeaders(Progress &progress, const Arguments &arguments, const QString 
     }
     if (sources.isEmpty())
         return;
-    const Checking checking {compiler, *clang, path,
-                             content,  {},     canCheckSyntaxOnly(compiler, folder)};
-    const QList<Verdict> verdicts =
-        checkWithProgress(progress, u"Trying the headers of the search path ..."_s, checking,
-                          sources, headerTimeLimit);
+    const Checking checking {*clang,
+                             QDir::current().absoluteFilePath(arguments.personality),
+                             content,
+                             compiler.layout,
+                             {},
+                             canCheckSyntaxOnly(compiler, folder),
+                             QDeadlineTimer(headerTimeLimit)};
+    QList<Verdict> verdicts;
+    {
+        const ProgressStep step(progress, u"Trying the headers of the search path ..."_s,
+                                [] { return QString(); });
+        checkSources(checking, sources,
+                     [&verdicts](const Verdict &verdict) { verdicts << verdict; });
+    }
     progress.say(acceptanceSentence(clang->version, verdicts, u"headers"_s));
     const auto rejected =
         std::find_if(verdicts.begin(), verdicts.end(), [](const Verdict &verdict) {

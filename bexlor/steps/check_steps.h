@@ -1,20 +1,36 @@
 #pragma once
 
+#include "clang_program.h"
+#include "compile_database.h"
+#include "exit_status.h"
 #include "personality.h"
 #include "progress.h"
 #include "request.h"
 
-/// The steps that let clang read code with a personality and say what came out.
+#include <variant>
 
-/// Checks the sources of \a request, whose paths are absolute, with the personality that \a content
-/// is of and \a arguments are the answers in; \a folder is for temporary files. Returns the exit
-/// status: 0 when clang accepts all that the compiler accepts, 1 when it does not, 3 when something
-/// is missing that a check needs.
-int checkWithPersonality(Progress &progress, const CheckRequest &request,
-                         const Arguments &arguments, const Personality &content,
-                         const QString &folder);
+/// The steps that use a personality that is there: they let clang read code with it, or write it in
+/// another form.
+
+/// Checks the sources of \a request with its personality, which holds \a content and was generated
+/// by \a arguments; \a folder is for temporary files.
+ExitStatus checkWithPersonality(Progress &progress, const CheckRequest &request,
+                                const Arguments &arguments, const Personality &content,
+                                const QString &folder);
 
 /// Says in one line how many headers of the search path clang accepts with the personality that has
-/// just been written; of many headers a part is tried, for two seconds at most. Says nothing where
-/// no clang is found.
-void checkHeaders(Progress &progress, const Arguments &arguments, const QString &folder);
+/// just been written, \a text; of many headers a part is tried, for two seconds at most. Says
+/// nothing where no clang is found.
+void checkHeaders(Progress &progress, const Arguments &arguments, const QByteArray &text,
+                  const QString &folder);
+
+/// Writes the personality that holds \a content as \a request asks; the rest as above.
+ExitStatus exportPersonality(Progress &progress, const ExportRequest &request,
+                             const Arguments &arguments, const Personality &content,
+                             const QString &folder);
+
+/// The clang that \a word names; nothing, which is then said, when there is none.
+std::optional<Clang> findClang(Progress &progress, const QString &word);
+
+/// The entries of the database \a path, or a sentence if they cannot be read.
+std::variant<QList<CompileCommand>, QString> readDatabase(const QString &path);

@@ -1,5 +1,6 @@
 #include "steps.h"
 
+#include "clang.h"
 #include "generator_interface.h"
 #include "personality.h"
 #include "probe_options.h"
@@ -34,6 +35,8 @@ QString howItEnded(const ProbeAnswer &answer)
         break;
     }
     const QString end = u"the compiler returned %1"_s.arg(answer.run.exitCode);
+    if (answer.lacksConstants)
+        return end + " and left out constants of a probe"_L1;
     return answer.run.exitCode == 0 && answer.leftNothing ? end + " and left no object file"_L1
                                                           : end;
 }
@@ -272,7 +275,8 @@ QList<Keyword> findKeywords(Progress &progress, const Questions &questions, cons
                             const Facts &known)
 {
     const ProgressStep step(progress, u"Looking for keywords ..."_s, probesOf(questions.runner()));
-    const QList<Keyword> keywords = learnKeywords(questions, scan.names, known.macros, known.types);
+    const QList<Keyword> keywords =
+        learnKeywords(questions, scan.names, known.macros, known.types, keywordsOfClang());
     progress.say(u"Found %1."_s.arg(counted(keywords.size(), "keyword"_L1, "keywords"_L1)));
     return keywords;
 }

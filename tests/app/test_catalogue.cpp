@@ -25,7 +25,7 @@ struct CatalogueFolder : ProgramFolder
     {
         write("bin/compilers.txt",
               catalogueText({{"Family"},
-                             {compiler("a - C", "no", "t"), compiler("b - C++", "yes", ""),
+                             {compiler("a - C", "no", "t"), compiler("b&c - C++", "yes", ""),
                               compiler("get", "no", "Integration - g&t.exe")}}));
     }
 };
@@ -90,12 +90,12 @@ private slots:
         QCOMPARE(user->CmpSwtchEdit->toPlainText(), "-x");
         QVERIFY(!itemsOf(user, 0).at(0)->isEnabled() && itemsOf(user, 0).at(1)->isEnabled());
         QCOMPARE(messageOf([&] { user.click(user->KOVPPRadioButton); }), "");
-        user->applyCatalogueCompiler("Family", "b - C++");
+        user->applyCatalogueCompiler("Family", "b&c - C++");
         QCOMPARE(messageOf([&] { user.click(user->KOVRadioButton); }),
                  "You have selected KOV for a currently selected C++ execution command.\nPlease "
                  "reselect the Exe Command below.");
         const Language german("de");
-        user->applyCatalogueCompiler("Family", "b - C++");
+        user->applyCatalogueCompiler("Family", "b&c - C++");
         QVERIFY(messageOf([&] { user.click(user->KOVRadioButton); }).startsWith("Sie haben KOV "));
     }
 
@@ -165,6 +165,8 @@ private slots:
             dialog.buttonCancel->click();
         });
         QCOMPARE(saved, before);
+        // It is the chosen one now, and does not go with the product.
+        QVERIFY(!messageOf([&] { user->KOVRadioButton->click(); }).isEmpty());
 
         folder.write("bin/compilers.txt", QByteArray("\xff\xfe<\0C\0", 6));
         QVERIFY(

@@ -41,6 +41,7 @@ private slots:
             else
                 QCOMPARE(user->currentPage(), pages[from]);
         }
+        QVERIFY(user->updatesEnabled());
         QCOMPARE(reached, reachable);
         const bool isReviewed = from != 4 && reached.contains('4');
         QCOMPARE(user.finishIsEnabled() && !user->DetailsText->toPlainText().isEmpty(), isReviewed);

@@ -4,10 +4,6 @@
 #include "refusal.h"
 #include "row.h"
 
-#include <QDir>
-#include <QRegularExpression>
-#include <QTest>
-
 class TestArguments : public QObject
 {
     Q_OBJECT
@@ -39,20 +35,24 @@ private slots:
 
     void namesTheWrongArgument_data()
     {
-        QTest::addColumn<QStringList>("list");
-        QTest::addColumn<QString>("says");
-        row("none", QStringList(), "no arguments");
+        const Columns<QStringList, QString> row("list", "says");
+        row("none", {}, "no arguments");
         row("too short", plain().mid(0, 9), "missing behind the last one: -op");
         row("no output", plain().mid(0, 8), "missing behind the last one: %c %s ");
         row("unknown product", QStringList("-i") + plain().mid(1), "Argument 1 is not.*: -i$");
         row("unknown option", plain() + QStringList {"-x", "y"}, "Argument 11 is not.*: -x$");
         row("option without a value", plain() + QStringList {"-xd"}, "last one: -xd$");
         row("wrong order", plain() + QStringList {"-rfs", "-xd", "A"}, "Argument 12 .*: -xd$");
-        row("no personality", QStringList {"again"}, "last one: again$");
-        row("nothing to check", QStringList {"check", "x"}, "last one: x$");
-        row("no file", QStringList {"check", "x", "y", "--json"}, "last one: --json$");
-        row("unknown flag", QStringList {"again", "x", "--x"}, "Argument 3 .*: --x$");
-        row("more than a word", QStringList {"--help", "me"}, "Argument 2 .*: me$");
+        row("no personality", {"again"}, "last one: again$");
+        row("nothing to check", {"check", "x"}, "last one: x$");
+        row("no file", {"check", "x", "y", "--json"}, "last one: --json$");
+        row("unknown flag", {"again", "x", "--x"}, "Argument 3 .*: --x$");
+        row("unknown format", {"export", "x", "xml"}, "Argument 3 .*: xml$");
+        row("no database", {"export", "x", "compile-commands"}, "commands$");
+        row("no output", {"export", "x", "cppcheck"}, "last one: cppcheck$");
+        row("a database for nothing", {"export", "x", "json", "y"}, "4 .*: y$");
+        row("no place for an entry", {"entry", "x"}, "last one: x$");
+        row("more than a word", {"--help", "me"}, "Argument 2 .*: me$");
     }
     void namesTheWrongArgument()
     {
@@ -67,13 +67,12 @@ private slots:
 
     void refusesWhatIsNotShown_data()
     {
-        QTest::addColumn<QString>("given"); // in the place of what stands in plain()
-        QTest::addColumn<int>("place");
-        QTest::addColumn<QStringList>("more");
-        QTest::addColumn<QString>("reason"); // how it begins; empty: not refused
+        // given: in the place of what stands in plain()
+        // reason: how it begins; empty: not refused
+        const Columns<QString, int, QStringList, QString> row("given", "place", "more", "reason");
         const QString order = "The order of the compile command does not begin with the command";
         const QStringList none;
-        row("nothing odd", "cc", 2, QStringList {"-xs", "-a\t-b", "-tpl", "..\\own\\..\\t"}, "");
+        row("nothing odd", "cc", 2, {"-xs", "-a\t-b", "-tpl", "..\\own\\..\\t"}, "");
         row("flags of a DOS tradition", "/Fo:", 3, none, "");
         row("nothing to start", "\" \"", 2, none, "There is no compiler command");
         row("order without the command", "%o%e %s ", 7, none, order);
@@ -84,12 +83,12 @@ private slots:
         row("path in the extension", ".o/../x", 6, none, "The object file extension holds a path");
         row("line feed in a flag", "-c\n-Dx", 4, none, "The object flag holds a control character");
         row("line feed in a command", "cc\n-Dx", 2, none, "There is a control character in");
-        row("null in a define", "cc", 2, QStringList {"-xd", QString("A=") + QChar(0)},
+        row("null in a define", "cc", 2, {"-xd", QString("A=") + QChar(0)},
             "There is a control character in");
         row("template outside its folder", "cc", 2,
-            QStringList {"-tpl", "..\\TemplatePersonalities\\a/../../x"},
+            {"-tpl", "..\\TemplatePersonalities\\a/../../x"},
             "The template does not lie in the folder TemplatePersonalities");
-        row("line feed in a file's name", "cc", 2, QStringList {"-fi", "x\n-DX"},
+        row("line feed in a file's name", "cc", 2, {"-fi", "x\n-DX"},
             "The name of the force-include file holds a control character");
     }
     void refusesWhatIsNotShown()

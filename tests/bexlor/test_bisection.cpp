@@ -9,7 +9,8 @@ const ProbeLimits limits {200, 1000};
 /// A compiler that rejects lines with "bad" in them. It names in its errors what the row says.
 struct FakeCompiler
 {
-    QString names; ///< "all", "first", "none", "wrong" (the line behind) or "everything"
+    /// "all", "some" (three at most), "first", "none", "wrong" (the line behind) or "everything"
+    QString names;
     int started = 0;
 
     QList<ProbeAnswer> operator()(const QList<QByteArray> &sources)
@@ -31,8 +32,11 @@ struct FakeCompiler
                 answer.lines << i + (names == "wrong" ? 2 : 1);
         }
         answer.run.exitCode = source.contains("bad") ? 1 : 0;
-        if (names == "first" && !answer.lines.isEmpty())
-            answer.lines = {*std::min_element(answer.lines.begin(), answer.lines.end())};
+        QList<int> first(answer.lines.begin(), answer.lines.end());
+        std::sort(first.begin(), first.end());
+        if (names == "first" || names == "some")
+            first = first.mid(0, names == "first" ? 1 : 3);
+        answer.lines = QSet<int>(first.begin(), first.end());
         if (names == "none")
             answer.lines.clear();
         answer.allLines = answer.lines;
@@ -64,7 +68,8 @@ private slots:
         const Columns<QString, QList<int>, int> row("names", "bad", "starts");
         const QList<int> few {0, 7, 8, 31, 149}, none;
         row("no errors", "all", none, 2);
-        row("names all", "all", few, 10);
+        row("names all", "all", few, 6);
+        row("stops after some errors", "some", few, 12);
         row("stops at its first error", "first", few, 40);
         row("names no line", "none", few, 60);
         row("names the line behind", "wrong", few, 110);
@@ -81,6 +86,7 @@ private slots:
         for (int i = 0; i < accepted.size(); ++i)
             QVERIFY2(accepted[i] == !bad.contains(i), qPrintable(QString::number(i)));
         QVERIFY2(compiler.started <= starts, qPrintable(QString::number(compiler.started)));
+        QCOMPARE(itemsAcceptedApart(std::ref(compiler), {}, items(150, bad), limits), accepted);
     }
 
     void confirmsSuspectsAlone()

@@ -2,9 +2,10 @@
 #include "rejection.h"
 #include "token_stream.h"
 
+#include "files.h"
 #include "row.h"
 
-#include <QTest>
+#include <QTemporaryDir>
 
 class TestCheck : public QObject
 {
@@ -13,13 +14,8 @@ class TestCheck : public QObject
 private slots:
     void comparesTokens_data()
     {
-        QTest::addColumn<QByteArray>("ofCompiler");
-        QTest::addColumn<QByteArray>("ofClang");
-        QTest::addColumn<QString>("difference"); // FILE:LINE and both tokens, or empty
-        const auto row = [](const char *name, const QByteArray &ofCompiler,
-                            const QByteArray &ofClang, const QString &difference) {
-            QTest::newRow(name) << ofCompiler << ofClang << difference;
-        };
+        // difference: FILE:LINE and both tokens, or empty
+        const Columns<QByteArray, QByteArray, QString> row("ofCompiler", "ofClang", "difference");
         row("white space and markers", "# 1 \"x.c\"\nint  a;\n# 9 \"y.h\" 2\n b", "int a ;\n\nb\n",
             "");
         row("place", "# 1 \"x.c\"\na\n#line 7 \"odd \\\\ y.h\"\nb\nc\n", "a b d",
@@ -32,7 +28,8 @@ private slots:
         row("space in a literal", "# 1 \"x.c\"\n\"a  b\"", "\"a b\"", "x.c:1 \"a  b\" \"a b\"");
         row("raw literal", "# 1 \"x.c\"\nR\"(\"\n#)\" a\nb", "R\"(\"\n#)\"  a c", "x.c:3 b c");
         row("literals that do not end", "'\na R\"x \\", "'\na R\"x \\", "");
-        row("pragmas", "#pragma GCC system_header\n#pragma pack(1)\na", "#pragma pack(1)\na", "");
+        row("pragmas", "#pragma GCC system_header\n#pragma pack(1)\na",
+            "#pragma pack(1)\n#pragma GCC diagnostic pop\na", "");
         row("a pragma for the compiler", "# 1 \"x.c\"\n#pragma pack(1)\na", "a", "x.c:1 # a");
         row("a repeated declaration", "a typedef int va_list; b",
             "a typedef __gnuc_va_list va_list; typedef int va_list; b", "");
@@ -54,7 +51,7 @@ private slots:
 
     void tellsTheKindOfARejection_data()
     {
-        QTest::addColumn<QByteArray>("message");
+        const Columns<QByteArray> row("message");
         for (const auto &[message, kind] : {
                  std::pair("clang: error: unknown argument: '-mx'", "option"),
                  {"x.c:1:2: fatal error: 'a.h' file not found", "header not found"},
@@ -82,26 +79,38 @@ private slots:
         Compiler compiler;
         compiler.layout = {"-o", "-c", "-D", ".o", "%c %o %e %d%j %s "};
         QByteArray json =
-            "[{'directory': '/p', 'file': 'a.c', 'arguments': ['cc', '-Iinc', '-isystem', 's', "
+            "[{'directory': '/p', 'file': '/p/a.c', 'arguments': ['cc', '-Iinc', '-isystem', 's', "
             "'-O2', '-include', 'f.h', '-DA=1', '-D', 'B', '-MD', '-MF', 'a.d', '-o', 'a.o', '-c', "
             "'a.c']},\n"
-            "{'directory': '/p', 'file': 'b.cpp', 'command': 'c++ -c b.cpp'},\n"
-            "{'directory': '/q', 'file': 'b.c', 'command': "
+            "{'directory': 'q', 'file': 'b.c', 'command': "
             "'\\'c c\\' -DX=\\\\\\'y\\\\\\' \\'-DP=a b\\' -ob.o b.c'}]";
         json.replace('\'', '"');
-        const auto sources = sourcesOfDatabase(json, compiler, "/tmp");
-        QVERIFY(sources);
-        QCOMPARE(sources->size(), 2);
-        const CheckedSource &first = sources->first(), &second = sources->last();
-        QCOMPARE(first.directory + first.file, "/pa.c");
+        const auto commands = parseDatabase(json, "/p");
+        QVERIFY(commands && commands->size() == 2);
+        const CheckedSource first = sourceOfEntry(commands->first(), compiler, "/tmp", 4);
+        const CheckedSource second = sourceOfEntry(commands->last(), compiler, "/tmp", 5);
         QCOMPARE(first.command.join(' '), "cc -Iinc -isystem s -O2 -include f.h -DA=1 -D B -c a.c "
-                                          "-o /tmp/0.o");
-        QCOMPARE(first.bareCommand.join(' '),
-                 "cc -Iinc -isystem s -O2 -include f.h -DA=1 -D B a.c");
+                                          "-o /tmp/4.o");
+        // The file is called what the compiler calls it.
         QCOMPARE(first.clangOptions.join(' '), "-Iinc -isystem s -include f.h -DA=1 -D B a.c");
-        QCOMPARE(second.bareCommand, QStringList({"c c", "-DX=\"y\"", "-DP=a b", "b.c"}));
-        QVERIFY(!sourcesOfDatabase("{}", compiler, "/tmp"));
-        QVERIFY(!sourcesOfDatabase("[{}]", compiler, "/tmp"));
+        QCOMPARE(first.directory + second.directory, "/p/p/q");
+        QCOMPARE(second.command,
+                 QStringList({"c c", "-DX=\"y\"", "-DP=a b", "b.c", "-o", "/tmp/5.o"}));
+        QVERIFY(!parseDatabase("{}", "/p"));
+        QVERIFY(!parseDatabase("[{}]", "/p"));
+    }
+
+    void compilesElsewhereWhatNamesNoOutput()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.path();
+        writeTestFile(path + "/inc/x.h", "");
+        writeTestFile(path + "/a.c", "");
+        const CompileCommand entry {path, "a.c", {"cc", "-Iinc", "a.c"}};
+        const CheckedSource source = sourceOfEntry(entry, Compiler(), "/tmp", 0);
+        QCOMPARE(source.directory, "/tmp");
+        QCOMPARE(source.command, QStringList({"cc", "-I" + path + "/inc", path + "/a.c"}));
+        QCOMPARE(source.clangOptions, source.command.sliced(1));
     }
 };
 

@@ -4,9 +4,6 @@
 #include "files.h"
 #include "row.h"
 
-#include <QTemporaryDir>
-#include <QTest>
-
 namespace {
 
 QList<Macro> macros(const QByteArray &names)
@@ -39,15 +36,8 @@ class TestClang : public QObject
 private slots:
     void findsTheTarget_data()
     {
-        QTest::addColumn<QByteArray>("defined");
-        QTest::addColumn<QList<int>>("sizes");
-        QTest::addColumn<ByteOrder>("order");
-        QTest::addColumn<QByteArray>("target");
-        using Sizes = QList<int>;
-        const auto row = [](const char *name, const QByteArray &defined, const Sizes &sizes,
-                            ByteOrder order, const QByteArray &target) {
-            QTest::newRow(name) << defined << sizes << order << target;
-        };
+        const Columns<QByteArray, QList<int>, ByteOrder, QByteArray> row("defined", "sizes",
+                                                                         "order", "target");
         const ByteOrder little = ByteOrder::LittleEndian, big = ByteOrder::BigEndian;
         row("Linux", "__x86_64__ __linux__", {}, little, "x86_64-unknown-linux-gnu");
         row("x32", "__x86_64__ __ILP32__ __linux__", {}, little, "x86_64-unknown-linux-gnux32");
@@ -82,12 +72,10 @@ private slots:
 
     void takesTheSameCode_data()
     {
-        QTest::addColumn<Facts>("facts");
-        QTest::addColumn<bool>("isCpp");
-        QTest::addColumn<QByteArray>("code");
+        const Columns<Facts, bool, QByteArray> add("facts", "isCpp", "code");
         Facts facts;
-        const auto row = [&facts](const char *name, bool isCpp, const QByteArray &code) {
-            QTest::newRow(name) << facts << isCpp << code;
+        const auto row = [&](const char *name, bool isCpp, const QByteArray &code) {
+            add(name, facts, isCpp, code);
         };
         facts.macros.known = macros("__arm__ __ELF__ __STDC_VERSION__=201112L __cplusplus=201703L");
         facts.types = types({4, 4, 4, 8, 8});
@@ -108,6 +96,17 @@ private slots:
             "#if !__cpp_rtti\n#error\n#endif\n");
         facts.keywords.append({"_Accum", Keyword::Undetermined, {}});
         row("fixed point", false, "long _Accum a; unsigned _Fract b = 0.5ur;");
+        facts.macros.known = macros("__arm__ __ELF__ __ARM_ARCH=7 __ARM_ARCH_7A__ __ARM_NEON "
+                                    "__STDC_VERSION__=201112L __ARM_FP=12 __GNUC__=12");
+        row("Arm's instructions", false,
+            "#include <arm_neon.h>\n#include <arm_acle.h>\n"
+            "float32x4_t f(float32x4_t x) { __dmb(15); return vaddq_f32(x, x); }");
+        facts.macros.known = macros("__powerpc__ __ALTIVEC__ __ELF__");
+        row("AltiVec", false, "__vector float a;");
+        facts.macros.known = macros("__i386__ __linux__");
+        facts.keywords = {{"_Float128", Keyword::TypeName, {}},
+                          {"__float128", Keyword::TypeName, {}}};
+        row("_Float128", false, "char a[sizeof(_Float128)==16?1:-1];");
         facts = Facts();
         facts.macros.known = macros("__x86_64__ __linux__ __STRICT_ANSI__");
         facts.types = types({4, 8, 8, 8, 8});
@@ -136,7 +135,7 @@ private slots:
         const QTemporaryDir folder;
         const QString source = folder.filePath(isCpp ? "x.cpp" : "x.c");
         writeTestFile(source, code);
-        QStringList command {"clang", source, "-fsyntax-only", "-nostdinc"};
+        QStringList command {"clang", source, "-fsyntax-only", "-nostdlibinc"};
         for (const QByteArray &option : languageOptions(facts, isCpp))
             command << option;
         for (const Macro &macro : keywordDefinitions(facts))

@@ -40,16 +40,12 @@ private slots:
             m_progress.grow();
         }
         m_progress.say("Next.");
-        QCOMPARE(m_said, "Looking ... ... 120 ... 240 ... ... 360\nFound 2.\nNext.\n");
-    }
-
-    void beginsEachStepOnALineOfItsOwn()
-    {
         for (int i = 0; i < 2; ++i) {
             const ProgressStep step(m_progress, "Step ...", [] { return QString("7"); });
             m_progress.grow();
         }
-        QCOMPARE(m_said, "Step ... 7\nStep ... 7\n");
+        QCOMPARE(m_said, "Looking ... ... 120 ... 240 ... ... 360\nFound 2.\nNext.\n"
+                         "Step ... 7\nStep ... 7\n");
     }
 
     void keepsTheLinesOfSeveralThreadsWhole()

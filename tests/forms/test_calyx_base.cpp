@@ -251,6 +251,7 @@ private slots:
         list->addItem(text);
         for (QWidget *widget : std::initializer_list<QWidget *> {preview, list}) {
             widget->setStyle(&style);
+            style.painted.clear();
             widget->grab();
             QVERIFY2(style.painted.startsWith("cc <b>x"), qPrintable(style.painted));
             QVERIFY2(style.painted.endsWith(QChar(0x2026)), qPrintable(style.painted));

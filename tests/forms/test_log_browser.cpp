@@ -49,8 +49,12 @@ private slots:
         ShownBrowser browser;
         const QString text = "arm-none-eabi-gcc -mcpu=cortex-m4 -mfloat-abi=hard -DA=1 -c\n\n"
                              "-I/a/path/that/is/longer/than/the/whole/line-of-200-pixels/is -x";
+        browser.setText("what was there before");
         browser.setReview(text);
         QCOMPARE(browser.toPlainText(), text);
+        QBuffer saved;
+        QVERIFY(saved.open(QIODevice::WriteOnly) && browser.save(saved));
+        QCOMPARE(saved.data(), text.toLocal8Bit());
         int lines = 0;
         for (QTextBlock block = browser.document()->begin(); block.isValid();
              block = block.next()) {

@@ -1,7 +1,7 @@
+#include "argument_texts.h"
 #include "comma_list.h"
 #include "command_check.h"
 #include "command_order.h"
-#include "generator_arguments.h"
 #include "row.h"
 
 class TestCommands : public QObject

@@ -2,6 +2,8 @@
 #include "row.h"
 #include "text_file.h"
 
+#include <csignal>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -41,16 +43,20 @@ private slots:
 
     void writesInPlaceWhereTheFolderAllowsNoOther_data()
     {
-        const Columns<mode_t, mode_t, bool> row("folderMode", "fileMode", "isWritten");
-        row("only the file", 0555, 0666, true);
-        row("neither", 0555, 0444, false);
-        row("a file of somebody else", 0777, 0666, true);
+        const Columns<mode_t, mode_t, rlim_t, bool> row("folderMode", "fileMode", "room",
+                                                        "isWritten");
+        row("only the file", 0555, 0666, RLIM_INFINITY, true);
+        row("only the file, on a full disk", 0555, 0666, 50, false);
+        row("neither", 0555, 0444, RLIM_INFINITY, false);
+        row("a file of somebody else", 0777, 0666, RLIM_INFINITY, true);
     }
     void writesInPlaceWhereTheFolderAllowsNoOther()
     {
         QFETCH(mode_t, folderMode);
         QFETCH(mode_t, fileMode);
+        QFETCH(rlim_t, room);
         QFETCH(bool, isWritten);
+        const QByteArray content(100, 'n');
         const QTemporaryDir folder;
         const QString path = folder.filePath("x");
         writeTestFile(path, "old content\n");
@@ -58,12 +64,20 @@ private slots:
         chmod(QFile::encodeName(folder.path()), folderMode);
         struct stat before, after;
         stat(QFile::encodeName(path), &before);
+        // A limit on the size of files stands for a disk that is full.
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit limit;
+        getrlimit(RLIMIT_FSIZE, &limit);
+        const rlimit small {room, limit.rlim_max};
         {
             const OrdinaryUser user;
-            QCOMPARE(platform::writeFile(path, "new\n"), isWritten);
+            setrlimit(RLIMIT_FSIZE, &small);
+            const bool written = platform::writeFile(path, content);
+            setrlimit(RLIMIT_FSIZE, &limit);
+            QCOMPARE(written, isWritten);
         }
         stat(QFile::encodeName(path), &after);
-        QCOMPARE(readTestFile(path), QByteArray(isWritten ? "new\n" : "old content\n"));
+        QCOMPARE(readTestFile(path), isWritten ? content : "old content\n");
         QCOMPARE(after.st_uid, before.st_uid);
         chmod(QFile::encodeName(folder.path()), 0700);
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);

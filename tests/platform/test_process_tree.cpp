@@ -53,7 +53,7 @@ private slots:
     void keepsToItsTimeAndItsMemory()
     {
         const QTemporaryDir folder;
-        qputenv("STAND_IN", "child beat\nflood");
+        qputenv("STAND_IN", "child beat\nlines 1000000000");
         const platform::ProgramRun run = platform::runProgram({standIn}, folder.path(), 1500);
         QCOMPARE(run.ending, platform::ProgramRun::TimedOut);
         QCOMPARE(run.output.size(), 1'000'000);
@@ -80,7 +80,7 @@ private slots:
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const char *variable : {"TMPDIR", "TMP", "TEMP"})
             environment.insert(variable, QDir::toNativeSeparators(temporary.path()));
-        environment.insert("STAND_IN", "detached " + detached + "\nchild " + beat + "\nhang");
+        environment.insert("STAND_IN", "detached " + detached + "\nchild " + beat + "\nwait never");
         const QStringList arguments = QString("kov|cmp|%1|-o|-c|-D|.o|%c %o%e %j %s |-op|x.p_c")
                                           .arg(QDir::toNativeSeparators(standIn))
                                           .split('|');

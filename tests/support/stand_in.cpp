@@ -5,7 +5,6 @@
 //     print TEXT        TEXT and a line feed on the standard output
 //     bytes TEXT        TEXT alone, with \xHH for a byte; flushed, and followed by a pause
 //     lines COUNT       COUNT lines "one of many"
-//     flood             lines without end
 //     input             what comes on the standard input, up to its end
 //     file NAME TEXT    a file
 //     wait NAME         until there is such a file
@@ -13,7 +12,7 @@
 //     detached NAME     the same, out of reach of who ends what belongs together
 //     beat NAME         makes the file NAME grow for as long as it lives
 //     console           "visible" or "hidden": whether a window shows its console
-//     crash, hang, exit STATUS
+//     crash, exit STATUS
 
 #include "stand_in_system.h"
 
@@ -58,8 +57,6 @@ void obey(const std::string &instruction)
     } else if (word == "lines") {
         for (int i = 0; i < std::stoi(rest); ++i)
             std::cout << "one of many\n";
-    } else if (word == "flood") {
-        while (std::cout << "line without end\n") { }
     } else if (word == "input") {
         std::cout << std::cin.rdbuf();
         std::cout.clear();
@@ -80,8 +77,6 @@ void obey(const std::string &instruction)
         std::cout << (showsConsole() ? "visible" : "hidden") << std::flush;
     } else if (word == "crash") {
         crash();
-    } else if (word == "hang") {
-        std::this_thread::sleep_for(1h);
     } else if (word == "exit") {
         std::cout.flush();
         std::exit(std::stoi(rest));

@@ -1,0 +1,95 @@
+#include "catalogue_answers.h"
+
+#include "argument_texts.h"
+#include "compiler_catalogue.h"
+#include "download.h"
+#include "generator_interface.h"
+#include "product_language.h"
+#include "text_file.h"
+#include "visible_text.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// \a sentence with \a lines below it, which may be anyone's.
+QString withLines(const QString &sentence, const QStringList &lines)
+{
+    QString text = sentence;
+    for (const QString &line : lines)
+        text += "\n  "_L1 + visibleText(line);
+    return text;
+}
+
+/// Why \a record cannot be used as it stands, or an empty text.
+QString problemWith(const CompilerRecord &record)
+{
+    const QStringList open = fieldsWith(record, u"<specify"_s);
+    if (!open.isEmpty())
+        return withLines(u"Copy the entry in the catalogue and fill in what it asks for:"_s, open);
+    if (isDownload(record.Template)) {
+        return withLines(u"The entry needs an integration package:"_s,
+                         {packageName(record.Template)});
+    }
+    return QString();
+}
+
+QStringList wholeNames(const QList<CompilerRecord> &records)
+{
+    QStringList names;
+    for (const CompilerRecord &record : records)
+        names << record.Family + u'/' + record.Name;
+    return names;
+}
+
+} // namespace
+
+QStringList argumentsFor(const CompilerRecord &record, const QString &personality)
+{
+    using namespace generator;
+    const bool isCross = record.CrossCompiler == "yes"_L1;
+    QStringList list {isOffered(record.Name, productC) ? productC : productCpp,
+                      isCross ? crossCompiler : nativeCompiler,
+                      quotedCommand(record.ExeCommand),
+                      record.OutputFlag,
+                      record.ObjectFlag,
+                      record.DefineFlag,
+                      withDot(record.ObjectFileExtension),
+                      record.Order};
+    list << generator::personality << personality << option(defines, record.CompilerDefines)
+         << option(switches, record.CompilerSwitches)
+         << option(templateFile, inFolder(templateFolder, record.Template))
+         << option(forceIncludeFile, inFolder(forceIncludeFolder, record.ForceIncludeFile))
+         << option(substituteHeaders, inFolder(substituteHeadersFolder, record.SubHeaders));
+    if (record.ReduceFileSize == "yes"_L1)
+        list << reduceFileSize;
+    return list;
+}
+
+std::variant<QString, Arguments> answersOfEntry(const QString &name, const QString &catalogue,
+                                                const QString &personality)
+{
+    const platform::FileContent file = platform::readFile(catalogue);
+    if (file.state != platform::FileContent::Whole)
+        return u"The catalogue cannot be read: %1"_s.arg(catalogue);
+    const QList<CompilerRecord> records = parseCatalogue(file.bytes).compilers;
+    QList<CompilerRecord> found;
+    for (const CompilerRecord &record : records) {
+        if (record.Name == name || record.Family + u'/' + record.Name == name)
+            found << record;
+    }
+    if (found.isEmpty())
+        return withLines(u"The catalogue has no entry %1. It has:"_s.arg(name),
+                         wholeNames(records));
+    if (found.size() > 1) {
+        return withLines(
+            u"The catalogue has several entries %1. Name one with its family:"_s.arg(name),
+            wholeNames(found));
+    }
+    if (const QString problem = problemWith(found.first()); !problem.isEmpty())
+        return problem;
+    const auto parsed = parseArguments(argumentsFor(found.first(), personality));
+    if (const auto *error = std::get_if<UsageError>(&parsed))
+        return error->sentence;
+    return std::get<Arguments>(parsed);
+}

@@ -1,0 +1,43 @@
+#include "clang_program.h"
+
+#include "program_search.h"
+
+#include <QDir>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const int patience = 30'000; // milliseconds
+
+} // namespace
+
+std::optional<Clang> findClang(const QString &word)
+{
+    Clang clang {platform::findCommand(word, platform::searchPathVariable()), {}, {}};
+    if (clang.program.isEmpty())
+        return {};
+    clang.program = QFileInfo(clang.program).absoluteFilePath();
+    const platform::ProgramRun run = platform::runProgram(
+        {clang.program, u"--version"_s, u"-print-resource-dir"_s}, QDir::tempPath(), patience);
+    static const QRegularExpression version(u"clang version (\\d+)"_s);
+    const QRegularExpressionMatch found = version.match(QString::fromLocal8Bit(run.output));
+    if (!run.succeeded() || !found.hasMatch())
+        return {};
+    clang.version = "clang "_L1 + found.captured(1);
+    const QByteArray folder =
+        platform::runProgram({clang.program, u"-print-resource-dir"_s}, QDir::tempPath(), patience)
+            .output.trimmed();
+    clang.headers = QDir::cleanPath(QString::fromLocal8Bit(folder) + "/include"_L1);
+    return clang;
+}
+
+platform::ProgramRun runClang(const Clang &clang, const QString &personality,
+                              const QStringList &arguments, const QString &directory, int timeLimit,
+                              qsizetype outputLimit)
+{
+    // Two words, and a whole path: anything else is looked for in clang's own folder.
+    const QStringList start {clang.program, u"--config"_s, personality};
+    return platform::runProgram(start + arguments, directory, timeLimit, outputLimit);
+}

@@ -1,0 +1,89 @@
+#include "compile_database.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QLatin1StringView directoryKey("directory"), fileKey("file"), argumentsKey("arguments"),
+    commandKey("command");
+
+} // namespace
+
+QString CompileCommand::absoluteFile() const
+{
+    return QDir::cleanPath(QDir(directory).absoluteFilePath(file));
+}
+
+std::optional<QList<CompileCommand>> parseDatabase(const QByteArray &json, const QString &folder)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(json);
+    if (!document.isArray())
+        return {};
+    QList<CompileCommand> commands;
+    for (const QJsonValue &value : document.array()) {
+        CompileCommand command {QDir(folder).absoluteFilePath(value[directoryKey].toString()),
+                                value[fileKey].toString(),
+                                value[argumentsKey].toVariant().toStringList()};
+        if (command.words.isEmpty())
+            command.words = databaseWords(value[commandKey].toString());
+        if (command.file.isEmpty() || command.words.isEmpty())
+            return {};
+        commands << command;
+    }
+    return commands;
+}
+
+QByteArray databaseText(const QList<CompileCommand> &commands)
+{
+    QJsonArray array;
+    for (const CompileCommand &command : commands)
+        array << QJsonObject {{directoryKey, command.directory},
+                              {fileKey, command.file},
+                              {argumentsKey, QJsonArray::fromStringList(command.words)}};
+    return QJsonDocument(array).toJson();
+}
+
+QStringList databaseWords(const QString &command)
+{
+    QStringList words;
+    bool isInWord = false;
+    QChar quote;
+    for (qsizetype i = 0; i < command.size(); ++i) {
+        QChar character = command[i];
+        if (quote.isNull() && character.isSpace()) {
+            isInWord = false;
+            continue;
+        }
+        if (!isInWord)
+            words << QString();
+        isInWord = true;
+        if (character == quote) {
+            quote = QChar();
+            continue;
+        }
+        if (quote.isNull() && (character == u'"' || character == u'\'')) {
+            quote = character;
+            continue;
+        }
+        const bool isLiteral = character == u'\\' && quote != u'\'' && i + 1 < command.size()
+                            && QStringView(u"\\\"' ").contains(command[i + 1]);
+        words.last() += isLiteral ? command[++i] : character;
+    }
+    return words;
+}
+
+bool isInLanguage(const QString &file, bool isCpp)
+{
+    static const QStringList suffixes[] = {
+        {u"c"_s, u"h"_s},
+        {u"C"_s, u"cc"_s, u"cp"_s, u"cpp"_s, u"CPP"_s, u"cxx"_s, u"c++"_s, u"h"_s, u"hh"_s,
+         u"hpp"_s, u"hxx"_s},
+    };
+    return suffixes[isCpp].contains(QFileInfo(file).suffix());
+}

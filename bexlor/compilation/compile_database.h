@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QStringList>
+#include <optional>
+
+/// An entry of a compilation database, "compile_commands.json" as clang's manual describes it.
+struct CompileCommand
+{
+    QString directory; ///< in which it runs, absolute
+    QString file;      ///< as the database names it
+    QStringList words;
+
+    QString absoluteFile() const;
+};
+
+/// The entries of the database \a json, which is a file in \a folder. Nothing if it is none.
+std::optional<QList<CompileCommand>> parseDatabase(const QByteArray &json, const QString &folder);
+
+/// A database of \a commands.
+QByteArray databaseText(const QList<CompileCommand> &commands);
+
+/// The words of a command in a database: apart at white space outside quotes, where a backslash
+/// makes a quote, a space or a backslash behind it literal.
+QStringList databaseWords(const QString &command);
+
+/// Whether \a file is in the language of a personality, by its extension; a header is in both.
+bool isInLanguage(const QString &file, bool isCpp);

@@ -1,0 +1,116 @@
+#include "check_steps.h"
+#include "clang_forms.h"
+#include "compiler.h"
+#include "fact_forms.h"
+#include "text_file.h"
+
+#include <QFileInfo>
+#include <QJsonDocument>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+ExitStatus write(Progress &progress, const QString &file, const QByteArray &content)
+{
+    if (file.isEmpty()) {
+        progress.say(QString::fromUtf8(content).trimmed());
+        return ExitStatus::Done;
+    }
+    if (!platform::writeFile(file, content)) {
+        progress.say(u"The file cannot be written: %1"_s.arg(file));
+        return ExitStatus::Failed;
+    }
+    progress.say(u"Wrote %1"_s.arg(file));
+    return ExitStatus::Done;
+}
+
+/// What clang is to be asked about: the compile commands in the language of the personality, and
+/// the compiler's own command.
+struct Project
+{
+    Clang clang;
+    QList<CompileCommand> commands;
+    CompileCommand ownCommand;
+};
+
+/// The project of \a request; nothing, which is then said, when it cannot be read.
+std::optional<Project> projectOf(Progress &progress, const ExportRequest &request,
+                                 const Arguments &arguments, const QString &folder)
+{
+    const std::optional<Clang> clang = findClang(progress, request.clang);
+    if (!clang)
+        return {};
+    Project project {*clang, {}, {folder, {}, findCompiler(arguments).command}};
+    if (request.database.isEmpty())
+        return project;
+    const auto read = readDatabase(request.database);
+    if (const auto *problem = std::get_if<QString>(&read)) {
+        progress.say(*problem);
+        return {};
+    }
+    for (const CompileCommand &command : std::get<QList<CompileCommand>>(read)) {
+        if (isInLanguage(command.file, arguments.isCpp))
+            project.commands << command;
+    }
+    return project;
+}
+
+ExitStatus writeForClang(Progress &progress, const ExportRequest &request,
+                         const Arguments &arguments, const QString &folder)
+{
+    const std::optional<Project> project = projectOf(progress, request, arguments, folder);
+    if (!project)
+        return ExitStatus::Missing;
+    AcceptedOptions accepted(project->clang, request.personality, arguments.isCpp, folder);
+    if (request.format == ExportRequest::CompileCommands) {
+        return write(progress, request.output,
+                     compileCommands(project->commands, project->clang.program, request.personality,
+                                     accepted));
+    }
+    for (const CompileCommand &command : project->commands + QList {project->ownCommand})
+        accepted.of(optionsOf(command), command.directory);
+    return write(progress, request.output,
+                 clangdConfiguration(request.personality, accepted.refused()));
+}
+
+/// Writes the platform, and beside it the header of the macros.
+ExitStatus writeForCppcheck(Progress &progress, const QString &file, const Facts &facts)
+{
+    const QByteArray types = cppcheckPlatform(facts);
+    if (types.isEmpty()) {
+        progress.say(u"The personality holds no type that cppcheck can express."_s);
+        return ExitStatus::Missing;
+    }
+    const QString header = file + ".h"_L1;
+    const bool isWritten = write(progress, file, types) == ExitStatus::Done
+                        && write(progress, header, macroHeader(facts)) == ExitStatus::Done;
+    if (!isWritten)
+        return ExitStatus::Failed;
+    progress.say("  "_L1
+                 + commandLine({u"cppcheck"_s, "--platform="_L1 + file, "--include="_L1 + header})
+                 + " FILE"_L1);
+    return ExitStatus::Done;
+}
+
+} // namespace
+
+ExitStatus exportPersonality(Progress &progress, const ExportRequest &request,
+                             const Arguments &arguments, const Personality &content,
+                             const QString &folder)
+{
+    switch (request.format) {
+    case ExportRequest::CompileCommands:
+    case ExportRequest::Clangd:
+        return writeForClang(progress, request, arguments, folder);
+    case ExportRequest::Cppcheck:
+        return writeForCppcheck(progress, request.output, content.facts);
+    case ExportRequest::VsCode:
+        return write(progress, request.output,
+                     vscodeProperties(content, arguments.isCpp,
+                                      QFileInfo(request.personality).completeBaseName()));
+    case ExportRequest::Json:
+        break;
+    }
+    return write(progress, request.output, QJsonDocument(personalityFacts(content)).toJson());
+}

@@ -1,0 +1,126 @@
+#include "fact_forms.h"
+#include "program_run.h"
+
+#include "files.h"
+#include "row.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTemporaryDir>
+
+using platform::ProgramRun;
+
+// What other programs make of the forms that a personality is exported in.
+class TestExport : public QObject
+{
+    Q_OBJECT
+
+private:
+    const QTemporaryDir m_folder;
+
+    ProgramRun run(const QStringList &command) const
+    {
+        return platform::runProgram(command, m_folder.path(), 600'000);
+    }
+    ProgramRun exportTo(const QStringList &arguments) const
+    {
+        return run(QStringList {GENERATOR, "export", "arm.p_c"} + arguments);
+    }
+    QByteArray read(const char *name) const { return readTestFile(m_folder.filePath(name)); }
+
+private slots:
+    void initTestCase()
+    {
+        writeTestFile(m_folder.filePath("a.c"),
+                      "#include <a.h>\n#include <stdint.h>\n"
+                      "uint32_t f(void) { return A[0] + sizeof(long double); }\n");
+        writeTestFile(m_folder.filePath("inc/a.h"), "#define B 1\n");
+        writeTestFile(m_folder.filePath("all.json"),
+                      "[{\"directory\":\"" + m_folder.path().toLocal8Bit()
+                          + "\",\"file\":\"a.c\",\"command\":\"arm-none-eabi-gcc -mthumb "
+                            "-fno-tree-slsr -Wlogical-op -MD -I inc -DA=\\\\\\\"x\\\\ y\\\\\\\" -c "
+                            "a.c -o a.o\"},{\"file\":\"b.cpp\",\"command\":\"g++ b.cpp\"}]");
+        const ProgramRun made = run({GENERATOR, "kov", "ccmp", "arm-none-eabi-gcc", "-o", "-c",
+                                     "-D", ".o", "%c %o %e %d%j %s ", "-op", "arm.p_c"});
+        QVERIFY2(made.succeeded(), made.output);
+    }
+
+    void makesCompileCommandsForClang()
+    {
+        QVERIFY(exportTo({"compile-commands", "all.json", "-o", "for_clang.json"}).succeeded());
+        const QJsonArray entries = QJsonDocument::fromJson(read("for_clang.json")).array();
+        QCOMPARE(entries.size(), 1); // the other language's is left out
+        const QStringList words = entries[0]["arguments"].toVariant().toStringList();
+        QVERIFY(words.contains("-mthumb") && words.contains("-DA=\"x y\""));
+        QVERIFY(!words.contains("-fno-tree-slsr") && !words.contains("-Wlogical-op"));
+        const ProgramRun clang = run(words + QStringList {"-Werror", "-fsyntax-only"});
+        QVERIFY2(clang.succeeded() && clang.errors.isEmpty(), clang.errors);
+        QVERIFY(!QFile::exists(m_folder.filePath("a.d")));
+    }
+
+    void namesWhatClangdRemoves()
+    {
+        const ProgramRun made = exportTo({"clangd", "all.json"});
+        QVERIFY2(made.output.contains("  Add: [\"--config\",\"" + m_folder.path().toLocal8Bit()
+                                      + "/arm.p_c\"]\n"
+                                        "  Remove: [\"-Wlogical-op\",\"-fno-tree-slsr\"]\n"),
+                 made.output);
+    }
+
+    void leavesAbsentTypesOut()
+    {
+        Facts facts;
+        QVERIFY(cppcheckPlatform(facts).isEmpty());
+        facts.types.basic = {{"int", 2, 1}, {"char", 1, 1}};
+        facts.types.sizeType = "unsigned int";
+        const QByteArray xml = cppcheckPlatform(facts);
+        QVERIFY2(xml.contains("<int>2</int>") && xml.contains("<size_t>2</size_t>"), xml);
+        QVERIFY2(!xml.contains("long") && !xml.contains("wchar_t") && !xml.contains("sign"), xml);
+    }
+
+    void makesCppcheckSeeTypesAndMacros()
+    {
+        writeTestFile(m_folder.filePath("b.c"),
+                      "int f(void) {\n#if defined(__arm__) && !defined(__x86_64__)\n"
+                      "    int a[sizeof(void *) + sizeof(long)];\n    a[8] = 0;\n"
+                      "    return a[0];\n#endif\n}\n");
+        QVERIFY(exportTo({"cppcheck", "-o", "arm.xml"}).succeeded());
+        const ProgramRun checked = run(
+            {"cppcheck", "--platform=arm.xml", "--include=arm.xml.h", "--error-exitcode=0", "b.c"});
+        QVERIFY2(checked.succeeded() && checked.errors.contains("'a[8]' accessed at index 8"),
+                 checked.errors + checked.output);
+    }
+
+    void holdsAllFacts()
+    {
+        QVERIFY(exportTo({"json", "-o", "facts.json"}).succeeded());
+        const QJsonObject facts = QJsonDocument::fromJson(read("facts.json")).object();
+        QCOMPARE(facts["predefined"]["__arm__"].toString(), "1");
+        QCOMPARE(facts["char"].toString() + facts["size_t"].toString(), "unsignedunsigned int");
+        const QJsonObject type {{"name", "long long"}, {"size", 8}, {"alignment", 8}};
+        QVERIFY(facts["type"].toArray().contains(type));
+        QCOMPARE(facts["answers"]["arguments"][1].toString(), "ccmp");
+        const QStringList options = facts["options"].toVariant().toStringList();
+        const ProgramRun clang =
+            run(QStringList {"clang", "-DA=\"\"", "-Iinc", "-fsyntax-only", "a.c"} + options);
+        QVERIFY2(clang.succeeded() && clang.errors.isEmpty(), clang.errors);
+        QVERIFY(exportTo({"vscode"}).output.contains("\"intelliSenseMode\": \"gcc-arm\""));
+    }
+
+    void refusesWhatItCannotDo_data()
+    {
+        const Columns<QStringList, int> row("arguments", "exitCode");
+        row("missing database", {"compile-commands", "x.json"}, 3);
+        row("no database", {"clangd", "arm.p_c"}, 3);
+        row("no clang", {"clangd", "--clang", "no-clang"}, 3);
+        row("no folder", {"json", "-o", "no/x.json"}, 1);
+    }
+    void refusesWhatItCannotDo()
+    {
+        QFETCH(QStringList, arguments);
+        QTEST(exportTo(arguments).exitCode, "exitCode");
+    }
+};
+
+QTEST_GUILESS_MAIN(TestExport)
+#include "test_export.moc"
