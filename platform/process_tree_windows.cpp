@@ -185,7 +185,9 @@ void ProcessTree::end()
 {
     if (!m_system->job)
         return;
-    TerminateJobObject(m_system->job, 1);
+    // Not a status that a program would return: QProcess takes it for an end by force, as
+    // elsewhere.
+    TerminateJobObject(m_system->job, STATUS_CONTROL_C_EXIT);
     CloseHandle(m_system->job);
     m_system->job = nullptr;
 }

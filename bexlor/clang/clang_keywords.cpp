@@ -23,20 +23,13 @@ bool hasKeyword(const Facts &facts, const QByteArray &name)
                        [&name](const Keyword &keyword) { return keyword.name == name; });
 }
 
-} // namespace
-
-QList<QByteArray> keywordsOfClang()
+/// Definitions under which clang reads what GCC has built in and clang has otherwise or not at all.
+QList<Macro> gnuDefinitions(const MacroFacts &macros)
 {
-    return QByteArray(clangKeywords).split(' ');
-}
-
-QList<Macro> keywordDefinitions(const Facts &facts)
-{
-    const QList<QByteArray> known = keywordsOfClang();
     QList<Macro> definitions;
     // From GCC 11 on this attribute takes arguments ("Common Function Attributes"), for clang it
     // has none.
-    const Macro *gnuVersion = findMacro(facts.macros, "__GNUC__");
+    const Macro *gnuVersion = findMacro(macros, "__GNUC__");
     if (gnuVersion && gnuVersion->value.toInt() >= 11)
         definitions << Macro {"__malloc__(...)", "__malloc__"};
     // GCC 7 has functions that only tell whether there is an overflow ("Built-in Functions to
@@ -49,9 +42,22 @@ QList<Macro> keywordDefinitions(const Facts &facts)
     }
     // Clang's <arm_acle.h>, which takes the place of the compiler's, asks for this (Arm C Language
     // Extensions 2.0), and GCC has not got it.
-    if (gnuVersion && findMacro(facts.macros, "__ARM_ARCH")
-        && !findMacro(facts.macros, "__ARM_ACLE"))
+    if (gnuVersion && findMacro(macros, "__ARM_ARCH") && !findMacro(macros, "__ARM_ACLE"))
         definitions << Macro {"__ARM_ACLE", "200"};
+    return definitions;
+}
+
+} // namespace
+
+QList<QByteArray> keywordsOfClang()
+{
+    return QByteArray(clangKeywords).split(' ');
+}
+
+QList<Macro> keywordDefinitions(const Facts &facts)
+{
+    const QList<QByteArray> known = keywordsOfClang();
+    QList<Macro> definitions = gnuDefinitions(facts.macros);
     for (const Keyword &keyword : facts.keywords) {
         if (known.contains(keyword.name))
             continue;
