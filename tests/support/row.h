@@ -23,10 +23,3 @@ struct Columns
         (QTest::newRow(name) << ... << values);
     }
 };
-
-/// Adds a row of test data, \a values going into the columns from left to right.
-template <typename... Values>
-void row(const char *name, const Values &...values)
-{
-    (QTest::newRow(name) << ... << values);
-}
