@@ -1,8 +1,7 @@
 #include "command_check.h"
 
 #include "program_search.h"
-
-#include <QProcess>
+#include "quoting.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,7 +12,7 @@ QString commandWord(const QString &commandLine)
     const qsizetype end = commandLine.indexOf(u'"', 1);
     // What follows the quotes without a space is a part of the program's name.
     if (end >= 0 && end + 1 < commandLine.size() && commandLine[end + 1] != u' ')
-        return QProcess::splitCommand(commandLine).value(0);
+        return splitCommand(commandLine).value(0);
     return commandLine.mid(1, end < 0 ? -1 : end - 1);
 }
 

@@ -1,6 +1,45 @@
 #include "comma_list.h"
 
+#include "quoting.h"
+
+#include <QRegularExpression>
+#include <QSet>
+
 using namespace Qt::StringLiterals;
+
+namespace {
+
+bool isCharacter(const QuotedPiece &piece, QChar character)
+{
+    return piece.kind == QuotedPiece::Character && piece.text == character;
+}
+
+/// The indices of the parentheses in \a pieces that have their counterparts there. One that has
+/// none must not take the rest of the list with it.
+QSet<qsizetype> pairedParentheses(const QList<QuotedPiece> &pieces)
+{
+    QSet<qsizetype> paired;
+    QList<qsizetype> open;
+    for (qsizetype i = 0; i < pieces.size(); ++i) {
+        if (isCharacter(pieces[i], u'('))
+            open << i;
+        else if (isCharacter(pieces[i], u')') && !open.isEmpty())
+            paired << open.takeLast() << i;
+    }
+    return paired;
+}
+
+/// Whether a comma between \a item, as far as it has been read, and \a next belongs to the item.
+bool goesOn(const QString &item, QChar next)
+{
+    static const QRegularExpression handsOn(u"^\\s*-W[a-z]$"_s);
+    static const QRegularExpression hasValue(u"^\\s*-(W[a-z],|[^=]*=)"_s);
+    if (next.isNull() || next.isSpace() || next == u',')
+        return false;
+    return item.contains(handsOn) || (next != u'-' && item.contains(hasValue));
+}
+
+} // namespace
 
 QString toCommaList(QString lines)
 {
@@ -9,20 +48,19 @@ QString toCommaList(QString lines)
 
 QStringList splitCommaList(const QString &list)
 {
+    const QList<QuotedPiece> pieces = quotedPieces(list);
+    const QSet<qsizetype> parentheses = pairedParentheses(pieces);
     QStringList items {QString()};
     int depth = 0;
-    bool quoted = false;
-    for (const QChar character : list) {
-        if (character == u'"')
-            quoted = !quoted;
-        else if (!quoted && character == u'(')
-            ++depth;
-        else if (!quoted && character == u')')
-            --depth;
-        if (character == u',' && depth <= 0 && !quoted)
+    for (qsizetype i = 0; i < pieces.size(); ++i) {
+        const QString next = i + 1 < pieces.size() ? pieces[i + 1].text : QString();
+        if (parentheses.contains(i))
+            depth += pieces[i].text == u'(' ? 1 : -1;
+        if (depth == 0 && isCharacter(pieces[i], u',')
+            && !goesOn(items.last(), next.isEmpty() ? QChar() : next.front()))
             items << QString();
         else
-            items.last() += character;
+            items.last() += pieces[i].text;
     }
     for (QString &item : items)
         item = item.trimmed();

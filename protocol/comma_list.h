@@ -8,5 +8,9 @@
 QString toCommaList(QString lines);
 
 /// The items of a comma list without the white space around them, empty ones left out. A comma
-/// between parentheses or double quotes belongs to its item.
+/// belongs to its item
+///
+///   - in what belongs together, see quotedPieces(), and between parentheses;
+///   - behind "-Wa", "-Wl" and their kin, and then, as behind "-NAME=", where something else than
+///     another option or white space follows: "-Wl,-Map,x.map", "-fsanitize=address,undefined".
 QStringList splitCommaList(const QString &list);

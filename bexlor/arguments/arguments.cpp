@@ -4,7 +4,27 @@
 #include "comma_list.h"
 #include "generator_interface.h"
 
+#include "quoting.h"
+
 #include <QDir>
+
+namespace {
+
+/// The defines of a comma list. What stands in quotation marks is a literal of the language, so
+/// that these stay; marks as a command needs them are taken, too.
+QStringList definesIn(const QString &list)
+{
+    QStringList defines;
+    for (const QString &item : splitCommaList(list)) {
+        defines << QString();
+        for (const QuotedPiece &piece : quotedPieces(item))
+            defines.last() +=
+                piece.kind == QuotedPiece::Marked ? withoutMarks(piece.text) : piece.text;
+    }
+    return defines;
+}
+
+} // namespace
 
 std::variant<UsageError, Arguments> parseArguments(const QStringList &list)
 {
@@ -24,7 +44,7 @@ std::variant<UsageError, Arguments> parseArguments(const QStringList &list)
     arguments.personality = reader.path();
     const qsizetype pathIndex = reader.taken() - 1;
     if (reader.flag(generator::defines))
-        arguments.defines = splitCommaList(reader.value());
+        arguments.defines = definesIn(reader.value());
     if (reader.flag(generator::switches))
         arguments.switches = splitCommaList(reader.value());
     if (reader.flag(generator::templateFile))

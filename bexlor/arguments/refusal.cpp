@@ -2,6 +2,8 @@
 
 #include "generator_interface.h"
 #include "order_tokens.h"
+#include "quoting.h"
+#include "typed_command.h"
 #include "visible_text.h"
 
 #include <QDir>
@@ -97,6 +99,18 @@ QString problemWithFiles(const Arguments &arguments)
     return QString();
 }
 
+/// Why the first of \a texts that cannot be read cannot; \a name is what each of them is.
+QString problemWithQuoting(QLatin1StringView name, const QStringList &texts)
+{
+    for (const QString &text : texts) {
+        const QString reason = quotingProblem(text);
+        if (!reason.isEmpty()) {
+            return u"The %1 cannot be read, since %2: %3"_s.arg(name, reason, visibleText(text));
+        }
+    }
+    return QString();
+}
+
 QString problemWithTexts(const Arguments &arguments)
 {
     const QStringList texts = QStringList {arguments.command, arguments.personality}
@@ -112,8 +126,13 @@ QString problemWithTexts(const Arguments &arguments)
 
 QString refusalReason(const Arguments &arguments)
 {
-    const QStringList problems {problemWithCommand(arguments), problemWithParts(arguments.layout),
-                                problemWithFiles(arguments), problemWithTexts(arguments)};
+    const QStringList problems {problemWithCommand(arguments),
+                                problemWithParts(arguments.layout),
+                                problemWithFiles(arguments),
+                                problemWithTexts(arguments),
+                                problemWithQuoting("command"_L1, {typedCommand(arguments.command)}),
+                                problemWithQuoting("define"_L1, arguments.defines),
+                                problemWithQuoting("switch"_L1, arguments.switches)};
     const auto problem = std::find_if(problems.begin(), problems.end(),
                                       [](const QString &text) { return !text.isEmpty(); });
     return problem == problems.end() ? QString() : *problem;

@@ -2,26 +2,15 @@
 
 #include "order_tokens.h"
 #include "probe_options.h"
-#include "program_search.h"
+#include "quoting.h"
+#include "typed_command.h"
 
 #include <QFileInfo>
-#include <QProcess>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString programPath(const QString &word)
-{
-    const QString found = platform::findCommand(word, platform::searchPathVariable());
-    return found.isEmpty() ? QString() : QFileInfo(found).absoluteFilePath();
-}
-
-bool isProgram(const QString &word)
-{
-    return !programPath(word).isEmpty();
-}
 
 /// Whether the word \a index of a command may be a path. The program is one already; a define, and
 /// the language behind the GNU driver's "-x", are paths by chance only. What the compiler writes
@@ -69,18 +58,6 @@ bool namesOutput(const CommandLayout &layout)
 
 } // namespace
 
-QStringList commandWords(const QString &command, bool (*isProgram)(const QString &word))
-{
-    const QLatin1Char quote('"');
-    const QStringList words = QProcess::splitCommand(command);
-    if (command.size() < 2 || !command.startsWith(quote) || !command.endsWith(quote))
-        return words;
-    const QString inside = command.mid(1, command.size() - 2);
-    if (isProgram(inside))
-        return {inside};
-    return !words.isEmpty() && isProgram(words.first()) ? words : QProcess::splitCommand(inside);
-}
-
 QString withAbsolutePath(const QString &word, const QDir &folder)
 {
     // What stands before a path in one word: an option with a sign behind it, a single letter, the
@@ -103,9 +80,9 @@ Compiler findCompiler(const Arguments &arguments)
     compiler.defines = arguments.defines;
     compiler.isCpp = arguments.isCpp;
     compiler.isCross = arguments.crossCompiler;
-    QStringList words = commandWords(arguments.command, &isProgram);
+    QStringList words = commandWords(arguments.command);
     for (const QString &item : arguments.switches)
-        words << QProcess::splitCommand(item);
+        words << splitCommand(item);
     words = withoutOtherPurposes(words);
     for (qsizetype i = 0; i < words.size(); ++i) {
         const bool includes = words[i] == "-include"_L1 || words[i] == "-imacros"_L1;
@@ -157,7 +134,7 @@ QStringList probeCommand(const Compiler &compiler, const QString &source, const 
 
 QString commandLine(const QStringList &command)
 {
-    static const QRegularExpression special(u"[ &|<>^()\"]"_s);
+    static const QRegularExpression special(u"[\\s&|<>^()\"]"_s);
     static const QRegularExpression beforeQuote(u"(\\\\*)\""_s);
     static const QRegularExpression atEnd(u"(\\\\+)$"_s);
     QStringList words = command;

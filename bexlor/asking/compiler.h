@@ -19,11 +19,6 @@ struct Compiler
     bool isCross = false;
 };
 
-/// The words of a command as it was typed into one field. The wizard puts quotes around a command
-/// with spaces, be it a path that holds them or a program with its options; \a isProgram tells
-/// which of the two it is.
-QStringList commandWords(const QString &command, bool (*isProgram)(const QString &word));
-
 /// \a word with the relative path in it made absolute, if it is the name of a file or directory in
 /// \a folder, alone or behind an option, since probes are compiled elsewhere.
 QString withAbsolutePath(const QString &word, const QDir &folder = QDir::current());

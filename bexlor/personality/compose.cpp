@@ -1,6 +1,7 @@
 #include "personality.h"
 
 #include "clang.h"
+#include "typed_command.h"
 #include "visible_text.h"
 
 #include <QDir>
@@ -56,7 +57,7 @@ bool fitsOnLine(const Macro &macro)
 Personality composePersonality(const Arguments &arguments, const Facts &facts,
                                const QStringList &includedByCommand, const QByteArray &templateText)
 {
-    Personality personality {arguments.command,
+    Personality personality {typedCommand(arguments.command),
                              arguments.switches,
                              arguments.answers,
                              facts,

@@ -3,6 +3,7 @@
 #include "host_path.h"
 #include "refusal.h"
 #include "row.h"
+#include "typed_command.h"
 
 class TestArguments : public QObject
 {
@@ -17,20 +18,46 @@ private:
 private slots:
     void takesTheWholeList()
     {
-        const Request request = parseRequest(
-            {"kovpp",  "ccmp",         "\"cc -m32\"", "",         "-c",   "",      "",
-             "%c %s ", "-i",           "..\\a b",     "-i",       "-op",  "-op",   "x.p_c",
-             "-xd",    "A, B=(1,2) ,", "-xs",         "-x -y,-z", "-tpl", "..\\t", "-fi",
-             "f",      "-sub",         "s",           "-rfs"});
+        const QString defines = "A, B=(1,2) ,V=\\\"1,2\\\",S=\"\\\"\"";
+        const Request request =
+            parseRequest({"kovpp",  "ccmp",  "\"cc -m32\"", "",         "-c",   "",      "",
+                          "%c %s ", "-i",    "..\\a b",     "-i",       "-op",  "-op",   "x.p_c",
+                          "-xd",    defines, "-xs",         "-x -y,-z", "-tpl", "..\\t", "-fi",
+                          "f",      "-sub",  "s",           "-rfs"});
         const auto *arguments = std::get_if<Arguments>(&request);
         QVERIFY(arguments);
         QVERIFY(arguments->isCpp && arguments->crossCompiler && arguments->reduceFileSize);
         QCOMPARE(arguments->headerDirectories, QStringList({platform::hostPath("..\\a b"), "-op"}));
         QCOMPARE(arguments->personality, "x.p_c");
-        QCOMPARE(arguments->defines, QStringList({"A", "B=(1,2)"}));
+        QCOMPARE(arguments->defines, QStringList({"A", "B=(1,2)", "V=\"1,2\"", "S=\"\\\"\""}));
         QCOMPARE(arguments->switches, QStringList({"-x -y", "-z"}));
         QCOMPARE(arguments->templateFile, platform::hostPath("..\\t"));
         QCOMPARE(arguments->forceIncludeFile + arguments->substituteHeaders, "fs");
+    }
+
+    void takesTheCommandAsTyped_data()
+    {
+        const Columns<QString, QStringList, bool> row("command", "words", "hasQuotes");
+        row("bare", "cc", {"cc"}, false);
+        row("marks that stay", "cc -DV=\\\"1 2\\\"", {"cc", "-DV=\"1 2\""}, false);
+        row("options", "\"cc -m32 -x\"", {"cc", "-m32", "-x"}, false);
+        row("path with a space", "\"/a b/cc\"", {"/a b/cc"}, true);
+        row("quoted path with options", "\"/a b/cc\" -m32 \"-D x\"", {"/a b/cc", "-m32", "-D x"},
+            true);
+        row("options with quotes", "\"cc -I\"a b\" -m32\"", {"cc", "-Ia b", "-m32"}, false);
+        row("path with quotes", "\"/a \"b\"/cc\"", {"/a \"b\"/cc"}, true);
+        row("unknown program", "\"dd -m32\"", {"dd", "-m32"}, false);
+        row("empty", "", {}, false);
+    }
+    void takesTheCommandAsTyped()
+    {
+        QFETCH(QString, command);
+        QFETCH(bool, hasQuotes);
+        const auto isProgram = [](const QString &word) {
+            return QStringList {"cc", "/a b/cc", "/a \"b\"/cc"}.contains(word);
+        };
+        QTEST(commandWords(command, isProgram), "words");
+        QCOMPARE(typedCommand(command, isProgram).startsWith('"'), hasQuotes);
     }
 
     void namesTheWrongArgument_data()
@@ -88,6 +115,12 @@ private slots:
         row("template outside its folder", "cc", 2,
             {"-tpl", "..\\TemplatePersonalities\\a/../../x"},
             "The template does not lie in the folder TemplatePersonalities");
+        row("command in half", "\"cc -DA=\" \"", 2, none,
+            "The command cannot be read, since a quotation mark is not closed: cc -DA=\"");
+        row("define in half", "cc", 2, {"-xd", "A=1,B=\"x,C=2"},
+            "The define cannot be read, since a quotation mark is not closed: B=\"x,C=2");
+        row("switch in apostrophes", "cc", 2, {"-xs", "-DA='\"1\"',-c"},
+            "The switch cannot be read, since there is an apostrophe before");
         row("line feed in a file's name", "cc", 2, {"-fi", "x\n-DX"},
             "The name of the force-include file holds a control character");
     }

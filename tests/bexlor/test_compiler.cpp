@@ -7,27 +7,6 @@ class TestCompiler : public QObject
     Q_OBJECT
 
 private slots:
-    void splitsTheCommand_data()
-    {
-        const Columns<QString, QStringList> row("command", "words");
-        row("bare", "cc", {"cc"});
-        row("options", "\"cc -m32 -x\"", {"cc", "-m32", "-x"});
-        row("path with a space", "\"/a b/cc\"", {"/a b/cc"});
-        row("quoted path with options", "\"/a b/cc\" -m32 \"-D x\"", {"/a b/cc", "-m32", "-D x"});
-        row("options with quotes", "\"cc -I\"a b\" -m32\"", {"cc", "-Ia b", "-m32"});
-        row("path with quotes", "\"/a \"b\"/cc\"", {"/a \"b\"/cc"});
-        row("unknown program", "\"dd -m32\"", {"dd", "-m32"});
-        row("empty", "", {});
-    }
-    void splitsTheCommand()
-    {
-        QFETCH(QString, command);
-        const auto isProgram = [](const QString &word) {
-            return QStringList {"cc", "/a b/cc", "/a \"b\"/cc"}.contains(word);
-        };
-        QTEST(commandWords(command, isProgram), "words");
-    }
-
     void makesRelativePathsAbsolute_data()
     {
         // absolute: "$" stands for the current folder

@@ -108,9 +108,10 @@ private slots:
                               "int FROM_TEMPLATE;\n");
         workshop.checkClangTakes("y.c");
         const QString text = workshop.read("sub folder/mine.p_c");
-        for (const char *line : {"\n-std=c99\n", "\n#: switch -std=c99\n", "\n#: version gcc",
-                                 "\n#: size_t unsigned long\n", "\n#: keyword __int128 type ",
-                                 "\n#: search-path /usr/include\n"})
+        for (const char *line :
+             {"\n#: command gcc -include ", "\n-std=c99\n", "\n#: switch -std=c99\n",
+              "\n#: version gcc", "\n#: size_t unsigned long\n", "\n#: keyword __int128 type ",
+              "\n#: search-path /usr/include\n"})
             QVERIFY2(text.contains(line), line);
     }
 
@@ -178,7 +179,7 @@ private slots:
         workshop.write("b.h", "");
         workshop.write("t.p_c", "-DTEMPLATE=1\n");
         const ProgramRun generated =
-            workshop.generate("kov", "gcc -DODD=\"x -include b.h",
+            workshop.generate("kov", "gcc -DODD=\\\"x\\\" -DMARK='\"' -include b.h",
                               {"-xd", "AA=\"1,2\",BB", "-xs", "-std=c99", "-tpl", "t.p_c", "-fi",
                                "b.h", "-sub", "-op"},
                               {"-i", "-op"});

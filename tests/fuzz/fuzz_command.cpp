@@ -4,12 +4,17 @@
 #include "command_check.h"
 #include "compiler.h"
 #include "order_tokens.h"
+#include "quoting.h"
+#include "typed_command.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const char *data, std::size_t size)
 {
     const QString text = QString::fromLocal8Bit(QByteArray(data, qsizetype(size)));
     commandWord(text);
     commandWords(text, [](const QString &word) { return word.size() % 2 == 0; });
+
+    if (splitCommand(commandLine(splitCommand(text))) != splitCommand(text))
+        __builtin_trap();
 
     const QStringList items = splitCommaList(toCommaList(text));
     for (const QString &item : items) {
