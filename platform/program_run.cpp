@@ -13,6 +13,21 @@ namespace {
 
 const int milliseconds = 50; // between two looks at what the program has written
 
+/// The environment, with messages in English and without what makes the GNU compilers and clang
+/// write or print more than their command says: GCC's manual, "Environment Variables Affecting
+/// GCC", and the start of clang's driver.
+QProcessEnvironment quietEnvironment()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"LC_ALL"_s, u"C"_s);
+    for (const QString &variable :
+         {u"DEPENDENCIES_OUTPUT"_s, u"SUNPRO_DEPENDENCIES"_s, u"GCC_EXTRA_DIAGNOSTIC_OUTPUT"_s,
+          u"CC_PRINT_OPTIONS"_s, u"CC_PRINT_HEADERS"_s, u"CC_LOG_DIAGNOSTICS"_s,
+          u"CC_PRINT_PROC_STAT"_s})
+        environment.remove(variable);
+    return environment;
+}
+
 /// Adds to \a kept what fits into \a limit and drops the rest, so that a program that never stops
 /// printing does not fill the memory.
 void keep(QByteArray &kept, const QByteArray &more, qsizetype limit)
@@ -29,9 +44,7 @@ ProgramRun runProgram(const QStringList &command, const QString &directory, int 
     if (command.isEmpty())
         return run;
     QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"LC_ALL"_s, u"C"_s);
-    process.setProcessEnvironment(environment);
+    process.setProcessEnvironment(quietEnvironment());
     process.setWorkingDirectory(directory);
     process.setStandardInputFile(QProcess::nullDevice());
     ProcessTree tree(process);

@@ -51,13 +51,17 @@ QString problemWithCommand(const Arguments &arguments)
     return QString();
 }
 
-/// Whether \a text, which is joined with the name of a probe's file, names a file or folder of its
-/// own. A separator marks an option only where it is the first character.
+/// Whether \a text, which is joined with the name of a probe's file, names a file, a folder or a
+/// drive of its own. A separator marks an option only where it is the first character, and a colon
+/// behind the names of some options, "/Fo:", is a sign.
 bool holdsPath(const QString &text)
 {
+    static const QRegularExpression drive(
+        u"^(?![-/]F[A-Za-z]:$)([-/]([A-Za-z]|F[A-Za-z])|.*[ =:])?[A-Za-z]:"_s);
     static const QRegularExpression separator(u"^.+[/\\\\]"_s,
                                               QRegularExpression::DotMatchesEverythingOption);
-    return text.contains(separator) || (QDir::isAbsolutePath(text) && QFileInfo::exists(text));
+    return text.contains(separator) || text.contains(drive)
+        || (QDir::isAbsolutePath(text) && QFileInfo::exists(text));
 }
 
 QString problemWithParts(const CommandLayout &layout)

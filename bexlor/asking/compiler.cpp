@@ -1,28 +1,16 @@
 #include "compiler.h"
 
 #include "order_tokens.h"
+#include "path_options.h"
 #include "probe_options.h"
 #include "quoting.h"
 #include "typed_command.h"
 
-#include <QFileInfo>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Whether the word \a index of a command may be a path. The program is one already; a define, and
-/// the language behind the GNU driver's "-x", are paths by chance only. What the compiler writes
-/// stays in the folder of the probe.
-bool mayBePath(const QStringList &words, qsizetype index, const CommandLayout &layout)
-{
-    const auto isBehind = [&word = words[index]](const QString &flag) {
-        return !flag.isEmpty() && word.startsWith(flag);
-    };
-    return index > 0 && !isBehind(layout.defineFlag) && !isBehind(layout.outputFlag)
-        && words[index - 1] != "-x"_L1;
-}
 
 /// The defines that the command can name. Without a flag each would be taken for a file.
 QStringList passedDefines(const Compiler &compiler)
@@ -58,21 +46,6 @@ bool namesOutput(const CommandLayout &layout)
 
 } // namespace
 
-QString withAbsolutePath(const QString &word, const QDir &folder)
-{
-    // What stands before a path in one word: an option with a sign behind it, a single letter, the
-    // mark of a response file, or nothing.
-    static const QRegularExpression start(
-        u"^(?:(?:--?|/)[A-Za-z][-A-Za-z]*[=:,]|[-/][A-Za-z]|@)?"_s);
-    if (QFileInfo(word).isAbsolute() && QFileInfo::exists(word))
-        return word;
-    const QString option = start.match(word).captured();
-    const QString path = word.mid(option.size());
-    const QFileInfo file(folder, path);
-    const bool isRelative = !path.isEmpty() && QDir::isRelativePath(path) && file.exists();
-    return isRelative ? option + file.absoluteFilePath() : word;
-}
-
 Compiler findCompiler(const Arguments &arguments)
 {
     Compiler compiler;
@@ -83,15 +56,15 @@ Compiler findCompiler(const Arguments &arguments)
     QStringList words = commandWords(arguments.command);
     for (const QString &item : arguments.switches)
         words << splitCommand(item);
-    words = withoutOtherPurposes(words);
+    words = withoutOtherPurposes(withoutResponseFiles(words, QDir::current()));
+    words = withAbsolutePaths(words, arguments.layout);
     for (qsizetype i = 0; i < words.size(); ++i) {
         const bool includes = words[i] == "-include"_L1 || words[i] == "-imacros"_L1;
         if (includes && i > 0 && i + 1 < words.size()) {
-            compiler.includedFirst << words[i] << withAbsolutePath(words[i + 1]);
+            compiler.includedFirst << words[i] << words[i + 1];
             ++i;
         } else {
-            compiler.command << (mayBePath(words, i, arguments.layout) ? withAbsolutePath(words[i])
-                                                                       : words[i]);
+            compiler.command << words[i];
         }
     }
     const QString program = words.isEmpty() ? QString() : programPath(words.first());

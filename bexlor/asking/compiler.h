@@ -2,13 +2,12 @@
 
 #include "arguments.h"
 
-#include <QDir>
-
 /// The user's compiler, ready to be started: from the same command line everything about it is
 /// asked.
 struct Compiler
 {
-    /// The program's path, its options, and the switches; see withoutOtherPurposes().
+    /// The program's path, its options, and the switches; see withoutOtherPurposes() and
+    /// withAbsolutePaths().
     QStringList command;
     /// The GNU driver's options -include and -imacros, each followed by its file, which are kept
     /// out of the command: the macros of those files are not predefined.
@@ -18,10 +17,6 @@ struct Compiler
     bool isCpp = false;
     bool isCross = false;
 };
-
-/// \a word with the relative path in it made absolute, if it is the name of a file or directory in
-/// \a folder, alone or behind an option, since probes are compiled elsewhere.
-QString withAbsolutePath(const QString &word, const QDir &folder = QDir::current());
 
 /// The compiler of \a arguments, its program found where the wizard finds it too. When there is no
 /// such program the first word stays as it was typed.

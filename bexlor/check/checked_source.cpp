@@ -1,5 +1,6 @@
 #include "checked_source.h"
 
+#include "path_options.h"
 #include "probe_options.h"
 
 #include <QDir>
@@ -89,14 +90,14 @@ CheckedSource sourceOfEntry(const CompileCommand &entry, const Compiler &compile
                             const QString &folder, qsizetype number)
 {
     CheckedSource source {entry.file, entry.directory, {}, {}, {}};
-    QStringList words = withoutOtherPurposes(entry.words);
+    QStringList words = withoutOtherPurposes(withoutResponseFiles(entry.words, entry.directory));
     if (QDir::fromNativeSeparators(words.first()).contains(u'/'))
-        words.first() = withAbsolutePath(words.first(), entry.directory);
+        words.first() = QDir(entry.directory).absoluteFilePath(words.first());
     const CommandLayout &layout = compiler.layout;
     if (layout.outputFlag.isEmpty()) {
         source.directory = folder;
-        for (QString &word : words)
-            word = withAbsolutePath(word, entry.directory);
+        words = withAbsolutePaths(words, layout, entry.directory);
+        std::replace(words.begin(), words.end(), sourceWord(words, entry), entry.absoluteFile());
     }
     takeApart(words, layout.outputFlag, source);
     source.clangOptions << sourceWord(words, entry);

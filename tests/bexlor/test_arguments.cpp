@@ -105,6 +105,8 @@ private slots:
         row("order without the command", "%o%e %s ", 7, none, order);
         row("command behind another token", "%j %c %s ", 7, none, order);
         row("path behind a flag", "-o/etc/x", 3, none, "The output flag holds a path");
+        row("drive behind a flag", "-oC:", 3, none, "The output flag holds a path");
+        row("drive behind a colon", "/Fe:C:", 3, none, "The output flag holds a path");
         row("path behind a flag's space", "-o ..\\x", 4, none, "The object flag holds a path");
         row("path that is there", QDir::tempPath(), 5, none, "The define flag holds a path");
         row("path in the extension", ".o/../x", 6, none, "The object file extension holds a path");

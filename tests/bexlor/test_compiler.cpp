@@ -9,40 +9,43 @@ class TestCompiler : public QObject
 private slots:
     void makesRelativePathsAbsolute_data()
     {
-        // absolute: "$" stands for the current folder
-        const Columns<QString, QString> row("word", "absolute");
-        row("file", "first.h", "$/first.h");
-        row("behind a letter", "-Iinc dir", "-I$/inc dir");
-        row("response file", "@first.h", "@$/first.h");
-        row("behind a sign", "--sysroot=inc dir", "--sysroot=$/inc dir");
-        row("no file", "-Inowhere", "-Inowhere");
-        row("an option", "-O2", "-O2");
-        row("absolute", "/usr", "/usr");
+        // "$" stands for the current folder.
+        const Columns<QString, QString> row("typed", "absolute");
+        row("behind no option", "run.py odd", "$/run.py $/odd");
+        row("behind a letter", "-Iinc -Linc /Iinc", "-I$/inc -L$/inc /I$/inc");
+        row("apart", "-I inc -isystem inc --preinclude odd",
+            "-I $/inc -isystem $/inc "
+            "--preinclude $/odd");
+        row("behind a sign", "--sysroot=inc -fi=odd -specs odd",
+            "--sysroot=$/inc -fi=$/odd "
+            "-specs $/odd");
+        row("no file", "-Inowhere -O2", "-Inowhere -O2");
+        row("absolute", "-I/usr /usr", "-I/usr /usr");
+        row("what looks like a path", "-DX=odd -D odd -Uodd /Dodd --define=odd -x odd -mtune=odd",
+            "-DX=odd -D odd -Uodd /Dodd --define=odd -x odd -mtune=odd");
+        row("what may be written", "-oodd -oddodd --odd odd --odd=odd",
+            "-oodd -oddodd --odd odd --odd=odd");
+        row("response file", "@words.rsp -g", "-I$/inc -DA=b c.h -g");
+        row("response files without an end or a mark", "@loop.rsp @half.rsp",
+            "@$/loop.rsp @$/half.rsp");
     }
     void makesRelativePathsAbsolute()
     {
-        QFETCH(QString, word);
+        QFETCH(QString, typed);
         QFETCH(QString, absolute);
         const QTemporaryDir folder;
-        QDir(folder.path()).mkdir("inc dir");
-        writeTestFile(folder.filePath("first.h"));
-        QDir::setCurrent(folder.path());
-        const QString made = withAbsolutePath(word);
-        QCOMPARE(made, absolute.replace("$", QDir::currentPath()));
-        QDir::setCurrent(QDir::rootPath());
-    }
-
-    void leavesOutputsInTheFolderOfTheProbe()
-    {
-        const QTemporaryDir folder;
-        writeTestFile(folder.filePath("mine"));
+        QDir(folder.path()).mkdir("inc");
+        for (const char *name : {"run.py", "odd", "c.h"})
+            writeTestFile(folder.filePath(name));
+        writeTestFile(folder.filePath("words.rsp"), "-Iinc\n\"-DA=b c.h\" -MF d");
+        writeTestFile(folder.filePath("loop.rsp"), "@loop.rsp");
+        writeTestFile(folder.filePath("half.rsp"), "\"-DA");
         QDir::setCurrent(folder.path());
         Arguments arguments;
-        arguments.command = "cc";
+        arguments.command = "\"cc " + typed + '"';
         arguments.layout.outputFlag = "-o";
-        arguments.switches = QStringList {"-omine", "mine"};
-        QCOMPARE(findCompiler(arguments).command.mid(1),
-                 QStringList({"-omine", QDir::currentPath() + "/mine"}));
+        const QStringList made = findCompiler(arguments).command.mid(1);
+        QCOMPARE(made.join(' '), absolute.replace("$", QDir::currentPath()));
         QDir::setCurrent(QDir::rootPath());
     }
 
@@ -64,8 +67,15 @@ private slots:
         row("outputs", "-o x -oa/x -MF d -MFd -MT t -MMD -MP -aux-info a -Map m -I i", "-I i");
         row("outputs of other compilers", "/Fox /Fd\\x --create-dep d -l list /showIncludes /O2",
             "/O2");
-        row("outputs behind others", "-Wp,-MD,d -Wl,-Map,m -Wa,-adhln=l -Wp,-DA -save-temps=obj",
-            "-Wp,-DA");
+        row("outputs behind others",
+            "-Wp,-MD,d -Wl,-Map,m -Wa,-mx,-adhln=l -Wp,-DA,-MMD,d -save-temps=obj",
+            "-Wa,-mx -Wp,-DA");
+        row("outputs handed on apart",
+            "-Xpreprocessor -MD -Xpreprocessor d -Xclang -dependency-file -Xclang d -Xclang -x "
+            "-Xassembler -al=l",
+            "-Xclang -x");
+        row("another maker's library", "/nologo -MT -MD /MDd -Fdx /doc x.c",
+            "/nologo -MT -MD /MDd x.c");
         row("no outputs", "-Os -mz80 -m32 -ox -MISRA -lm -O", "-Os -mz80 -m32 -ox -MISRA -lm -O");
         row("fewer messages", "-Wfatal-errors -fdiagnostics-format=json -fmax-errors=1 -g", "-g");
         row("code that is made later", "-flto -fshort-enums -flto=auto", "-fshort-enums");

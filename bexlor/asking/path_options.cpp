@@ -1,0 +1,117 @@
+#include "path_options.h"
+
+#include "quoting.h"
+#include "text_file.h"
+
+#include <QFileInfo>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const int deepestResponseFile = 10; // one that names itself has no end
+
+/// Options that name what the compiler reads, be it in the same word, there perhaps behind a sign,
+/// or in the next. From the manuals of the GNU compilers, clang, cc65, sdcc, Open Watcom, and of
+/// the compilers of Arm, IAR, Microsoft, Renesas, TASKING and Texas Instruments.
+const QRegularExpression &readingOption()
+{
+    static const QRegularExpression option(
+        u"^((?:-include-pch|-include|-imacros|-iprefix|-iwithprefixbefore|-iwithprefix|-isystem|"
+        "-iquote|-idirafter|-isysroot|-iframework|-imsvc|/imsvc|-ivfsoverlay|-cxx-isystem|"
+        "[-/]external:I|[-/]winsysroot|[-/]vctoolsdir|[-/]FI|[-/]FU|[-/]AI|-fi(?==)|"
+        "-fplugin(?==)|-fmodule-map-file(?==)|--?sysroot|--?specs|--?gcc-toolchain|--config|"
+        "-resource-dir|--include-directory|--include-file|--include-dir|--include_path|--include|"
+        "--asm-include-dir|--bin-include-dir|--lib-path|--cfg-path|--peep-file|--dlib_config|"
+        "--?preinclude|--system_include_dir|--option-file|--cmd_file|-?-via|-subcommand|"
+        "[-/]I|-[BCFHJLTi]|-f$)[=:]?)(.*)$"_s);
+    return option;
+}
+
+/// Whether \a word begins with the define flag of \a layout or of the compilers that take several,
+/// or removes a macro; a flag alone stands before the name.
+bool isAboutMacro(const QString &word, const CommandLayout &layout)
+{
+    static const QRegularExpression flag(u"^(?:[-/][DU]|--?define\\b|--?undef\\b)"_s);
+    return word.contains(flag)
+        || (!layout.defineFlag.isEmpty() && word.startsWith(layout.defineFlag));
+}
+
+bool isMacroFlag(const QString &word, const CommandLayout &layout)
+{
+    static const QRegularExpression flag(u"^(?:[-/][DU]|--?define|--?undef)$"_s);
+    return word.contains(flag) || (!layout.defineFlag.isEmpty() && word == layout.defineFlag);
+}
+
+bool isOption(const QString &word)
+{
+    return word.startsWith(u'-') || (word.startsWith(u'/') && !QFileInfo::exists(word));
+}
+
+/// \a path in \a folder made absolute, if there is such a file or directory.
+QString absolutePath(const QString &path, const QDir &folder)
+{
+    const QFileInfo file(folder, path);
+    const bool isRelative = !path.isEmpty() && QDir::isRelativePath(path) && file.exists();
+    return isRelative ? file.absoluteFilePath() : path;
+}
+
+/// \a word with what it reads made absolute; \a before stands before it.
+QString absoluteWord(const QString &before, const QString &word, const CommandLayout &layout,
+                     const QDir &folder)
+{
+    const bool isWritten = !layout.outputFlag.isEmpty()
+                        && (before == layout.outputFlag || word.startsWith(layout.outputFlag));
+    if (isWritten || isMacroFlag(before, layout) || isAboutMacro(word, layout))
+        return word;
+    const QRegularExpressionMatch option = readingOption().match(word);
+    if (option.hasMatch())
+        return option.captured(1) + absolutePath(option.captured(2), folder);
+    if (word.startsWith(u'@'))
+        return u'@' + absolutePath(word.mid(1), folder);
+    const QRegularExpressionMatch optionBefore = readingOption().match(before);
+    const bool isRead =
+        optionBefore.hasMatch() ? optionBefore.captured(2).isEmpty() : !isOption(before);
+    return isRead && !isOption(word) ? absolutePath(word, folder) : word;
+}
+
+/// The words of the response file \a path.
+std::optional<QStringList> wordsOfResponseFile(const QString &path)
+{
+    const std::optional<QString> text = platform::readTextFile(path);
+    if (!text || !quotingProblem(*text).isEmpty())
+        return {};
+    return splitCommand(*text);
+}
+
+QStringList withoutResponseFiles(const QStringList &words, const QDir &folder, int depth)
+{
+    QStringList expanded;
+    for (const QString &word : words) {
+        const QString path = folder.filePath(word.mid(1));
+        const bool isNamed = word.startsWith(u'@') && depth > 0 && QFileInfo(path).isFile();
+        const auto inside = isNamed ? wordsOfResponseFile(path) : std::nullopt;
+        if (inside)
+            expanded << withoutResponseFiles(*inside, folder, depth - 1);
+        else
+            expanded << word;
+    }
+    return expanded;
+}
+
+} // namespace
+
+QStringList withoutResponseFiles(const QStringList &words, const QDir &folder)
+{
+    return withoutResponseFiles(words, folder, deepestResponseFile);
+}
+
+QStringList withAbsolutePaths(const QStringList &words, const CommandLayout &layout,
+                              const QDir &folder)
+{
+    QStringList made = words.first(std::min<qsizetype>(words.size(), 1));
+    for (qsizetype i = 1; i < words.size(); ++i)
+        made << absoluteWord(words[i - 1], words[i], layout, folder);
+    return made;
+}
