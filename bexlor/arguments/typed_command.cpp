@@ -28,17 +28,16 @@ bool isProgram(const QString &word)
     return !programPath(word).isEmpty();
 }
 
-QString typedCommand(const QString &passed, bool (*isProgram)(const QString &word))
+QString typedCommand(const QString &passed, bool (*names)(const QString &word))
 {
     const QString inside = insideQuotes(passed);
-    const bool isTyped =
-        inside.isEmpty() || isProgram(inside) || isProgram(splitCommand(passed).value(0));
+    const bool isTyped = inside.isEmpty() || names(inside) || names(splitCommand(passed).value(0));
     return isTyped ? passed : inside;
 }
 
-QStringList commandWords(const QString &passed, bool (*isProgram)(const QString &word))
+QStringList commandWords(const QString &passed, bool (*names)(const QString &word))
 {
     const QString inside = insideQuotes(passed);
-    return !inside.isEmpty() && isProgram(inside) ? QStringList {inside}
-                                                  : splitCommand(typedCommand(passed, isProgram));
+    return !inside.isEmpty() && names(inside) ? QStringList {inside}
+                                              : splitCommand(typedCommand(passed, names));
 }

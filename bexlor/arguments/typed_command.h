@@ -10,9 +10,9 @@ QString programPath(const QString &word);
 bool isProgram(const QString &word);
 
 /// The command \a passed as it was typed into its field. The wizard puts quotes around one with
-/// spaces; \a isProgram tells whether they are the user's own, around a path that holds them.
-QString typedCommand(const QString &passed, bool (*isProgram)(const QString &word) = &isProgram);
+/// spaces; \a names tells of a word whether it names a program, and so whether they are the user's
+/// own, around a path that holds them.
+QString typedCommand(const QString &passed, bool (*names)(const QString &word) = &isProgram);
 
 /// The words of the same, see splitCommand().
-QStringList commandWords(const QString &passed,
-                         bool (*isProgram)(const QString &word) = &isProgram);
+QStringList commandWords(const QString &passed, bool (*names)(const QString &word) = &isProgram);
