@@ -56,7 +56,7 @@ public:
         while (!batches.isEmpty()) {
             QList<QByteArray> sources;
             for (const Batch &batch : batches)
-                sources << m_prelude + joinedItems(m_items, batch);
+                sources << m_prelude + joinedItems(m_items, batch) + harmless;
             const QList<ProbeAnswer> answers = ask(sources);
             m_next.clear();
             for (qsizetype i = 0; i < batches.size(); ++i)
@@ -71,17 +71,26 @@ private:
         if (answer.compiled())
             set(accepted, batch);
         else if (batch.size() > 1)
-            divide(batch, itemsOn(answer.lines, m_prelude, m_items, batch));
+            divide(batch, itemsOn(answer.lines, m_prelude, m_items, batch),
+                   answer.lines.contains(endOf(batch)));
     }
 
-    void divide(const Batch &batch, const Batch &named)
+    /// The line behind \a batch in its probe, which is harmless.
+    int endOf(const Batch &batch) const
+    {
+        return int(m_prelude.count('\n') + joinedItems(m_items, batch).count('\n')) + 1;
+    }
+
+    void divide(const Batch &batch, const Batch &named, bool namesHarmless)
     {
         const Batch rest = without(batch, named);
-        if (rest.isEmpty()) {
+        if (rest.isEmpty() && namesHarmless) {
             halve(batch); // to name all says nothing
             return;
         }
         suspects << named;
+        if (rest.isEmpty())
+            return;
         // A compiler that names one line only, or none, may stop at its first error.
         if (named.size() > 1)
             m_next << rest;

@@ -1,6 +1,7 @@
 #include "clang.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -47,6 +48,30 @@ QList<Macro> gnuDefinitions(const MacroFacts &macros)
     return definitions;
 }
 
+/// Under which clang reads what \a keyword is used in, as far as a macro can do that.
+std::optional<Macro> definitionOf(const Keyword &keyword, const Facts &facts)
+{
+    switch (keyword.form) {
+    case Keyword::Qualifier:
+        return Macro {keyword.name, {}};
+    case Keyword::QualifierWithArgument:
+        return Macro {keyword.name + "(...)", {}};
+    case Keyword::OrdinaryName:
+        return Macro {keyword.name, keyword.name + '_'};
+    case Keyword::TypeName:
+        if (!keyword.standIn.isEmpty())
+            return Macro {keyword.name, keyword.standIn};
+        break;
+    case Keyword::QualifierWithBareArgument:
+    case Keyword::AssemblerBlock:
+    case Keyword::Undetermined:
+        break;
+    }
+    if (keyword.name == "_Float128" && hasKeyword(facts, "__float128"))
+        return Macro {keyword.name, "__float128"};
+    return {};
+}
+
 } // namespace
 
 QList<QByteArray> keywordsOfClang()
@@ -59,16 +84,14 @@ QList<Macro> keywordDefinitions(const Facts &facts)
     const QList<QByteArray> known = keywordsOfClang();
     QList<Macro> definitions = gnuDefinitions(facts.macros);
     for (const Keyword &keyword : facts.keywords) {
-        if (known.contains(keyword.name))
+        if (known.contains(keyword.name) && keyword.form != Keyword::OrdinaryName)
             continue;
-        if (keyword.form == Keyword::Qualifier)
-            definitions << Macro {keyword.name, {}};
-        else if (keyword.form == Keyword::QualifierWithArgument)
-            definitions << Macro {keyword.name + "(...)", {}};
-        else if (!keyword.standIn.isEmpty())
-            definitions << Macro {keyword.name, keyword.standIn};
-        else if (keyword.name == "_Float128" && hasKeyword(facts, "__float128"))
-            definitions << Macro {keyword.name, "__float128"};
+        // A macro takes its argument or has none; the first form, with an argument, counts.
+        const bool isDefined =
+            !definitions.isEmpty() && definitions.last().name.split('(').first() == keyword.name;
+        const std::optional<Macro> definition = definitionOf(keyword, facts);
+        if (definition && !isDefined)
+            definitions << *definition;
     }
     return definitions;
 }

@@ -47,17 +47,22 @@ struct TypeFacts
 };
 
 /// A name that cannot be declared: an extension keyword or a type that the compiler brings along.
+/// One that may be used in several forms is listed once for each.
 struct Keyword
 {
     enum Form {
         Undetermined,
-        Qualifier,             ///< stands where a qualifier may stand, alone
-        QualifierWithArgument, ///< the same with one argument in parentheses
-        TypeName,              ///< stands for a type
+        Qualifier,                 ///< stands where a qualifier may stand, alone
+        QualifierWithArgument,     ///< the same with one argument in parentheses
+        TypeName,                  ///< stands for a type
+        QualifierWithBareArgument, ///< like a qualifier, with one number behind it
+        AssemblerBlock,            ///< begins what is no C
+        OrdinaryName,              ///< a keyword of the standard that this compiler lets declare
     };
     QByteArray name;
     Form form = Undetermined;
-    QByteArray standIn; ///< of a type: a standard type of the same kind and size
+    QByteArray standIn; ///< of a type: a standard type of the same kind and size; of a block of
+                        ///< assembler: the keyword that ends it
 
     bool operator==(const Keyword &) const = default;
 };

@@ -118,13 +118,8 @@ private:
     {
         const std::string_view name = takeWord();
         const bool isKept = m_use == TestedInHeader || name.front() == '_' || isPlain(name);
-        if (name.size() > longestName || !isKept)
-            return;
-        const char *next = m_next;
-        while (*next == ' ')
-            ++next;
-        const bool isCalled = m_use == UsedInHeader && *next == '(';
-        addUses(m_names, name, m_use | (isCalled ? CalledInHeader : 0));
+        if (name.size() <= longestName && isKept)
+            addUses(m_names, name, m_use);
     }
 
     /// Whether \a name is spelled as keywords without underscores are.

@@ -10,8 +10,7 @@
 enum NameUse : unsigned char {
     TestedInHeader = 1, ///< by a preprocessor conditional
     UsedInHeader = 2,   ///< outside comments and literals
-    CalledInHeader = 4, ///< used with a parenthesis behind it
-    InBinary = 8,       ///< stands in a compiler's binary file
+    InBinary = 4,       ///< stands in a compiler's binary file
 };
 
 struct ScannedName

@@ -1,48 +1,14 @@
 #include "learning.h"
 
+#include "keyword_forms.h"
+#include "keyword_types.h"
 #include "well_known_names.h"
 
 #include <QSet>
 #include <algorithm>
 #include <functional>
-#include <span>
 
 namespace {
-
-/// The forms in which a keyword may be used, "@" standing for it and "%" for a name that nothing
-/// else has. Most are declarations within a function, at whose end a compiler that has lost its way
-/// finds it again. What qualifies a char is no type of its own, whereas "__int64 int" may be one.
-struct Use
-{
-    const char *line;
-    Keyword::Form form;
-};
-
-const Use uses[] = {
-    {"void %f(void) { extern char @ %; }", Keyword::Qualifier},
-    {"void %f(void) { extern @ char %; }", Keyword::Qualifier},
-    {"void %f(void) { extern char * @ %; }", Keyword::Qualifier},
-    {"void %f(void) { extern @ void %(void); }", Keyword::Qualifier},
-    {"static @ char %(void) { return 0; }", Keyword::Qualifier},
-    {"extern void @ %(int);", Keyword::Qualifier},
-    {"void %f(void) { extern @(1) int %; }", Keyword::QualifierWithArgument},
-    {"void %f(void) { extern int @(1) %; }", Keyword::QualifierWithArgument},
-    {"void %f(void) { extern @((unused)) int %; }", Keyword::QualifierWithArgument},
-    {"void %f(void) { extern @(dllimport) int %; }", Keyword::QualifierWithArgument},
-    {"void %f(void) { extern @(a, b) int %; }", Keyword::QualifierWithArgument},
-    {"void %f(void) { extern @ %; }", Keyword::TypeName},
-    {"void %f(void) { extern @ *%; }", Keyword::TypeName},
-};
-
-/// Forms of what may stand behind a function. A compiler takes what is wrong there for the start of
-/// a definition in the old style and may go astray, so these are tried apart, and only for
-/// keywords that have no other form.
-const Use usesBehindFunctions[] = {
-    {"extern void %(void) @;", Keyword::Qualifier},
-    {"extern void %(void) @(1);", Keyword::QualifierWithArgument},
-    {"extern void %(void) @(a, b);", Keyword::QualifierWithArgument},
-    {"extern void %(void) @((noreturn));", Keyword::QualifierWithArgument},
-};
 
 QSet<QByteArray> macroNames(const MacroFacts &macros)
 {
@@ -109,93 +75,10 @@ QList<QByteArray> undeclarableNames(const Questions &questions, const QList<QByt
     return rejected;
 }
 
-QByteArray lineOf(const Use &use, const QByteArray &keyword, qsizetype number)
+/// Whether \a name, a keyword of the standard, can be declared.
+bool isOrdinaryName(const Questions &questions, const QByteArray &name)
 {
-    const QByteArray name = "calyx_" + QByteArray::number(number);
-    return QByteArray(use.line).replace('@', keyword).replace('%', name) + '\n';
-}
-
-/// Tries the forms in \a tried with those of \a keywords that are not \a settled and for which
-/// there is none in \a forms yet, and adds those that the compiler accepts; \a isAlone for one in a
-/// probe.
-void addForms(const Questions &questions, const QList<QByteArray> &keywords,
-              std::span<const Use> tried, bool isApart, QList<QSet<int>> &forms,
-              const QList<QByteArray> &settled)
-{
-    QList<QByteArray> lines;
-    QList<std::pair<qsizetype, int>> asked; // keyword and form
-    for (qsizetype i = 0; i < keywords.size(); ++i) {
-        if (!forms[i].isEmpty() || settled.contains(keywords[i]))
-            continue;
-        for (const Use &use : tried) {
-            // An unknown name must not pass for a type.
-            if (use.form == Keyword::TypeName && !questions.rejects(ErrorKind::UnknownName))
-                continue;
-            lines << lineOf(use, keywords[i], lines.size());
-            asked << std::pair(i, int(use.form));
-        }
-    }
-    const QList<bool> isAccepted =
-        isApart ? questions.acceptedApart(lines) : questions.accepted({}, lines);
-    for (const auto &[keyword, form] : selected(asked, isAccepted))
-        forms[keyword] << form;
-}
-
-/// Leaves those of \a keywords that have a size alone, and none together with char, only the form
-/// of a type: a compiler that lets a name be declared again takes "char size_t x;" too.
-void keepTypesApart(const Questions &questions, const QList<QByteArray> &keywords,
-                    QList<QSet<int>> &forms)
-{
-    QList<qsizetype> doubtful;
-    QList<QByteArray> expressions;
-    for (qsizetype i = 0; i < keywords.size(); ++i) {
-        if (!forms[i].contains(Keyword::TypeName) || forms[i].size() == 1)
-            continue;
-        doubtful << i;
-        expressions << "sizeof(" + keywords[i] + ')' << "sizeof(" + keywords[i] + " char)"
-                    << "sizeof(char " + keywords[i] + ')';
-    }
-    const QList<std::optional<int>> sizes = questions.numbers({}, expressions);
-    for (qsizetype i = 0; i < doubtful.size(); ++i) {
-        if (sizes[3 * i] && !sizes[3 * i + 1] && !sizes[3 * i + 2])
-            forms[doubtful[i]] = {Keyword::TypeName};
-    }
-}
-
-/// The form in which a keyword is used that may be used in \a forms; \a isCalled if headers use it
-/// with a parenthesis behind it.
-Keyword::Form formOf(const QSet<int> &forms, bool isCalled)
-{
-    const bool standsAlone = forms.contains(Keyword::Qualifier);
-    if (forms.contains(Keyword::QualifierWithArgument) && (!standsAlone || isCalled))
-        return Keyword::QualifierWithArgument;
-    if (standsAlone)
-        return Keyword::Qualifier;
-    return forms.contains(Keyword::TypeName) ? Keyword::TypeName : Keyword::Undetermined;
-}
-
-/// Gives each of \a keywords that stands for a type the standard type of the same kind and size for
-/// a stand-in. What has no size only qualifies the int that is left out.
-void measureTypes(const Questions &questions, QList<Keyword> &keywords, const TypeFacts &types)
-{
-    const auto isType = [](const Keyword &keyword) { return keyword.form == Keyword::TypeName; };
-    QList<QByteArray> expressions;
-    for (const Keyword &keyword : keywords) {
-        if (isType(keyword)) {
-            const QByteArray cast = '(' + keyword.name + ')';
-            expressions << "sizeof" + cast << cast + "2.5==2.5?1:2" << cast + "-1<0?1:2";
-        }
-    }
-    const QList<std::optional<int>> values = questions.numbers({}, expressions);
-    auto value = values.begin();
-    for (Keyword &keyword : keywords) {
-        if (!isType(keyword))
-            continue;
-        const std::optional<int> size = value[0], isFloating = value[1], isUnsigned = value[2];
-        value += 3;
-        if (size)
-            keyword.standIn = typeLike(types, *size, isFloating == 1, isUnsigned == 2);
-    }
+    return questions.accepted({}, {"static int " + name + " = 0;\n"}).first();
 }
 
 } // namespace
@@ -206,19 +89,20 @@ QList<Keyword> learnKeywords(const Questions &questions, const QList<ScannedName
 {
     const QList<QByteArray> found =
         undeclarableNames(questions, candidates(names, questions.isCpp(), macros));
-    QList<QSet<int>> forms(found.size());
-    addForms(questions, found, uses, false, forms, {});
-    addForms(questions, found, usesBehindFunctions, true, forms, settled);
-    if (!questions.rejects(ErrorKind::ConflictingDeclaration))
-        keepTypesApart(questions, found, forms);
-    QSet<QByteArray> called;
-    for (const ScannedName &name : names) {
-        if (name.uses & CalledInHeader)
-            called << name.text;
-    }
+    const QList<QList<Keyword::Form>> forms = keywordForms(questions, found, settled);
     QList<Keyword> keywords;
-    for (qsizetype i = 0; i < found.size(); ++i)
-        keywords.append({found[i], formOf(forms[i], called.contains(found[i])), {}});
-    measureTypes(questions, keywords, types);
+    for (qsizetype i = 0; i < found.size(); ++i) {
+        for (const Keyword::Form form : forms[i])
+            keywords.append({found[i], form, {}});
+    }
+    addStandIns(questions, types, keywords);
+    for (const Keyword &block : assemblerBlocks(questions)) {
+        keywords.removeIf([&block](const Keyword &keyword) { return keyword.name == block.name; });
+        keywords << block;
+    }
+    if (!questions.isCpp() && isOrdinaryName(questions, "_Bool"))
+        keywords.append({"_Bool", Keyword::OrdinaryName, {}});
+    std::stable_sort(keywords.begin(), keywords.end(),
+                     [](const Keyword &a, const Keyword &b) { return a.name < b.name; });
     return keywords;
 }

@@ -216,7 +216,7 @@ QList<QByteArray> macroCandidates(const QList<ScannedName> &names, const QString
     const QList<QByteArray> known = wellKnownMacros();
     QSet<QByteArray> chosen(known.begin(), known.end());
     for (const ScannedName &name : names) {
-        const bool isUsedOnly = (name.uses & ~unsigned(CalledInHeader)) == UsedInHeader;
+        const bool isUsedOnly = name.uses == UsedInHeader;
         if (!isUsedOnly || name.text.startsWith('_'))
             chosen << name.text;
     }

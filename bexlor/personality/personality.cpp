@@ -113,14 +113,20 @@ void read(const QByteArray &text, Type &type)
     read(parts.value(2).split(' ').last(), type.alignment);
 }
 
-const char *const keywordForms[] = {"undetermined", "qualifier", "qualifier-with-argument", "type"};
+const char *const keywordForms[] = {"undetermined",
+                                    "qualifier",
+                                    "qualifier-with-argument",
+                                    "type",
+                                    "qualifier-with-bare-argument",
+                                    "assembler-until",
+                                    "ordinary-name"};
 const QByteArray noStandIn = "unknown";
 
 /// For example "__sfr type unsigned char".
 QByteArray written(const Keyword &keyword)
 {
     const QByteArray text = keyword.name + ' ' + keywordForms[keyword.form];
-    if (keyword.form != Keyword::TypeName)
+    if (keyword.form != Keyword::TypeName && keyword.standIn.isEmpty())
         return text;
     return text + ' ' + (keyword.standIn.isEmpty() ? noStandIn : keyword.standIn);
 }

@@ -103,6 +103,26 @@ QString nothing()
     return QString();
 }
 
+/// What clang rejects of the uses of \a keywords, since no macro can take it away: a sentence each.
+QStringList whatNoOptionExpresses(const QList<Keyword> &keywords)
+{
+    QStringList remarks, bare;
+    for (const Keyword &keyword : keywords) {
+        const QString name = QString::fromUtf8(keyword.name);
+        if (keyword.form == Keyword::AssemblerBlock) {
+            remarks << u"No option can have clang read assembler between %1 and %2."_s.arg(
+                name, QString::fromUtf8(keyword.standIn));
+        } else if (keyword.form == Keyword::QualifierWithBareArgument) {
+            bare << name;
+        }
+    }
+    if (!bare.isEmpty()) {
+        remarks << u"No option can have clang read an argument without parentheses behind %1."_s
+                       .arg(bare.join(", "_L1));
+    }
+    return remarks;
+}
+
 /// Tells how often the compiler has been started since now.
 Progress::State probesOf(const ProbeRunner &runner)
 {
@@ -278,6 +298,8 @@ QList<Keyword> findKeywords(Progress &progress, const Questions &questions, cons
     const QList<Keyword> keywords =
         learnKeywords(questions, scan.names, known.macros, known.types, keywordsOfClang());
     progress.say(u"Found %1."_s.arg(counted(keywords.size(), "keyword"_L1, "keywords"_L1)));
+    for (const QString &remark : whatNoOptionExpresses(keywords))
+        progress.say(remark);
     return keywords;
 }
 

@@ -89,6 +89,15 @@ private slots:
         QCOMPARE(itemsAcceptedApart(std::ref(compiler), {}, items(150, bad), limits), accepted);
     }
 
+    void needsOneProbeForAllThatIsBad()
+    {
+        FakeCompiler compiler {"all"};
+        const QList<QByteArray> bad = items(20, {0, 1, 2, 3, 4, 5}).first(6);
+        QCOMPARE(acceptedItems(std::ref(compiler), "prelude\n", bad, limits, false),
+                 QList<bool>(6, false));
+        QCOMPARE(compiler.started, 1);
+    }
+
     void confirmsSuspectsAlone()
     {
         // An item that is rejected behind another one only.

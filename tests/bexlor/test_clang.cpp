@@ -118,11 +118,16 @@ private slots:
                           {"__at", Keyword::QualifierWithArgument, {}},
                           {"__sfr", Keyword::TypeName, "unsigned char"},
                           {"__inline", Keyword::Qualifier, {}},
-                          {"__bit", Keyword::TypeName, {}}};
+                          {"__bit", Keyword::TypeName, {}},
+                          {"__interrupt", Keyword::QualifierWithArgument, {}},
+                          {"__interrupt", Keyword::QualifierWithBareArgument, {}},
+                          {"__interrupt", Keyword::Qualifier, {}},
+                          {"_Bool", Keyword::OrdinaryName, {}}};
         row("8 bits", false,
             "char a[sizeof(int)==2&&sizeof(void*)==2&&sizeof(double)==4?1:-1];"
             "__data int b; __at(0x80) __sfr c; static __inline int d(void) { return 1; }"
-            "int __bit;");
+            "int __bit; void e(void) __interrupt(2); typedef unsigned char _Bool;"
+            "char f[(_Bool)2==2?1:-1];");
         facts.macros.known = macros("__GNUC__=11");
         row("an attribute with arguments", false,
             "void f(void *); __attribute__((__malloc__(f, 1))) void *g(void);");

@@ -305,12 +305,12 @@ private slots:
     {
         const Workshop workshop;
         const ProgramRun failed =
-            workshop.generate("kov", "gcc --no-such-option", {"-xd", "A=\"x\\\""});
+            workshop.generate("kov", "gcc --no-such-option", {"-xd", "A=\"x\\\"\""});
         QCOMPARE(failed.exitCode, 1);
         QVERIFY(
             failed.output.contains("Compiling the first probe failed: the compiler returned 1."));
         QVERIFY(workshop.read("compile.bat")
-                    .contains("--no-such-option -oprobe.o \"-DA=\\\"x\\\\\\\"\" -c probe.c"));
+                    .contains("--no-such-option -oprobe.o \"-DA=\\\"x\\\\\\\"\\\"\" -c probe.c"));
         QVERIFY(workshop.read("stderr.log").contains("no-such-option"));
     }
 

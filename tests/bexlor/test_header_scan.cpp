@@ -17,8 +17,8 @@ private:
         QStringList list;
         for (const ScannedName &name : scan.names) {
             list << name.text + ':';
-            for (int bit = 0; bit < 4; ++bit)
-                list.last() += name.uses & (1u << bit) ? QString("TUCB"[bit]) : QString();
+            for (int bit = 0; bit < 3; ++bit)
+                list.last() += name.uses & (1u << bit) ? QString("TUB"[bit]) : QString();
         }
         return list;
     }
@@ -38,16 +38,16 @@ private slots:
             {"A1:T", "Bb:T", "C:T", "D:T", "defined:T"});
         row("a conditional at the very start", "#if Mixed \\\r\n && Lines\n",
             {"Lines:T", "Mixed:T"});
-        row("uses", "__far int *x1; Upper camelCase __at(1) y;\n", {"__at:UC", "__far:U", "int:U"});
+        row("uses", "__far int *x1; Upper camelCase __at(1) y;\n", {"__at:U", "__far:U", "int:U"});
         row("a definition's body", "#define NAME(a) __attribute__((a))\n#define __OTHER 1\n",
-            {"__attribute__:UC"});
+            {"__attribute__:U"});
         row("comments and literals",
             "/* __a * __b **/ \"__c \\\" __d\" '__e' // __f \\\n __g\n__h // __i", {"__h:U"});
         row("a literal without an end", "#error don't __stop\n\"open __x\n__y\n", {"__y:U"});
         row("a continued line of a comment", "// __a \\\r\n __b\n__c", {"__c:U"});
         row("a mark within a definition", "#define A \\\n#if __b\n__c\n",
             {"__b:U", "__c:U", "if:U"});
-        row("a tested call", "#if __has(x)\n#endif\n__has (x)\n", {"__has:TUC", "x:T"});
+        row("a tested call", "#if __has(x)\n#endif\n__has (x)\n", {"__has:TU", "x:T"});
         row("long names", "__" + QByteArray(62, 'a') + " abcdefghijklm #\n", {});
         row("no line feed at the end", "#if __LAST", {"__LAST:T"});
         row("an unfinished comment", "__x /* __y", {"__x:U"});

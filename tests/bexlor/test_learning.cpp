@@ -31,8 +31,8 @@ private:
             Compiler compiler;
             compiler.command = command;
             compiler.command.first() = QStandardPaths::findExecutable(command.first());
-            compiler.isCross = command.first() == "sdcc";
-            compiler.layout = {"-o", "-c", "-D", compiler.isCross ? ".rel" : ".o",
+            compiler.isCross = command.first() != "gcc" && command.first() != "tcc";
+            compiler.layout = {"-o", "-c", "-D", command.first() == "sdcc" ? ".rel" : ".o",
                                "%c %o %e %d%j %s "};
             return compiler;
         }
@@ -123,21 +123,42 @@ private slots:
         QTEST(shown, "types");
     }
 
+    void findsKeywords_data()
+    {
+        // found: the numbers of the forms, and what stands in for a type or ends a block
+        const Columns<QStringList, QStringList, QStringList> row("command", "found", "missing");
+        row("forms of an 8-bit compiler", {"sdcc", "-mmcs51"},
+            {"__near: 1", "__at: 2 4", "__interrupt: 2 4 1", "__using: 2 4", "__naked: 1",
+             "__asm: 5 __endasm", "__sfr: 3 volatile unsigned char", "__bit: 3 _Bool",
+             "__sbit: 3 volatile _Bool"},
+            {"ordinary", "__xdata", "__idata", "_Bool"});
+        row("at file scope only", {"sdcc", "-mz80"}, {"__at: 2 4"}, {"__near"});
+        row("kinds of numbers", {"avr-gcc"},
+            {"_Accum: 3", "_Fract: 3", "__int24: 3", "__builtin_va_list: 3"}, {"_Bool"});
+        row("no truth values", {"cl65", "-t", "none"}, {"_Bool: 6"}, {});
+        row("decimal numbers", {"gcc"}, {"_Decimal32: 3 float", "_Float32: 3 float"}, {"_Bool"});
+    }
     void findsKeywords()
     {
-        const Subject subject({"sdcc", "-mmcs51"}, true);
+        QFETCH(QStringList, command);
+        QFETCH(QStringList, found);
+        QFETCH(QStringList, missing);
+        const Subject subject(command, true);
         TypeFacts types;
         types.basic = {{"char", 1, 1}, {"int", 2, 1}, {"float", 4, 1}};
         QMap<QByteArray, QByteArray> forms;
         for (const Keyword &keyword : learnKeywords(
                  subject.questions, {{"__near", UsedInHeader}, {"ordinary", UsedInHeader}},
-                 {{{"__xdata", ""}}, {"__idata"}}, types))
-            forms[keyword.name] = QByteArray::number(keyword.form) + keyword.standIn;
-        QCOMPARE(forms.value("__near"), QByteArray::number(Keyword::Qualifier));
-        QCOMPARE(forms.value("__at"), QByteArray::number(Keyword::QualifierWithArgument));
-        QCOMPARE(forms.value("__sfr"), QByteArray::number(Keyword::TypeName) + "unsigned char");
-        for (const char *other : {"ordinary", "__attribute__", "__xdata", "__idata"})
-            QVERIFY2(!forms.contains(other), other);
+                 {{{"__xdata", ""}}, {"__idata"}}, types)) {
+            const QByteArray standIn = keyword.standIn.isEmpty() ? "" : ' ' + keyword.standIn;
+            forms[keyword.name] += ' ' + QByteArray::number(keyword.form) + standIn;
+        }
+        for (const QString &expected : found) {
+            const QByteArray name = expected.section(':', 0, 0).toLatin1();
+            QCOMPARE(name + ':' + forms.value(name), expected);
+        }
+        for (const QString &other : missing)
+            QVERIFY2(!forms.contains(other.toLatin1()), qPrintable(other));
     }
 
     void findsTheSearchPath_data()

@@ -39,7 +39,10 @@ Personality fullPersonality()
                       {"__b", Keyword::QualifierWithArgument, {}},
                       {"__c", Keyword::TypeName, "unsigned long int"},
                       {"__d", Keyword::TypeName, {}},
-                      {"__e", Keyword::Undetermined, {}}};
+                      {"__e", Keyword::Undetermined, {}},
+                      {"__f", Keyword::QualifierWithBareArgument, {}},
+                      {"__g", Keyword::AssemblerBlock, "__h"},
+                      {"_Bool", Keyword::OrdinaryName, {}}};
     facts.searchPath = {{"/a b", "/c"}, {"/q"}};
     return composePersonality(arguments, facts, {"-include", "x.h", "-imacros", "y z.h"},
                               "-DFROM_TEMPLATE=1\n# Language\n#: keyword __f qualifier");
@@ -55,7 +58,7 @@ private slots:
     void isReadAsItWasWritten()
     {
         const Personality full = fullPersonality();
-        QVERIFY(full.keywordDefinitions.size() == 3 && full.includedFirst.size() == 3);
+        QVERIFY(full.keywordDefinitions.size() == 4 && full.includedFirst.size() == 3);
         QCOMPARE(full.searchPath.size(), 6);
         QCOMPARE(full.includedFirst.first(), Option({"-include", "/first \"one\".h"}));
         Personality bare;

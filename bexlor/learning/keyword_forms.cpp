@@ -1,0 +1,198 @@
+#include "keyword_forms.h"
+
+#include <QSet>
+#include <span>
+
+namespace {
+
+/// A form in which a keyword may be used, "@" standing for it and "%" for a name that nothing else
+/// has.
+struct Use
+{
+    const char *line;
+    Keyword::Form form;
+};
+
+// Most are declarations within a function, at whose end a compiler that has lost its way finds it
+// again. What qualifies a char is no type of its own, whereas "__int64 int" may be one.
+const Use usesWithinFunctions[] = {
+    {"void %f(void) { extern char @ %; }", Keyword::Qualifier},
+    {"void %f(void) { extern @ char %; }", Keyword::Qualifier},
+    {"void %f(void) { extern char * @ %; }", Keyword::Qualifier},
+    {"void %f(void) { extern @ void %(void); }", Keyword::Qualifier},
+    {"static @ char %(void) { return 0; }", Keyword::Qualifier},
+    {"extern void @ %(int);", Keyword::Qualifier},
+    {"void %f(void) { extern @(1) int %; }", Keyword::QualifierWithArgument},
+    {"void %f(void) { extern int @(1) %; }", Keyword::QualifierWithArgument},
+    {"void %f(void) { extern @((unused)) int %; }", Keyword::QualifierWithArgument},
+    {"void %f(void) { extern @(dllimport) int %; }", Keyword::QualifierWithArgument},
+    {"void %f(void) { extern @(a, b) int %; }", Keyword::QualifierWithArgument},
+    {"void %f(void) { extern @ %; }", Keyword::TypeName},
+    {"void %f(void) { extern @ *%; }", Keyword::TypeName},
+};
+
+const Use usesWithBareArgument[] = {
+    {"void %f(void) { extern @ 1 int %; }", Keyword::QualifierWithBareArgument},
+    {"void %f(void) { extern int @ 1 %; }", Keyword::QualifierWithBareArgument},
+    {"@ 1 char %;", Keyword::QualifierWithBareArgument},
+};
+
+// A compiler takes what is wrong behind a function for the start of a definition in the old style
+// and may go astray, so each of these needs a probe of its own.
+const Use usesBehindFunctions[] = {
+    {"extern void %(void) @;", Keyword::Qualifier},
+    {"extern void %(void) @(1);", Keyword::QualifierWithArgument},
+    {"extern void %(void) @(a, b);", Keyword::QualifierWithArgument},
+    {"extern void %(void) @((noreturn));", Keyword::QualifierWithArgument},
+    {"extern void %(void) @ 1;", Keyword::QualifierWithBareArgument},
+};
+
+// At file scope, behind an object's name, of a member and of a parameter.
+const Use usesElsewhere[] = {
+    {"@ char %;", Keyword::Qualifier},
+    {"@(1) char %;", Keyword::QualifierWithArgument},
+    {"@ 1 char %;", Keyword::QualifierWithBareArgument},
+    {"char % @;", Keyword::Qualifier},
+    {"char % @(1);", Keyword::QualifierWithArgument},
+    {"char % @ 1;", Keyword::QualifierWithBareArgument},
+    {"struct % { @ char %m; };", Keyword::Qualifier},
+    {"struct % { @(1) char %m; };", Keyword::QualifierWithArgument},
+    {"extern void %(char @ *);", Keyword::Qualifier},
+    {"extern void %(@(1) char *);", Keyword::QualifierWithArgument},
+};
+
+// In the order in which they stand behind one another.
+const Keyword::Form qualifiers[] = {Keyword::QualifierWithArgument,
+                                    Keyword::QualifierWithBareArgument, Keyword::Qualifier};
+
+QByteArray lineOf(const Use &use, const QByteArray &keyword, qsizetype number)
+{
+    const QByteArray name = "calyx_" + QByteArray::number(number);
+    return QByteArray(use.line).replace('@', keyword).replace('%', name) + '\n';
+}
+
+/// Looks for the forms of keywords.
+class FormSearch
+{
+public:
+    FormSearch(const Questions &questions, const QList<QByteArray> &keywords)
+        : forms(keywords.size()), m_questions(questions), m_keywords(keywords)
+    { }
+
+    QList<QSet<int>> forms; ///< of each keyword
+
+    enum Ways { Together, Apart };
+    /// Adds those of \a uses that the compiler accepts of the keywords \a indices.
+    void tryUses(std::span<const Use> uses, const QList<qsizetype> &indices, Ways ways);
+
+    /// Leaves those keywords that have a size alone, and none together with char, only the form of
+    /// a type: a compiler that lets a name be declared again takes "char size_t x;" too.
+    void keepTypesApart();
+
+    /// The keywords with \a form, or if that is Undetermined, with none, but for \a settled.
+    QList<qsizetype> keywordsWith(Keyword::Form form, const QList<QByteArray> &settled) const;
+
+private:
+    const Questions &m_questions;
+    const QList<QByteArray> &m_keywords;
+};
+
+void FormSearch::tryUses(std::span<const Use> uses, const QList<qsizetype> &indices, Ways ways)
+{
+    QList<QByteArray> lines;
+    QList<std::pair<qsizetype, int>> asked; // keyword and form
+    for (const qsizetype index : indices) {
+        for (const Use &use : uses) {
+            // An unknown name must not pass for a type.
+            if (use.form == Keyword::TypeName && !m_questions.rejects(ErrorKind::UnknownName))
+                continue;
+            lines << lineOf(use, m_keywords[index], lines.size());
+            asked << std::pair(index, int(use.form));
+        }
+    }
+    const QList<bool> isAccepted =
+        ways == Apart ? m_questions.acceptedApart(lines) : m_questions.accepted({}, lines);
+    for (const auto &[index, form] : selected(asked, isAccepted))
+        forms[index] << form;
+}
+
+void FormSearch::keepTypesApart()
+{
+    QList<qsizetype> doubtful;
+    QList<QByteArray> expressions;
+    for (qsizetype i = 0; i < m_keywords.size(); ++i) {
+        if (!forms[i].contains(Keyword::TypeName) || forms[i].size() == 1)
+            continue;
+        doubtful << i;
+        expressions << "sizeof(" + m_keywords[i] + ')' << "sizeof(" + m_keywords[i] + " char)"
+                    << "sizeof(char " + m_keywords[i] + ')';
+    }
+    const QList<std::optional<int>> sizes = m_questions.numbers({}, expressions);
+    for (qsizetype i = 0; i < doubtful.size(); ++i) {
+        if (sizes[3 * i] && !sizes[3 * i + 1] && !sizes[3 * i + 2])
+            forms[doubtful[i]] = {Keyword::TypeName};
+    }
+}
+
+QList<qsizetype> FormSearch::keywordsWith(Keyword::Form form,
+                                          const QList<QByteArray> &settled) const
+{
+    QList<qsizetype> found;
+    for (qsizetype i = 0; i < m_keywords.size(); ++i) {
+        const bool isMeant =
+            form == Keyword::Undetermined ? forms[i].isEmpty() : forms[i].contains(form);
+        if (isMeant && !settled.contains(m_keywords[i]))
+            found << i;
+    }
+    return found;
+}
+
+/// The forms of a keyword that may be used in those of \a found. What qualifies is no type.
+QList<Keyword::Form> inOrder(const QSet<int> &found)
+{
+    QList<Keyword::Form> forms;
+    for (const Keyword::Form form : qualifiers) {
+        if (found.contains(form))
+            forms << form;
+    }
+    if (forms.isEmpty())
+        forms << (found.contains(Keyword::TypeName) ? Keyword::TypeName : Keyword::Undetermined);
+    return forms;
+}
+
+} // namespace
+
+QList<QList<Keyword::Form>> keywordForms(const Questions &questions,
+                                         const QList<QByteArray> &keywords,
+                                         const QList<QByteArray> &settled)
+{
+    FormSearch search(questions, keywords);
+    search.tryUses(usesWithinFunctions, search.keywordsWith(Keyword::Undetermined, {}),
+                   FormSearch::Together);
+    search.tryUses(usesWithBareArgument,
+                   search.keywordsWith(Keyword::QualifierWithArgument, settled),
+                   FormSearch::Together);
+    search.tryUses(usesBehindFunctions, search.keywordsWith(Keyword::Undetermined, settled),
+                   FormSearch::Apart);
+    search.tryUses(usesElsewhere, search.keywordsWith(Keyword::Undetermined, settled),
+                   FormSearch::Together);
+    if (!questions.rejects(ErrorKind::ConflictingDeclaration))
+        search.keepTypesApart();
+    QList<QList<Keyword::Form>> forms;
+    for (const QSet<int> &found : search.forms)
+        forms << inOrder(found);
+    return forms;
+}
+
+QList<Keyword> assemblerBlocks(const Questions &questions)
+{
+    const Keyword blocks[] = {{"__asm", Keyword::AssemblerBlock, "__endasm"},
+                              {"_asm", Keyword::AssemblerBlock, "_endasm"}};
+    QList<QByteArray> functions;
+    for (const Keyword &block : blocks) {
+        functions << "void calyx_" + QByteArray::number(functions.size()) + "(void) { " + block.name
+                         + '\n' + block.standIn + "; }\n";
+    }
+    return selected(QList<Keyword>(std::begin(blocks), std::end(blocks)),
+                    questions.accepted({}, functions));
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "facts.h"
+#include "questions.h"
+
+/// How extension keywords are used, found by using them.
+
+/// The forms in which each of \a keywords may be used, those that take an argument first; only
+/// Undetermined where there is none. Of those \a settled it is enough to know that they are there.
+QList<QList<Keyword::Form>> keywordForms(const Questions &questions,
+                                         const QList<QByteArray> &keywords,
+                                         const QList<QByteArray> &settled);
+
+/// The keywords that begin a block of assembler, of which nothing is C up to another keyword.
+QList<Keyword> assemblerBlocks(const Questions &questions);
