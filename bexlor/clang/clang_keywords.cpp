@@ -24,6 +24,22 @@ bool hasKeyword(const Facts &facts, const QByteArray &name)
                        [&name](const Keyword &keyword) { return keyword.name == name; });
 }
 
+// Functions that GCC has built in for AVR ("AVR Built-in Functions"), each with one of clang's that
+// has the same type, and effects that are as little known: headers declare some of them, and what
+// stands for a function must do so in its declaration as well. The macro tells that it is there.
+const struct
+{
+    const char *macro;
+    Macro definition;
+} avrFunctions[] = {
+    {"__BUILTIN_AVR_CLI", {"__builtin_avr_cli", "__builtin_unwind_init"}},
+    {"__BUILTIN_AVR_NOP", {"__builtin_avr_nop", "__builtin_unwind_init"}},
+    {"__BUILTIN_AVR_SEI", {"__builtin_avr_sei", "__builtin_unwind_init"}},
+    {"__BUILTIN_AVR_SLEEP", {"__builtin_avr_sleep", "__builtin_unwind_init"}},
+    {"__BUILTIN_AVR_SWAP", {"__builtin_avr_swap", "__builtin_bitreverse8"}},
+    {"__BUILTIN_AVR_WDR", {"__builtin_avr_wdr", "__builtin_unwind_init"}},
+};
+
 /// Definitions under which clang reads what GCC has built in and clang has otherwise or not at all.
 QList<Macro> gnuDefinitions(const MacroFacts &macros)
 {
@@ -45,6 +61,10 @@ QList<Macro> gnuDefinitions(const MacroFacts &macros)
     // Extensions 2.0), and GCC has not got it.
     if (gnuVersion && findMacro(macros, "__ARM_ARCH") && !findMacro(macros, "__ARM_ACLE"))
         definitions << Macro {"__ARM_ACLE", "200"};
+    for (const auto &row : avrFunctions) {
+        if (findMacro(macros, row.macro))
+            definitions << row.definition;
+    }
     return definitions;
 }
 
