@@ -8,6 +8,7 @@
 #include "again.h"
 #include "catalogue_answers.h"
 #include "check_steps.h"
+#include "compiler_names.h"
 #include "process_tree.h"
 #include "request.h"
 #include "steps.h"
@@ -38,7 +39,9 @@ std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const A
     if (!first || !checkControls(progress, runner, *first))
         return {};
     const DialectAnswers listed = askForListings(progress, compiler, *first, folder);
-    const HeaderScan scan = readDirectories(progress, arguments.headerDirectories);
+    HeaderScan scan = readDirectories(progress, arguments.headerDirectories);
+    if (listed.macros.isEmpty())
+        scan.names << namesOfCompiler(runner.compiler(), listed.versionLine);
     const Questions questions = findHowToAsk(progress, runner);
     const std::optional<MacroFacts> macros =
         findMacros(progress, questions, listed.macros, scan.names, logFolder);

@@ -103,6 +103,19 @@ public:
         }
     }
 
+    /// Takes the names that options in the text define, be it a script or a program.
+    void scanOptions()
+    {
+        while ((m_next = std::find(m_next, m_end, 'D')) < m_end) {
+            const bool isFlag = (m_next[-1] == '-' || m_next[-1] == '/') && !isOfName(m_next[-2]);
+            ++m_next;
+            if (isFlag && *m_next == ' ')
+                ++m_next;
+            if (isFlag && isLetter(*m_next))
+                addUses(m_names, takeWord(), DefinedByOption);
+        }
+    }
+
 private:
     std::string_view takeWord()
     {
@@ -236,6 +249,12 @@ bool isText(std::string_view content)
     return std::memchr(content.data(), 0, std::min<std::size_t>(content.size(), 4096)) == nullptr;
 }
 
+/// Whether \a file is called like a header, in which no options stand.
+bool isNamedAsHeader(const fs::path &file)
+{
+    return file.extension().string().starts_with(".h");
+}
+
 /// Puts what \a file holds into \a content, between two line feeds. False when it cannot be read.
 bool readBetweenLineFeeds(const fs::path &file, std::string &content)
 {
@@ -275,6 +294,8 @@ void scanFiles(const std::vector<WalkedFile> &files, std::atomic<std::size_t> &n
             continue;
         }
         const std::string_view text(content.data() + 1, content.size() - 2);
+        if (!isNamedAsHeader(files[index].path))
+            Scanner(text, scan.names).scanOptions();
         Scanner scanner(text, scan.names);
         if (isText(text)) {
             scan.texts.push_back(index);
@@ -337,4 +358,18 @@ HeaderScan scanHeaders(const QStringList &directories, ScanProgress &progress)
         result.headers.append({slashed(file.parent_path()), slashed(file.filename())});
     }
     return result;
+}
+
+QList<ScannedName> scanProgramFiles(const QStringList &files)
+{
+    NameTable names;
+    std::string content;
+    for (const QString &file : files) {
+        if (!readBetweenLineFeeds(file.toStdWString(), content))
+            continue;
+        const std::string_view text(content.data() + 1, content.size() - 2);
+        Scanner(text, names).scanOptions();
+        Scanner(text, names).scanBinary();
+    }
+    return sortedNames(names);
 }

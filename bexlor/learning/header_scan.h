@@ -11,6 +11,7 @@ enum NameUse : unsigned char {
     TestedInHeader = 1, ///< by a preprocessor conditional
     UsedInHeader = 2,   ///< outside comments and literals
     InBinary = 4,       ///< stands in a compiler's binary file
+    DefinedByOption = 8 ///< behind "-D" or "/D", in a file that is no header
 };
 
 struct ScannedName
@@ -46,3 +47,8 @@ struct ScanProgress
 /// used in headers only those are kept that may be keywords: with a leading underscore, or of
 /// lower-case letters and not long.
 HeaderScan scanHeaders(const QStringList &directories, ScanProgress &progress);
+
+/// The names in \a files, the compiler's own programs and what they are configured by: those that
+/// are defined by options, and those that are spelled as macros are. Files that cannot be read have
+/// none.
+QList<ScannedName> scanProgramFiles(const QStringList &files);

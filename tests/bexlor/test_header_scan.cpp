@@ -1,5 +1,6 @@
 #include "header_scan.h"
 
+#include "compiler_names.h"
 #include "files.h"
 #include "row.h"
 
@@ -17,8 +18,8 @@ private:
         QStringList list;
         for (const ScannedName &name : scan.names) {
             list << name.text + ':';
-            for (int bit = 0; bit < 3; ++bit)
-                list.last() += name.uses & (1u << bit) ? QString("TUB"[bit]) : QString();
+            for (int bit = 0; bit < 4; ++bit)
+                list.last() += name.uses & (1u << bit) ? QString("TUBO"[bit]) : QString();
         }
         return list;
     }
@@ -60,6 +61,29 @@ private slots:
         const QTemporaryDir folder;
         writeTestFile(folder.filePath("file.h"), content);
         QTEST(shown(scanned({folder.path()})), "names");
+    }
+
+    void knowsNamesOfTheCompiler()
+    {
+        const QTemporaryDir folder;
+        writeTestFile(folder.filePath("arm-acme-cc"),
+                      "#!/bin/sh\nexec gcc '-DIN_SCRIPT' -D IN_WORD=1 x-Dnone -dD \"$@\"\n");
+        writeTestFile(folder.filePath("cc.cfg"), "/DIN_CFG,-Dlower=1\n");
+        writeTestFile(folder.filePath("cc.txt"), "-DNONE\n");
+        Compiler compiler;
+        compiler.command = QStringList {folder.filePath("arm-acme-cc"), "-mcpu=cortex-m4",
+                                        "--model-large", "-m51", "-I/none"};
+        QStringList names;
+        for (const ScannedName &name : namesOfCompiler(compiler, "Odd 3.1"))
+            names << name.text;
+        for (const char *name :
+             {"IN_SCRIPT", "IN_WORD", "IN_CFG", "lower", "__arm__", "_ACME", "__cortex_m4__",
+              "__CPU_CORTEX_M4", "__CC_MODEL_LARGE", "__ARM_51__", "__CC_Odd", "m51"})
+            QVERIFY2(names.contains(name), name);
+        for (const char *name : {"none", "NONE", "51", "M"})
+            QVERIFY2(!names.contains(name), name);
+        writeTestFile(folder.filePath("build.mk"), "CC = cc -DIN_MAKEFILE\n");
+        QVERIFY(shown(scanned({folder.path()})).contains("IN_MAKEFILE:O"));
     }
 
     void walksOverEverythingOnce()
