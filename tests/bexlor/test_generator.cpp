@@ -103,7 +103,8 @@ private slots:
                                             "Substitute headers: stand-ins\n"));
         workshop.checkBothTake("x.c", "gcc -include stdint.h -iquote quoted -x c -DMODE=c -std=c99",
                                {"-DFOO=1"});
-        workshop.write("y.c", "#include <time.h>\n#include <mine.h>\n"
+        workshop.write("y.c", "#include <limits.h>\n#include <time.h>\n#include <mine.h>\n"
+                              "char c[MB_LEN_MAX > 1 ? 1 : -1]; /* the C library's */\n"
                               "int f(void) { return from_mine + from_first + not_the_real_one; }\n"
                               "int FROM_TEMPLATE;\n");
         workshop.checkClangTakes("y.c");
