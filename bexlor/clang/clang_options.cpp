@@ -176,6 +176,9 @@ QList<QByteArray> languageOptions(const Facts &facts, bool isCpp)
             options << (findMacro(facts.macros, feature.macro) ? feature.options
                                                                : feature.opposite);
     }
+    // Those that the compiler does not have either it reports itself.
+    if (!facts.attributes.isEmpty())
+        options << "-Wno-unknown-attributes";
     return options + typeOptions(facts, target);
 }
 

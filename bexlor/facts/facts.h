@@ -83,6 +83,7 @@ struct Facts
     MacroFacts macros;
     TypeFacts types;
     QList<Keyword> keywords;
+    QList<QByteArray> attributes; ///< that it has and clang has not
     SearchPath searchPath;
 
     bool operator==(const Facts &) const = default;

@@ -27,6 +27,10 @@ QList<Keyword> learnKeywords(const Questions &questions, const QList<ScannedName
                              const MacroFacts &macros, const TypeFacts &types,
                              const QList<QByteArray> &settled = {});
 
+/// The attributes, of some that clang does not have, that the compiler takes without a message;
+/// none where it does not report unknown ones.
+QList<QByteArray> learnAttributes(const Questions &questions);
+
 /// Which directories with \a headers the compiler searches by itself, in its order.
 QStringList learnSearchPath(const Questions &questions, const QList<HeaderFile> &headers);
 

@@ -16,9 +16,9 @@ private slots:
         row("apart", "-I inc -isystem inc --preinclude odd",
             "-I $/inc -isystem $/inc "
             "--preinclude $/odd");
-        row("behind a sign", "--sysroot=inc -fi=odd -specs odd",
+        row("behind a sign", "--sysroot=inc -fi=odd --sysroot inc",
             "--sysroot=$/inc -fi=$/odd "
-            "-specs $/odd");
+            "--sysroot $/inc");
         row("no file", "-Inowhere -O2", "-Inowhere -O2");
         row("absolute", "-I/usr /usr", "-I/usr /usr");
         row("what looks like a path", "-DX=odd -D odd -Uodd /Dodd --define=odd -x odd -mtune=odd",

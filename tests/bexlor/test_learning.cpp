@@ -161,6 +161,26 @@ private slots:
             QVERIFY2(!forms.contains(other.toLatin1()), qPrintable(other));
     }
 
+    void findsAttributes_data()
+    {
+        const Columns<QStringList, QList<QByteArray>, bool> row("command", "some", "all");
+        row("of a processor", {"avr-gcc"}, {"OS_main", "externally_visible", "progmem"}, false);
+        row("clang's own are not asked for", {"clang"}, {}, true);
+        row("unknown ones are not reported", {"tcc"}, {}, true);
+    }
+    void findsAttributes()
+    {
+        QFETCH(QStringList, command);
+        QFETCH(QList<QByteArray>, some);
+        QFETCH(bool, all);
+        const Subject subject(command);
+        const QList<QByteArray> found = learnAttributes(subject.questions);
+        for (const QByteArray &name : some)
+            QVERIFY2(found.contains(name), found.join(' '));
+        QVERIFY2(!all || found == some, found.join(' '));
+        QVERIFY(!found.contains("noinit"));
+    }
+
     void findsTheSearchPath_data()
     {
         const Columns<QStringList> row("command");
