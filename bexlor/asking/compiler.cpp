@@ -107,7 +107,7 @@ QStringList probeCommand(const Compiler &compiler, const QString &source, const 
 
 QString commandLine(const QStringList &command)
 {
-    static const QRegularExpression special(u"[\\s&|<>^()\"]"_s);
+    static const QRegularExpression special(u"[\\s&|<>^()\"']"_s);
     static const QRegularExpression beforeQuote(u"(\\\\*)\""_s);
     static const QRegularExpression atEnd(u"(\\\\+)$"_s);
     QStringList words = command;

@@ -32,7 +32,7 @@ enum class CompileTo { Object, Program };
 QStringList probeCommand(const Compiler &compiler, const QString &source, const QString &output,
                          CompileTo goal = CompileTo::Object);
 
-/// \a command as one line that a command interpreter takes, words with spaces or with characters
-/// that it would find something in, in double quotes, and quotes and the backslashes before them
-/// behind backslashes.
+/// \a command as one line that a command interpreter takes, and splitCommand() as well: words with
+/// spaces or with characters that these would find something in, in double quotes, and quotes and
+/// the backslashes before them behind backslashes.
 QString commandLine(const QStringList &command);

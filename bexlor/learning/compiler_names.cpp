@@ -87,6 +87,25 @@ QStringList formedNames(const QStringList &words, const QStringList &programWord
     return names;
 }
 
+/// The names that \a compiler's own command defines, behind its define flag or those that most
+/// compilers take, in the same word or in the next.
+QStringList definedNames(const Compiler &compiler)
+{
+    static const QRegularExpression name(u"^[A-Za-z_]\\w*"_s);
+    QStringList names;
+    for (qsizetype i = 1; i < compiler.command.size(); ++i) {
+        for (const QString &flag : {compiler.layout.defineFlag, u"-D"_s, u"/D"_s}) {
+            const QString &word = compiler.command[i];
+            const QString define =
+                word == flag ? compiler.command.value(i + 1) : word.mid(flag.size());
+            const QString defined = name.match(define).captured();
+            if (!flag.isEmpty() && word.startsWith(flag) && !defined.isEmpty())
+                names << defined;
+        }
+    }
+    return names;
+}
+
 /// The program that \a command starts and the configuration files in its folders.
 QStringList programFiles(const QStringList &command)
 {
@@ -115,7 +134,8 @@ QList<ScannedName> namesOfCompiler(const Compiler &compiler, const QByteArray &v
     programWords.removeAll(QString());
     programWords.removeDuplicates();
     QList<ScannedName> names = scanProgramFiles(programFiles(compiler.command));
-    for (const QString &name : formedNames(wordsOf(compiler, versionLine), programWords))
-        names.append({name.toLatin1(), InBinary});
+    for (const QString &name :
+         definedNames(compiler) + formedNames(wordsOf(compiler, versionLine), programWords))
+        names.append({name.toLatin1(), DefinedByOption});
     return names;
 }

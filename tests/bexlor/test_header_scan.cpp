@@ -71,14 +71,20 @@ private slots:
         writeTestFile(folder.filePath("cc.cfg"), "/DIN_CFG,-Dlower=1\n");
         writeTestFile(folder.filePath("cc.txt"), "-DNONE\n");
         Compiler compiler;
-        compiler.command = QStringList {folder.filePath("arm-acme-cc"), "-mcpu=cortex-m4",
-                                        "--model-large", "-m51", "-I/none"};
+        compiler.command = QStringList {folder.filePath("arm-acme-cc"),
+                                        "-mcpu=cortex-m4",
+                                        "--model-large",
+                                        "-m51",
+                                        "-I/none",
+                                        "-DIN_COMMAND=none",
+                                        "/D",
+                                        "IN_NEXT"};
         QStringList names;
         for (const ScannedName &name : namesOfCompiler(compiler, "Odd 3.1"))
             names << name.text;
-        for (const char *name :
-             {"IN_SCRIPT", "IN_WORD", "IN_CFG", "lower", "__arm__", "_ACME", "__cortex_m4__",
-              "__CPU_CORTEX_M4", "__CC_MODEL_LARGE", "__ARM_51__", "__CC_Odd", "m51"})
+        for (const char *name : {"IN_COMMAND", "IN_NEXT", "IN_SCRIPT", "IN_WORD", "IN_CFG", "lower",
+                                 "__arm__", "_ACME", "__cortex_m4__", "__CPU_CORTEX_M4",
+                                 "__CC_MODEL_LARGE", "__ARM_51__", "__CC_Odd", "m51"})
             QVERIFY2(names.contains(name), name);
         for (const char *name : {"none", "NONE", "51", "M"})
             QVERIFY2(!names.contains(name), name);
