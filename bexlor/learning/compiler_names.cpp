@@ -51,8 +51,9 @@ QString programName(const Compiler &compiler)
 QStringList wordsOf(const Compiler &compiler, const QByteArray &versionLine)
 {
     QStringList words = withWords(programName(compiler));
+    static const QRegularExpression pathOrDefine(u"^[-/]D|.[/\\\\]"_s);
     for (const QString &option : compiler.command.mid(1)) {
-        if (!QDir::fromNativeSeparators(option).mid(1).contains(u'/'))
+        if (!option.contains(pathOrDefine))
             words << wordsOfOption(option);
     }
     words << withWords(QString::fromLocal8Bit(versionLine)).mid(1);
