@@ -40,6 +40,7 @@ Personality fullPersonality()
                       {"__c", Keyword::TypeName, "unsigned long int"},
                       {"__d", Keyword::TypeName, {}},
                       {"__e", Keyword::Undetermined, {}}};
+    facts.leniencies = {"return-type", "implicit-int"};
     facts.searchPath = {{"/a b", "/c"}, {"/q"}};
     return composePersonality(arguments, facts, {"-include", "x.h", "-imacros", "y z.h"},
                               "-DFROM_TEMPLATE=1\n# Language\n#: keyword __f qualifier");
