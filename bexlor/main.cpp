@@ -54,6 +54,7 @@ std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const A
     facts.types = measureTypes(progress, questions);
     facts.keywords = findKeywords(progress, questions, scan, facts);
     facts.attributes = learnAttributes(questions);
+    facts.leniencies = findLeniencies(progress, questions);
     facts.searchPath = findSearchPath(progress, questions, listed.searchPath, scan);
     const bool lacksSearchPath =
         facts.searchPath.directories.isEmpty() && includesStandardHeaders(questions);

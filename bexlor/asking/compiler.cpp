@@ -109,7 +109,7 @@ QString commandLine(const QStringList &command)
 {
     static const QRegularExpression special(u"[\\s&|<>^()\"']"_s);
     static const QRegularExpression beforeQuote(u"(\\\\*)\""_s);
-    static const QRegularExpression atEnd(u"(\\\\+)$"_s);
+    static const QRegularExpression atEnd(u"(\\\\+)\\z"_s);
     QStringList words = command;
     for (QString &word : words) {
         if (!word.isEmpty() && !word.contains(special))

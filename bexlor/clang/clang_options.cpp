@@ -179,6 +179,8 @@ QList<QByteArray> languageOptions(const Facts &facts, bool isCpp)
     // Those that the compiler does not have either it reports itself.
     if (!facts.attributes.isEmpty())
         options << "-Wno-unknown-attributes";
+    for (const QByteArray &warning : facts.leniencies)
+        options << "-Wno-error=" + warning;
     return options + typeOptions(facts, target);
 }
 

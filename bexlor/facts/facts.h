@@ -84,6 +84,7 @@ struct Facts
     TypeFacts types;
     QList<Keyword> keywords;
     QList<QByteArray> attributes; ///< that it has and clang has not
+    QList<QByteArray> leniencies; ///< what it accepts: clang's warnings that clang makes errors of
     SearchPath searchPath;
 
     bool operator==(const Facts &) const = default;

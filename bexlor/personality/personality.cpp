@@ -286,6 +286,7 @@ void visitFacts(Visitor &visitor, Visited &personality)
     visitor.each("search-path", facts.searchPath.directories);
     visitor.each("keyword", facts.keywords);
     visitor.each("attribute", facts.attributes);
+    visitor.each("accepts", facts.leniencies);
     visitor.each("macro", facts.macros.undetermined, " undetermined");
 }
 

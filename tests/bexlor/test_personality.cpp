@@ -44,6 +44,7 @@ Personality fullPersonality()
                       {"__g", Keyword::AssemblerBlock, "__h"},
                       {"_Bool", Keyword::OrdinaryName, {}}};
     facts.attributes = {"h", "i"};
+    facts.leniencies = {"return-type", "implicit-int"};
     facts.searchPath = {{"/a b", "/c"}, {"/q"}};
     return composePersonality(arguments, facts, {"-include", "x.h", "-imacros", "y z.h"},
                               "-DFROM_TEMPLATE=1\n# Language\n#: keyword __f qualifier");
