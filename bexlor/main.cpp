@@ -71,7 +71,7 @@ std::optional<QByteArray> makePersonality(Progress &progress, const Arguments &a
     const std::optional<Facts> facts = learn(progress, compiler, *usable, folder, logFolder);
     if (!facts)
         return {};
-    return textOfPersonality(*usable, compiler, *facts);
+    return textOfPersonality(progress, *usable, compiler, *facts);
 }
 
 ExitStatus generate(Progress &progress, const Arguments &arguments, const QString &folder)

@@ -9,9 +9,19 @@
 /// known of either.
 QByteArray clangTarget(const Facts &facts);
 
+/// What becomes of those options of a compiler that change the language, or how types are laid out.
+struct PassedOptions
+{
+    QList<QByteArray> forClang; ///< one or two words each, with a space between them
+    QStringList lacking;        ///< of the compiler, that clang has nothing like
+};
+
+/// What becomes of the options of \a command, a program and its options.
+PassedOptions passedOptions(const QStringList &command, bool isCpp);
+
 /// The options that make clang's language and types those of a compiler: its target, the language
-/// version, the features and the types that a target does not settle.
-QList<QByteArray> languageOptions(const Facts &facts, bool isCpp);
+/// version, the features, those that are \a passed on, and the types that a target does not settle.
+QList<QByteArray> languageOptions(const Facts &facts, const QList<QByteArray> &passed, bool isCpp);
 
 /// The macros that clang defines even under -undef.
 QList<QByteArray> macrosOfClang();

@@ -154,7 +154,7 @@ const QList<QByteArray> alwaysDefined {
 
 } // namespace
 
-QList<QByteArray> languageOptions(const Facts &facts, bool isCpp)
+QList<QByteArray> languageOptions(const Facts &facts, const QList<QByteArray> &passed, bool isCpp)
 {
     QList<QByteArray> options;
     const QByteArray target = clangTarget(facts);
@@ -176,7 +176,12 @@ QList<QByteArray> languageOptions(const Facts &facts, bool isCpp)
             options << (findMacro(facts.macros, feature.macro) ? feature.options
                                                                : feature.opposite);
     }
-    return options + typeOptions(facts, target);
+    // What has been measured comes last, so that it counts.
+    for (const QByteArray &option : passed + typeOptions(facts, target)) {
+        options.removeAll(option);
+        options << option;
+    }
+    return options;
 }
 
 QList<QByteArray> macrosOfClang()

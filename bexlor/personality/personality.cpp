@@ -268,6 +268,7 @@ void visitFacts(Visitor &visitor, Visited &personality)
     visitor.one("command", personality.command);
     visitor.each("switch", personality.switches);
     visitor.one("answers", personality.answers);
+    visitor.each("option", personality.lacking);
     visitor.one("version", facts.versionLine);
     visitor.each("type", facts.types.basic);
     visitor.one("char", facts.types.charIsUnsigned);

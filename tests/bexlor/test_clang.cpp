@@ -27,6 +27,21 @@ TypeFacts types(const QList<int> &sizes)
     return types;
 }
 
+/// What clang says against \a code with \a options.
+QByteArray clangAnswer(const QList<QByteArray> &options, bool isCpp, const QByteArray &code,
+                       const QString &program = "clang")
+{
+    const QTemporaryDir folder;
+    const QString source = folder.filePath(isCpp ? "x.cpp" : "x.c");
+    writeTestFile(source, code);
+    QStringList command {program, source, "-fsyntax-only", "-nostdlibinc",
+                         "-Werror=incompatible-library-redeclaration"};
+    for (const QByteArray &option : options)
+        command << option;
+    const platform::ProgramRun clang = platform::runProgram(command, folder.path(), 60'000);
+    return clang.succeeded() ? QByteArray() : clang.errors + "failed";
+}
+
 } // namespace
 
 class TestClang : public QObject
@@ -68,6 +83,62 @@ private slots:
         facts.types = types(sizes);
         facts.types.byteOrder = order;
         QTEST(clangTarget(facts), "target");
+    }
+
+    void passesOptionsOn_data()
+    {
+        const Columns<QString, bool, QByteArray> row("options", "isCpp", "code");
+        row("trigraphs", "-trigraphs", false,
+            "int a?"
+            "?(2?"
+            "?);");
+        row("Microsoft's trigraphs", "/Zc:trigraphs", false,
+            "int a?"
+            "?(2?"
+            "?);");
+        row("no asm", "-fno-asm", false, "int asm; int typeof;");
+        row("unnamed members", "-fplan9-extensions", false,
+            "struct a { int b; }; struct c { struct a; } d; int *e = &d.b;");
+        row("float constants", "-fsingle-precision-constant", false,
+            "char a[sizeof(1.0) == 4 ? 1 : -1];");
+        row("packed", "-fpack-struct", false,
+            "struct { char a; int b; } c; char d[sizeof c == 5 ? 1 : -1];");
+        row("packed, the last counts", "-fpack-struct=1 /Zp2 -fcond-mismatch", false,
+            "struct { char a; int b; } c; char d[sizeof c == 6 ? 1 : -1];");
+        row("bit-fields", "-mms-bitfields", false,
+            "struct { char a : 4; int b : 4; } c; char d[sizeof c == 8 ? 1 : -1];");
+        row("aligned", "-malign-double", false,
+            "struct { char a; double b; } c; char d[sizeof c == 16 ? 1 : -1];");
+        row("a function of that name", "-ffreestanding -fno-builtin-printf", false,
+            "char *printf(void);\n#if __STDC_HOSTED__\n#error\n#endif");
+        row("old inline", "-fgnu89-inline", false, "#ifndef __GNUC_GNU_INLINE__\n#error\n#endif");
+        row("wchar_t of a header", "/Zc:wchar_t-", true, "typedef short wchar_t;");
+        row("words for operators", "-fno-operator-names -fno-access-control", true,
+            "class a { int and; } b; int c = b.and;");
+    }
+    void passesOptionsOn()
+    {
+        QFETCH(QString, options);
+        QFETCH(bool, isCpp);
+        QFETCH(QByteArray, code);
+        const auto takes = [&](const QStringList &words) {
+            QList<QByteArray> forClang {"--target=i386-unknown-none-elf"};
+            for (const QByteArray &option : passedOptions(words, isCpp).forClang)
+                forClang << option.split(' ');
+            return clangAnswer(forClang, isCpp, code).isEmpty();
+        };
+        QVERIFY(!takes({"cc"}));
+        QVERIFY(takes(("cc " + options).split(' ')));
+    }
+
+    void namesOptionsThatClangLacks()
+    {
+        const PassedOptions options = passedOptions(
+            {"-fgimple", "-fgnu89-inline", "-Wall", "-finput-charset=utf-8", "-fexec-charset=x y",
+             "-fpack-struct=1 -fplugin=x", "-fcond-mismatch", "-fcond-mismatch"},
+            true);
+        QCOMPARE(options.lacking, QStringList({"-fexec-charset=x y", "-fcond-mismatch"}));
+        QCOMPARE(options.forClang, QList<QByteArray>());
     }
 
     void takesTheSameCode_data()
@@ -134,16 +205,11 @@ private slots:
         QFETCH(Facts, facts);
         QFETCH(bool, isCpp);
         QFETCH(QByteArray, code);
-        const QTemporaryDir folder;
-        const QString source = folder.filePath(isCpp ? "x.cpp" : "x.c");
-        writeTestFile(source, code);
-        QStringList command {"clang", source, "-fsyntax-only", "-nostdlibinc"};
-        for (const QByteArray &option : languageOptions(facts, isCpp))
-            command << option;
+        QList<QByteArray> options = languageOptions(facts, {}, isCpp);
         for (const Macro &macro : keywordDefinitions(facts))
-            command << "-D" + macro.name + '=' + macro.value;
-        const platform::ProgramRun clang = platform::runProgram(command, folder.path(), 60'000);
-        QVERIFY2(clang.succeeded(), clang.errors);
+            options << "-D" + macro.name + '=' + macro.value;
+        const QByteArray answer = clangAnswer(options, isCpp, code);
+        QVERIFY2(answer.isEmpty(), answer);
     }
 };
 

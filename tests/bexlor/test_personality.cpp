@@ -41,7 +41,9 @@ Personality fullPersonality()
                       {"__d", Keyword::TypeName, {}},
                       {"__e", Keyword::Undetermined, {}}};
     facts.searchPath = {{"/a b", "/c"}, {"/q"}};
-    return composePersonality(arguments, facts, {"-include", "x.h", "-imacros", "y z.h"},
+    const CommandParts parts {
+        {"cc", "-fcond-mismatch", "/Zc:wchar_t-"}, {}, {"-include", "x.h", "-imacros", "y z.h"}};
+    return composePersonality(arguments, facts, parts,
                               "-DFROM_TEMPLATE=1\n# Language\n#: keyword __f qualifier");
 }
 
@@ -57,6 +59,8 @@ private slots:
         const Personality full = fullPersonality();
         QVERIFY(full.keywordDefinitions.size() == 3 && full.includedFirst.size() == 3);
         QCOMPARE(full.searchPath.size(), 6);
+        QCOMPARE(full.lacking, QStringList {"-fcond-mismatch"});
+        QVERIFY(full.language.contains(Option {"-Xclang", "-fno-wchar"}));
         QCOMPARE(full.includedFirst.first(), Option({"-include", "/first \"one\".h"}));
         Personality bare;
         Personality little = full;
@@ -137,13 +141,18 @@ private slots:
         arguments.headerDirectories = QStringList {at("searched"), at("user"), at("empty")};
         Facts facts;
         facts.searchPath = {{at("own"), at("intrinsics"), at("searched")}, {at("quoted")}};
+        CommandParts parts;
         const auto shown = [&] {
             QStringList lines;
-            for (const Option &option : composePersonality(arguments, facts, {}, {}).searchPath)
+            for (const Option &option : composePersonality(arguments, facts, parts, {}).searchPath)
                 lines << option.join(' ');
             return lines.join('\n').replace(at(""), "");
         };
         QCOMPARE(shown(), "-nostdlibinc\n-isystem stand-in\n-iquote quoted\n-isystem own\n"
+                          "-idirafter intrinsics\n-idirafter searched\n-idirafter user");
+        // What the command names by -I, but for what the compiler has kept in its own path.
+        parts.includeDirectories = QStringList {at("user"), at("own"), at("searched")};
+        QCOMPARE(shown(), "-nostdlibinc\n-I stand-in\n-iquote quoted\n-I own\n"
                           "-idirafter intrinsics\n-idirafter searched\n-idirafter user");
         facts.macros.known = {{"__clang__", "1"}};
         QVERIFY(shown().startsWith("-nostdinc\n") && shown().contains("-isystem intrinsics"));
