@@ -154,7 +154,7 @@ QString help()
   -op PERSONALITY   the file to write
   -xd DEFINES       NAME or NAME=VALUE, separated by commas
   -xs SWITCHES      added to the command, separated by commas
-  -tpl FILE         of options that come first
+  -tpl FILE         of options that override what is learned
   -fi FILE          that is included before every source
   -sub DIRECTORY    of headers that take the place of the compiler's
   -rfs              for a compiler with small buffers

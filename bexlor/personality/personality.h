@@ -17,7 +17,7 @@ struct Personality
     CommandLine answers;  ///< by which it has been generated
     QStringList lacking;  ///< options of the compiler that clang has nothing like
     Facts facts;
-    QByteArray templateText; ///< options that come before all others, in whole lines
+    QByteArray templateText; ///< options that override those of the compiler, in whole lines
     QList<Option> language;
     QList<Option> keywordDefinitions; ///< under which clang reads the keywords that it lacks
     QList<Option> searchPath;

@@ -44,7 +44,7 @@ Personality fullPersonality()
     const CommandParts parts {
         {"cc", "-fcond-mismatch", "/Zc:wchar_t-"}, {}, {"-include", "x.h", "-imacros", "y z.h"}};
     return composePersonality(arguments, facts, parts,
-                              "-DFROM_TEMPLATE=1\n# Language\n#: keyword __f qualifier");
+                              "-DFROM_TEMPLATE=1\n# Search path\n#: keyword __f qualifier");
 }
 
 } // namespace
@@ -109,20 +109,26 @@ private slots:
         for (const char *value : {"a \"b\\\" c\"", "'x' \\", "# no comment", "$HOME `id` %PATH%",
                                   "@file", "((char)-1)", "", "-include x"})
             words << QString("-DM%1=%2").arg(words.size()).arg(value);
-        words << "-DF(a,b)=a \"q\" b";
+        words << "-DF(a,b)=a \"q\" b"
+              << "-DOVERRIDDEN=1";
         Facts facts;
         facts.macros.known = macrosIn(platform::runProgram(words, folder.path(), 60'000).output);
         QVERIFY(facts.macros.known.size() > 200);
+        writeTestFile(folder.filePath("first/x.h"), "#define X 1\n");
+        writeTestFile(folder.filePath("own/x.h"), "#error\n");
+        facts.searchPath.directories = QStringList {folder.filePath("own")};
+        const QByteArray overriding = "-UOVERRIDDEN\n-DOVERRIDDEN=2\n-isystem "
+                                    + folder.filePath("first").toLocal8Bit() + "\n-include x.h";
         const QString path = folder.filePath("odd \"name\".p_c");
-        writeTestFile(path,
-                      personalityText(composePersonality(arguments, facts, {}, "-DTEMPLATE=1")));
+        writeTestFile(path, personalityText(composePersonality(arguments, facts, {}, overriding)));
         const platform::ProgramRun seen = platform::runProgram(
             {"clang", "--config", path, "-dM", "-E", source}, folder.path(), 60'000);
         QCOMPARE(seen.errors, QByteArray());
         QList<Macro> macros = macrosIn(seen.output);
         const QList<Macro> added = keywordDefinitions(facts);
         macros.removeIf([&added](const Macro &macro) { return added.contains(macro); });
-        facts.macros.known << Macro {"TEMPLATE", "1"};
+        facts.macros.known.removeOne(Macro {"OVERRIDDEN", "1"});
+        facts.macros.known << Macro {"OVERRIDDEN", "2"} << Macro {"X", "1"};
         QCOMPARE(sorted(macros), sorted(facts.macros.known));
     }
 
