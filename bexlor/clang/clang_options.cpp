@@ -1,5 +1,7 @@
 #include "clang.h"
 
+#include "target_layouts.h"
+
 #include <QFileInfo>
 #include <algorithm>
 #include <cctype>
@@ -127,11 +129,10 @@ QList<QByteArray> typeOptions(const Facts &facts, const QByteArray &target)
         options << "-fsigned-char";
     if (types.smallEnumSize != 0 && types.smallEnumSize < sizeOf(types, "int"))
         options << "-fshort-enums";
+    else if (types.smallEnumSize != 0 && target.startsWith("hexagon-"))
+        options << "-fno-short-enums";
     if (types.wideCharacterType == "unsigned short")
         options << "-fshort-wchar";
-    const bool isX86 = target.startsWith("x86_64-") || target.startsWith("i386-");
-    if (isX86 && sizeOf(types, "long double") == 8)
-        options << "-mlong-double-64";
     const auto isFixedPoint = [](const Keyword &keyword) { return keyword.name == "_Accum"; };
     if (std::any_of(facts.keywords.begin(), facts.keywords.end(), isFixedPoint))
         options << "-ffixed-point";
@@ -152,21 +153,33 @@ const QList<QByteArray> alwaysDefined {
     "__cplusplus",
 };
 
+// What the headers of GNU compilers make wchar_t of. An array of it can only be initialised with
+// clang's own wide literals if it has their type.
+const QByteArray wideCharacterMacro = "__WCHAR_TYPE__";
+
+/// Whether wchar_t has the same size and sign in both.
+bool hasLikeWideCharacter(const TypeFacts &types, const TypeFacts &others)
+{
+    const QByteArray &name = types.wideCharacterType, &other = others.wideCharacterType;
+    return sizeOfLike(types, name) == sizeOfLike(others, other)
+        && name.startsWith("unsigned ") == other.startsWith("unsigned ");
+}
+
 } // namespace
 
-QList<QByteArray> languageOptions(const Facts &facts, const QList<QByteArray> &passed, bool isCpp)
+Language languageOf(const Facts &facts, const QList<QByteArray> &passed, bool isCpp)
 {
     QList<QByteArray> options;
-    const QByteArray target = clangTarget(facts);
-    if (!target.isEmpty())
-        options << "--target=" + target;
-    if (target.startsWith("arm"))
+    const TargetChoice target = chooseTarget(facts, passed);
+    if (!target.name.isEmpty())
+        options << "--target=" + target.name;
+    if (target.name.startsWith("arm"))
         options << armOptions(facts.macros);
     for (const Feature &feature : instructions)
         options << (findMacro(facts.macros, feature.macro) ? feature.options : feature.opposite);
     // Without these clang warns, though it is not to link, that it cannot; and it does so before it
     // reads in a file that it should not. The processor is the one that avr-gcc assumes.
-    if (target.startsWith("avr-"))
+    if (target.name.startsWith("avr-"))
         options << "-nostdlib"
                 << "-mmcu=avr2";
     options << (isCpp ? standardOption(facts.macros, "__cplusplus", cppStandards, "c++", "gnu++")
@@ -177,11 +190,21 @@ QList<QByteArray> languageOptions(const Facts &facts, const QList<QByteArray> &p
                                                                : feature.opposite);
     }
     // What has been measured comes last, so that it counts.
-    for (const QByteArray &option : passed + typeOptions(facts, target)) {
+    for (const QByteArray &option : passed + target.options + typeOptions(facts, target.name)) {
         options.removeAll(option);
         options << option;
     }
-    return options;
+    const TypeFacts ofClang = typesOfTarget(target.name, options);
+    TypeFacts differing = differingTypes(facts.types, ofClang);
+    QList<Macro> definitions;
+    if (!differing.wideCharacterType.isEmpty() && hasLikeWideCharacter(facts.types, ofClang)) {
+        // In C++ it is a type of its own, of which no more is known.
+        if (isCpp)
+            differing.wideCharacterType.clear();
+        else if (findMacro(facts.macros, wideCharacterMacro))
+            definitions << Macro {wideCharacterMacro, ofClang.wideCharacterType};
+    }
+    return {options, definitions, differing};
 }
 
 QList<QByteArray> macrosOfClang()

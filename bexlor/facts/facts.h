@@ -89,6 +89,9 @@ const Macro *findMacro(const MacroFacts &macros, const QByteArray &name);
 /// The bytes of the basic type \a name; 0 if not known.
 int sizeOf(const TypeFacts &types, const QByteArray &name);
 
+/// The bytes of a type that is \a name, a basic one, or like it with another sign; 0 if not known.
+int sizeOfLike(const TypeFacts &types, QByteArray name);
+
 /// The first of the basic types with that size and kind; empty when there is none.
 QByteArray typeLike(const TypeFacts &types, int size, bool isFloating, bool isUnsigned);
 

@@ -72,11 +72,13 @@ Personality composePersonality(const Arguments &arguments, const Facts &facts,
                                const CommandParts &parts, const QByteArray &templateText)
 {
     const PassedOptions passed = passedOptions(parts.command, arguments.isCpp);
+    const Language language = languageOf(facts, passed.forClang, arguments.isCpp);
     Personality personality {arguments.command,
                              arguments.switches,
                              arguments.answers,
                              passed.lacking,
                              facts,
+                             language.differingTypes,
                              templateText,
                              {},
                              {},
@@ -91,9 +93,11 @@ Personality composePersonality(const Arguments &arguments, const Facts &facts,
             macros.undetermined << macro.name;
     }
     macros.known.removeIf([](const Macro &macro) { return !fitsOnLine(macro); });
-    for (const QByteArray &option : languageOptions(facts, passed.forClang, arguments.isCpp))
+    for (const QByteArray &option : language.options)
         personality.language << option.split(' ');
-    for (const Macro &macro : keywordDefinitions(facts))
+    for (const Macro &macro : language.redefinitions)
+        personality.keywordDefinitions.append({"-U" + macro.name});
+    for (const Macro &macro : keywordDefinitions(facts) + language.redefinitions)
         personality.keywordDefinitions.append({"-D" + macro.name + '=' + macro.value});
     personality.searchPath = searchOptions(arguments, facts, parts.includeDirectories);
     if (!arguments.forceIncludeFile.isEmpty())

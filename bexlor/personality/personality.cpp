@@ -164,17 +164,17 @@ struct FactWriter
     QByteArray text;
 
     template <typename Value>
-    void one(const char *word, const Value &value)
+    void one(const QByteArray &word, const Value &value)
     {
         if (value != Value())
-            text += QByteArray("#: ") + word + ' ' + written(value) + '\n';
+            text += "#: " + word + ' ' + written(value) + '\n';
     }
 
     template <typename Value>
-    void each(const char *word, const QList<Value> &values, const char *end = "")
+    void each(const QByteArray &word, const QList<Value> &values, const char *end = "")
     {
         for (const Value &value : values)
-            text += QByteArray("#: ") + word + ' ' + written(value) + end + '\n';
+            text += "#: " + word + ' ' + written(value) + end + '\n';
     }
 };
 
@@ -183,23 +183,23 @@ struct FactReader
 {
     QByteArray line;
 
-    std::optional<QByteArray> behind(const char *word, const char *end = "") const
+    std::optional<QByteArray> behind(const QByteArray &word, const char *end = "") const
     {
-        const QByteArray start = QByteArray("#: ") + word + ' ';
+        const QByteArray start = "#: " + word + ' ';
         if (!line.startsWith(start) || !line.endsWith(end))
             return {};
         return line.sliced(start.size()).chopped(qsizetype(std::strlen(end)));
     }
 
     template <typename Value>
-    void one(const char *word, Value &value) const
+    void one(const QByteArray &word, Value &value) const
     {
         if (const std::optional<QByteArray> text = behind(word))
             read(*text, value);
     }
 
     template <typename Value>
-    void each(const char *word, QList<Value> &values, const char *end = "") const
+    void each(const QByteArray &word, QList<Value> &values, const char *end = "") const
     {
         if (const std::optional<QByteArray> text = behind(word, end))
             read(*text, values.emplaceBack());
@@ -244,14 +244,14 @@ struct FactCollector
     QJsonObject facts;
 
     template <typename Value>
-    void one(const char *word, const Value &value)
+    void one(const QByteArray &word, const Value &value)
     {
         if (value != Value())
             facts[QLatin1StringView(word)] = asJson(value);
     }
 
     template <typename Value>
-    void each(const char *word, const QList<Value> &values, const char * = "")
+    void each(const QByteArray &word, const QList<Value> &values, const char * = "")
     {
         QJsonArray list;
         for (const Value &value : values)
@@ -259,6 +259,19 @@ struct FactCollector
         facts[QLatin1StringView(word)] = list;
     }
 };
+
+/// Takes \a visitor, see visitFacts(), through facts about types, whose words begin with \a prefix.
+template <typename Visitor, typename Types>
+void visitTypes(Visitor &visitor, Types &types, const QByteArray &prefix)
+{
+    visitor.each(prefix + "type", types.basic);
+    visitor.one(prefix + "char", types.charIsUnsigned);
+    visitor.one(prefix + "byte-order", types.byteOrder);
+    visitor.one(prefix + "small-enum", types.smallEnumSize);
+    visitor.one(prefix + "size_t", types.sizeType);
+    visitor.one(prefix + "ptrdiff_t", types.pointerDifferenceType);
+    visitor.one(prefix + "wchar_t", types.wideCharacterType);
+}
 
 /// Takes \a visitor, which writes, reads or collects, through the facts that no option carries.
 template <typename Visitor, typename Visited>
@@ -270,13 +283,8 @@ void visitFacts(Visitor &visitor, Visited &personality)
     visitor.one("answers", personality.answers);
     visitor.each("option", personality.lacking);
     visitor.one("version", facts.versionLine);
-    visitor.each("type", facts.types.basic);
-    visitor.one("char", facts.types.charIsUnsigned);
-    visitor.one("byte-order", facts.types.byteOrder);
-    visitor.one("small-enum", facts.types.smallEnumSize);
-    visitor.one("size_t", facts.types.sizeType);
-    visitor.one("ptrdiff_t", facts.types.pointerDifferenceType);
-    visitor.one("wchar_t", facts.types.wideCharacterType);
+    visitTypes(visitor, facts.types, "");
+    visitTypes(visitor, personality.typesOfClang, "clang-");
     visitor.each("quoted-search-path", facts.searchPath.forQuotedNames);
     visitor.each("search-path", facts.searchPath.directories);
     visitor.each("keyword", facts.keywords);

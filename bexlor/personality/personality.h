@@ -17,6 +17,7 @@ struct Personality
     CommandLine answers;  ///< by which it has been generated
     QStringList lacking;  ///< options of the compiler that clang has nothing like
     Facts facts;
+    TypeFacts typesOfClang;  ///< of clang with this personality, where they are not the compiler's
     QByteArray templateText; ///< options that override those of the compiler, in whole lines
     QList<Option> language;
     QList<Option> keywordDefinitions; ///< under which clang reads the keywords that it lacks

@@ -332,6 +332,8 @@ QByteArray textOfPersonality(Progress &progress, const Arguments &arguments,
     const Personality personality = composePersonality(arguments, facts, parts, templateText);
     for (const QString &option : personality.lacking)
         progress.say(u"Clang has no option like the compiler's %1."_s.arg(visibleText(option)));
+    for (const QString &line : differenceSentences(facts.types, personality.typesOfClang))
+        progress.say(line);
     return personalityText(personality);
 }
 

@@ -60,6 +60,8 @@ private slots:
         QVERIFY(full.keywordDefinitions.size() == 3 && full.includedFirst.size() == 3);
         QCOMPARE(full.searchPath.size(), 6);
         QCOMPARE(full.lacking, QStringList {"-fcond-mismatch"});
+        QVERIFY(!full.typesOfClang.basic.isEmpty()
+                && !full.typesOfClang.pointerDifferenceType.isEmpty());
         QVERIFY(full.language.contains(Option {"-Xclang", "-fno-wchar"}));
         QCOMPARE(full.includedFirst.first(), Option({"-include", "/first \"one\".h"}));
         Personality bare;
