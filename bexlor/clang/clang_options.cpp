@@ -165,46 +165,66 @@ bool hasLikeWideCharacter(const TypeFacts &types, const TypeFacts &others)
         && name.startsWith("unsigned ") == other.startsWith("unsigned ");
 }
 
+/// Options for the processor of \a target.
+QList<QByteArray> processorOptions(const MacroFacts &macros, const QByteArray &target)
+{
+    QList<QByteArray> options;
+    if (target.startsWith("arm"))
+        options << armOptions(macros);
+    for (const Feature &feature : instructions)
+        options << (findMacro(macros, feature.macro) ? feature.options : feature.opposite);
+    // Without these clang warns, though it is not to link, that it cannot; and it does so before it
+    // reads in a file that it should not. The processor is the one that avr-gcc assumes.
+    if (target.startsWith("avr-"))
+        options << "-nostdlib"
+                << "-mmcu=avr2";
+    return options;
+}
+
+/// Options for the version of the language and its features.
+QList<QByteArray> versionOptions(const MacroFacts &macros, bool isCpp)
+{
+    if (!isCpp)
+        return standardOption(macros, "__STDC_VERSION__", cStandards, "c", "gnu");
+    QList<QByteArray> options = standardOption(macros, "__cplusplus", cppStandards, "c++", "gnu++");
+    for (const Feature &feature : cppFeatures)
+        options << (findMacro(macros, feature.macro) ? feature.options : feature.opposite);
+    return options;
+}
+
+/// Settles what \a language says of wchar_t, if that is like the one of clang, \a ofClang.
+void settleWideCharacter(const Facts &facts, const TypeFacts &ofClang, bool isCpp,
+                         Language &language)
+{
+    QByteArray &differing = language.differingTypes.wideCharacterType;
+    if (differing.isEmpty() || !hasLikeWideCharacter(facts.types, ofClang))
+        return;
+    // In C++ it is a type of its own, of which no more is known.
+    if (isCpp)
+        differing.clear();
+    else if (findMacro(facts.macros, wideCharacterMacro))
+        language.redefinitions << Macro {wideCharacterMacro, differing};
+}
+
 } // namespace
 
 Language languageOf(const Facts &facts, const QList<QByteArray> &passed, bool isCpp)
 {
-    QList<QByteArray> options;
+    Language language;
+    QList<QByteArray> &options = language.options;
     const TargetChoice target = chooseTarget(facts, passed);
     if (!target.name.isEmpty())
         options << "--target=" + target.name;
-    if (target.name.startsWith("arm"))
-        options << armOptions(facts.macros);
-    for (const Feature &feature : instructions)
-        options << (findMacro(facts.macros, feature.macro) ? feature.options : feature.opposite);
-    // Without these clang warns, though it is not to link, that it cannot; and it does so before it
-    // reads in a file that it should not. The processor is the one that avr-gcc assumes.
-    if (target.name.startsWith("avr-"))
-        options << "-nostdlib"
-                << "-mmcu=avr2";
-    options << (isCpp ? standardOption(facts.macros, "__cplusplus", cppStandards, "c++", "gnu++")
-                      : standardOption(facts.macros, "__STDC_VERSION__", cStandards, "c", "gnu"));
-    if (isCpp) {
-        for (const Feature &feature : cppFeatures)
-            options << (findMacro(facts.macros, feature.macro) ? feature.options
-                                                               : feature.opposite);
-    }
+    options << processorOptions(facts.macros, target.name) << versionOptions(facts.macros, isCpp);
     // What has been measured comes last, so that it counts.
     for (const QByteArray &option : passed + target.options + typeOptions(facts, target.name)) {
         options.removeAll(option);
         options << option;
     }
     const TypeFacts ofClang = typesOfTarget(target.name, options);
-    TypeFacts differing = differingTypes(facts.types, ofClang);
-    QList<Macro> definitions;
-    if (!differing.wideCharacterType.isEmpty() && hasLikeWideCharacter(facts.types, ofClang)) {
-        // In C++ it is a type of its own, of which no more is known.
-        if (isCpp)
-            differing.wideCharacterType.clear();
-        else if (findMacro(facts.macros, wideCharacterMacro))
-            definitions << Macro {wideCharacterMacro, ofClang.wideCharacterType};
-    }
-    return {options, definitions, differing};
+    language.differingTypes = differingTypes(facts.types, ofClang);
+    settleWideCharacter(facts, ofClang, isCpp, language);
+    return language;
 }
 
 QList<QByteArray> macrosOfClang()

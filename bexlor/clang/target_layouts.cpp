@@ -174,7 +174,7 @@ TypeFacts typesOf(const Row &row, const Layout &layout)
         types.basic.append({typeNames[i], layout[i].size, layout[i].alignment});
     types.basic.append({"void (*)(void)", layout[Pointer].size, layout[Pointer].alignment});
     types.sizeType = row.sizeType;
-    types.pointerDifferenceType = types.sizeType.mid(qstrlen("unsigned "));
+    types.pointerDifferenceType = types.sizeType.split(' ').mid(1).join(' ');
     types.wideCharacterType = row.wideCharacterType;
     types.smallEnumSize = row.hasShortEnums ? 1 : layout[Int].size;
     types.byteOrder = row.byteOrder;
