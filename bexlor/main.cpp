@@ -81,7 +81,8 @@ ExitStatus generate(Progress &progress, const Arguments &arguments, const QStrin
     if (!text || !writePersonality(progress, arguments.personality, *text))
         return ExitStatus::Failed;
     checkHeaders(progress, arguments, *text, folder);
-    return ExitStatus::Done;
+    return arguments.checksTypes ? checkTypes(progress, arguments, *text, folder)
+                                 : ExitStatus::Done;
 }
 
 /// Says what has changed since a personality was written.
