@@ -50,7 +50,7 @@ const PassedOption passedOptionTable[] = {
     {u"/openmp(:.+)?"_s, u"-fopenmp"_s},
     // Clang takes -fpermissive without obeying it, and reads and writes UTF-8 alone.
     {u"-fcond-mismatch|-fgnu-tm|-fgimple|-fsso-struct=.+|-fpermissive|-fconcepts(-ts)?|"
-     "-fcoroutines|-fimplicit-constexpr|-fno-enforce-eh-specs|-fno-ext-numeric-literals|"
+     "-fcoroutines|-fimplicit-constexpr|-fno-ext-numeric-literals|"
      "-fnew-ttp-matching|-fno-for-scope|-traditional(-cpp)?|-f(unsigned|no-signed)-bitfields|"
      "--unsigned_bitfields|-mstructure-size-boundary=.+|[-/]vm[gbsmv]|/G[rvz]|"
      "(-f(input|exec|wide-exec)-charset=|/(source|execution)-charset:)(?!(?i)utf-?(8|32)).+"_s,

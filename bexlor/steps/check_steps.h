@@ -24,8 +24,8 @@ ExitStatus checkWithPersonality(Progress &progress, const CheckRequest &request,
 void checkHeaders(Progress &progress, const Arguments &arguments, const QByteArray &text,
                   const QString &folder);
 
-/// Writes the types of the personality that has just been written, \a text, as assertions beside it,
-/// and says in one line whether the compiler and clang accept them.
+/// Writes the types of the personality that has just been written, \a text, as assertions beside
+/// it, and says in one line whether the compiler and clang accept them.
 ExitStatus checkTypes(Progress &progress, const Arguments &arguments, const QByteArray &text,
                       const QString &folder);
 
