@@ -221,6 +221,9 @@ Language languageOf(const Facts &facts, const QList<QByteArray> &passed, bool is
         options.removeAll(option);
         options << option;
     }
+    // Otherwise a long double in a structure, which Microsoft has not got, is an error.
+    if (options.contains("-mms-bitfields"))
+        options << "-Wno-incompatible-ms-struct";
     const TypeFacts ofClang = typesOfTarget(target.name, options);
     language.differingTypes = differingTypes(facts.types, ofClang);
     settleWideCharacter(facts, ofClang, isCpp, language);

@@ -173,6 +173,7 @@ Misfit misfitOf(const TypeFacts &types, const TargetChoice &choice, const QList<
     for (const Type &type : differing.basic)
         ++(type.size == sizeOf(types, type.name) ? misfit.alignments : misfit.sizes);
     misfit.sizes += differing.byteOrder != ByteOrder::Unknown;
+    misfit.alignments += differing.bitFieldSize != 0;
     misfit.isPacked =
         std::any_of(choice.options.begin(), choice.options.end(),
                     [](const QByteArray &option) { return option.startsWith("-fpack-struct"); });
@@ -214,6 +215,7 @@ TypeFacts differingTypes(const TypeFacts &types, const TypeFacts &ofClang)
     };
     compare(&TypeFacts::byteOrder);
     compare(&TypeFacts::smallEnumSize);
+    compare(&TypeFacts::bitFieldSize);
     compare(&TypeFacts::sizeType);
     compare(&TypeFacts::pointerDifferenceType);
     compare(&TypeFacts::wideCharacterType);

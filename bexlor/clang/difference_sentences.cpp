@@ -49,6 +49,9 @@ QStringList differenceSentences(const TypeFacts &types, const TypeFacts &ofClang
     if (ofClang.smallEnumSize != 0)
         sentences << sentence({"a small enumeration", types.smallEnumSize},
                               {"a small enumeration", ofClang.smallEnumSize});
+    if (ofClang.bitFieldSize != 0)
+        sentences << sentence({"a structure of a char and a bit-field", types.bitFieldSize},
+                              {"a structure of a char and a bit-field", ofClang.bitFieldSize});
     if (ofClang.byteOrder != ByteOrder::Unknown) {
         sentences << u"For clang integers are %1, for the compiler %2."_s.arg(
             nameOf(ofClang.byteOrder), nameOf(types.byteOrder));

@@ -48,7 +48,8 @@ const struct Row
     ByteOrder byteOrder;
     const char *sizeType; ///< the type of differences of pointers is the same with a sign
     const char *wideCharacterType;
-    bool hasShortEnums = false; ///< without being told
+    bool hasShortEnums = false;    ///< without being told
+    bool hasFreeBitFields = false; ///< which do not align a structure
 } rows[] = {
     {"avr-unknown-unknown", "", avr, little, "unsigned int", "int"},
     {"msp430-unknown-none-elf", "", msp430, little, "unsigned int", "int"},
@@ -64,7 +65,7 @@ const struct Row
     {"riscv64-unknown-none-elf", "", lp64Quad, little, "unsigned long", "int"},
     {"aarch64-unknown-none-elf", "", lp64Quad, little, "unsigned long", "unsigned int"},
     {"aarch64_be-unknown-none-elf", "", lp64Quad, big, "unsigned long", "unsigned int"},
-    {"aarch64_32-apple-watchos", "", ilp32, little, "unsigned long", "int"},
+    {"aarch64_32-apple-watchos", "", ilp32, little, "unsigned long", "int", false, true},
     {"aarch64-w64-windows-gnu", "windows", llp64, little, "unsigned long long", "unsigned short"},
     {"arm-w64-windows-gnu", "windows", ilp32, little, "unsigned int", "unsigned short"},
     {"i386-w64-windows-gnu", "windows", i386Windows, little, "unsigned int", "unsigned short"},
@@ -109,7 +110,8 @@ void pack(Layout &layout)
         type.alignment = std::min(type.alignment, Alignment);
 }
 
-/// An option that lays types out otherwise, and the starts of the targets that have it; none: all.
+/// An option that lays types out otherwise, and what is in the names of targets that have it; empty
+/// for all.
 const struct LayoutOption
 {
     const char *option;
@@ -135,6 +137,15 @@ const struct LayoutOption
      [](Layout &layout) {
          layout[Double] = layout[LongDouble] = {8, 1};
      }},
+    {"-mms-bitfields",
+     {},
+     [](Layout &layout) {
+         for (const TypeIndex type : {Short, Int, Long, LongLong, Float, Double, LongDouble}) {
+             if (layout[type].size != 12)
+                 layout[type].alignment = layout[type].size;
+         }
+     }},
+    {"-mno-ms-bitfields", {"-windows-"}, [](Layout &) {}}, // which is about nothing else
     {"-fpack-struct=8", {}, &pack<8>},
     {"-fpack-struct=4", {}, &pack<4>},
     {"-fpack-struct=2", {}, &pack<2>},
@@ -145,7 +156,23 @@ bool has(const LayoutOption &option, const QByteArray &target)
 {
     return option.targets.isEmpty()
         || std::any_of(option.targets.begin(), option.targets.end(),
-                       [&target](const QByteArray &start) { return target.startsWith(start); });
+                       [&target](const QByteArray &part) { return target.contains(part); });
+}
+
+/// Whether a bit-field begins an object of its type, as for Microsoft's compiler.
+bool hasOwnBitFields(const QByteArray &target, const QList<QByteArray> &options)
+{
+    const qsizetype own = options.lastIndexOf("-mms-bitfields");
+    const qsizetype shared = options.lastIndexOf("-mno-ms-bitfields");
+    return own == shared ? target.contains("-windows-") : own > shared;
+}
+
+/// The bytes of a structure of a char and a bit-field of int on the target of \a row.
+int bitFieldSize(const Row &row, const Extent &number, bool isOwn)
+{
+    if (isOwn)
+        return number.alignment + number.size;
+    return row.hasFreeBitFields ? 2 : std::max(2, number.alignment);
 }
 
 QByteArray architectureOf(const QByteArray &target)
@@ -212,6 +239,7 @@ TypeFacts typesOfTarget(const QByteArray &target, const QList<QByteArray> &optio
             option.change(layout);
     }
     TypeFacts types = typesOf(*row, layout);
+    types.bitFieldSize = bitFieldSize(*row, layout[Int], hasOwnBitFields(target, options));
     if (options.contains("-fshort-wchar"))
         types.wideCharacterType = "unsigned short";
     if (options.contains("-fshort-enums"))

@@ -91,6 +91,10 @@ QByteArray typeAssertions(const Facts &facts, bool isCpp)
         source += "enum calyx_enumeration { CALYX_SMALL };\n"
                 + sizeAssertion("enumeration", "enum calyx_enumeration", types.smallEnumSize);
     }
+    if (types.bitFieldSize != 0) {
+        source += "struct calyx_bit_field { char before; int member : 4; };\n"
+                + sizeAssertion("bit_field", "struct calyx_bit_field", types.bitFieldSize);
+    }
     source += byteOrderAssertion(facts);
     const QByteArray named = sameType("size_t", types.sizeType)
                            + sameType("ptrdiff_t", types.pointerDifferenceType)

@@ -41,6 +41,7 @@ struct TypeFacts
     QByteArray sizeType, pointerDifferenceType, wideCharacterType; ///< names of basic types
     std::optional<bool> charIsUnsigned;
     int smallEnumSize = 0; ///< of an enumeration with small values, in bytes
+    int bitFieldSize = 0;  ///< of a structure of a char and a bit-field of int, in bytes
     ByteOrder byteOrder = ByteOrder::Unknown;
 
     bool operator==(const TypeFacts &) const = default;

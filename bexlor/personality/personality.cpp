@@ -268,6 +268,7 @@ void visitTypes(Visitor &visitor, Types &types, const QByteArray &prefix)
     visitor.one(prefix + "char", types.charIsUnsigned);
     visitor.one(prefix + "byte-order", types.byteOrder);
     visitor.one(prefix + "small-enum", types.smallEnumSize);
+    visitor.one(prefix + "bit-field", types.bitFieldSize);
     visitor.one(prefix + "size_t", types.sizeType);
     visitor.one(prefix + "ptrdiff_t", types.pointerDifferenceType);
     visitor.one(prefix + "wchar_t", types.wideCharacterType);

@@ -89,6 +89,7 @@ private slots:
         facts.types.wideCharacterType = "int";
         facts.types.charIsUnsigned = false;
         facts.types.smallEnumSize = 4;
+        facts.types.bitFieldSize = 4;
         facts.types.byteOrder = ByteOrder::LittleEndian;
         const auto isAccepted = [this, &facts](bool isCpp) {
             const char *file = isCpp ? "types.cpp" : "types.c";
@@ -109,6 +110,7 @@ private slots:
         QVERIFY(isRejected(facts.types.wideCharacterType, QByteArray("unsigned int")));
         QVERIFY(isRejected(facts.types.charIsUnsigned, true));
         QVERIFY(isRejected(facts.types.smallEnumSize, 1));
+        QVERIFY(isRejected(facts.types.bitFieldSize, 8));
         QVERIFY(isRejected(facts.types.byteOrder, ByteOrder::BigEndian));
     }
 

@@ -34,6 +34,7 @@ Personality fullPersonality()
     facts.types.wideCharacterType = "signed char";
     facts.types.charIsUnsigned = true;
     facts.types.smallEnumSize = 1;
+    facts.types.bitFieldSize = 7;
     facts.types.byteOrder = ByteOrder::BigEndian;
     facts.keywords = {{"__a", Keyword::Qualifier, {}},
                       {"__b", Keyword::QualifierWithArgument, {}},
