@@ -224,6 +224,8 @@ Language languageOf(const Facts &facts, const QList<QByteArray> &passed, bool is
     // Otherwise a long double in a structure, which Microsoft has not got, is an error.
     if (options.contains("-mms-bitfields"))
         options << "-Wno-incompatible-ms-struct";
+    for (const QByteArray &warning : facts.leniencies)
+        options << "-Wno-error=" + warning;
     const TypeFacts ofClang = typesOfTarget(target.name, options);
     language.differingTypes = differingTypes(facts.types, ofClang);
     settleWideCharacter(facts, ofClang, isCpp, language);

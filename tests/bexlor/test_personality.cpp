@@ -41,6 +41,7 @@ Personality fullPersonality()
                       {"__c", Keyword::TypeName, "unsigned long int"},
                       {"__d", Keyword::TypeName, {}},
                       {"__e", Keyword::Undetermined, {}}};
+    facts.leniencies = {"return-type", "implicit-int"};
     facts.searchPath = {{"/a b", "/c"}, {"/q"}};
     const CommandParts parts {
         {"cc", "-fcond-mismatch", "/Zc:wchar_t-"}, {}, {"-include", "x.h", "-imacros", "y z.h"}};
@@ -157,12 +158,15 @@ private slots:
                 lines << option.join(' ');
             return lines.join('\n').replace(at(""), "");
         };
-        QCOMPARE(shown(), "-nostdlibinc\n-isystem stand-in\n-iquote quoted\n-isystem own\n"
-                          "-idirafter intrinsics\n-idirafter searched\n-idirafter user");
+        QCOMPARE(
+            shown(),
+            "-nostdlibinc\n-D_GCC_NEXT_LIMITS_H=\n-isystem stand-in\n-iquote quoted\n-isystem own\n"
+            "-idirafter intrinsics\n-idirafter searched\n-idirafter user");
         // What the command names by -I, but for what the compiler has kept in its own path.
         parts.includeDirectories = QStringList {at("user"), at("own"), at("searched")};
-        QCOMPARE(shown(), "-nostdlibinc\n-I stand-in\n-iquote quoted\n-I own\n"
-                          "-idirafter intrinsics\n-idirafter searched\n-idirafter user");
+        QCOMPARE(shown(),
+                 "-nostdlibinc\n-D_GCC_NEXT_LIMITS_H=\n-I stand-in\n-iquote quoted\n-I own\n"
+                 "-idirafter intrinsics\n-idirafter searched\n-idirafter user");
         facts.macros.known = {{"__clang__", "1"}};
         QVERIFY(shown().startsWith("-nostdinc\n") && shown().contains("-isystem intrinsics"));
     }
