@@ -31,8 +31,8 @@ QList<Keyword> learnKeywords(const Questions &questions, const QList<ScannedName
 /// none where it does not report unknown ones.
 QList<QByteArray> learnAttributes(const Questions &questions);
 
-/// What the compiler accepts though newer clang does not: the names of clang's warnings that are errors
-/// there.
+/// What the compiler accepts though newer clang does not: the names of clang's warnings that are
+/// errors there.
 QList<QByteArray> learnLeniencies(const Questions &questions);
 
 /// Which directories with \a headers the compiler searches by itself, in its order.
