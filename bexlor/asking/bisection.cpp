@@ -24,6 +24,21 @@ Batch itemsOn(const QSet<int> &lines, const QByteArray &prelude, const QList<QBy
     return named;
 }
 
+/// How many messages name lines of each item of \a batch.
+QList<int> messagesOf(const ProbeAnswer &answer, const QByteArray &prelude,
+                      const QList<QByteArray> &items, const Batch &batch)
+{
+    QList<int> counts;
+    int line = int(prelude.count('\n')) + 1;
+    for (const int index : batch) {
+        int count = 0;
+        for (const int end = line + int(items[index].count('\n')); line < end; ++line)
+            count += answer.messageCounts.value(line);
+        counts << count;
+    }
+    return counts;
+}
+
 Batch without(const Batch &batch, const Batch &taken)
 {
     Batch rest;
@@ -229,4 +244,27 @@ std::optional<QList<bool>> itemsWithoutMessage(const AskProbes &ask, const QByte
         open = next;
     }
     return isSilent;
+}
+
+std::optional<QList<bool>> itemsWithFewerMessages(const AskProbes &ask, const QByteArray &prelude,
+                                                  const QList<QByteArray> &items,
+                                                  const QList<QByteArray> &others,
+                                                  ProbeLimits limits)
+{
+    const int control = int(items.size()) - 1;
+    QList<bool> hasFewer(items.size(), false);
+    for (Batch &batch : batchesOf(items, prelude.size(), limits)) {
+        if (!batch.contains(control))
+            batch << control;
+        const QList<ProbeAnswer> answers =
+            ask({prelude + joinedItems(items, batch), prelude + joinedItems(others, batch)});
+        const QList<int> counts = messagesOf(answers[0], prelude, items, batch);
+        const QList<int> otherCounts = messagesOf(answers[1], prelude, others, batch);
+        for (qsizetype i = 0; i < batch.size(); ++i)
+            hasFewer[batch[i]] = counts[i] < otherCounts[i];
+        if (!hasFewer[control])
+            return {};
+    }
+    hasFewer.removeLast();
+    return hasFewer;
 }

@@ -64,6 +64,14 @@ QStringList ProbeRunner::command(CompileTo goal) const
     return probeCommand(m_compiler, probeName(m_compiler.isCpp), output, goal);
 }
 
+ProbeAnswer ProbeRunner::tryWithoutObjectName()
+{
+    m_compiler.namesObjects = false;
+    const ProbeAnswer answer = ask(acceptedProbe);
+    m_compiler.namesObjects = !answer.compiled();
+    return answer;
+}
+
 bool ProbeRunner::learnControls(const ProbeAnswer &accepted)
 {
     const auto ask = [this](const QByteArray &source) {
@@ -170,7 +178,8 @@ ProbeAnswer ProbeRunner::askIn(const QString &folder, const QByteArray &source,
     ++m_started;
     answer.run = platform::runProgram(command(goal), folder, timeLimit());
     const QByteArray messages = answer.run.errors + '\n' + answer.run.output;
-    answer.allLines = namedLines(messages, name.toLatin1());
+    answer.messageCounts = messagesOnLines(messages, name.toLatin1());
+    answer.allLines = QSet<int>(answer.messageCounts.keyBegin(), answer.messageCounts.keyEnd());
     answer.lines = namedLines(messages, name.toLatin1(), true);
     if (answer.lines.isEmpty())
         answer.lines = answer.allLines;

@@ -12,6 +12,10 @@ public:
     /// \a folder is where the probes are put; it must exist.
     ProbeRunner(const Compiler &compiler, const QString &folder, bool smallProbes);
 
+    /// Compiles the accepted probe without a name for its object, and does so from then on if it
+    /// compiles. For compilers that refuse such a name and leave the object under the usual one.
+    ProbeAnswer tryWithoutObjectName();
+
     /// Learns from control probes what the compiler's answers are worth; from then on an answer
     /// that is unlike them is not taken for one. \a accepted is that to the accepted probe. False
     /// when the compiler does not answer twice alike.

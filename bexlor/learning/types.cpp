@@ -79,16 +79,24 @@ void learnNamedTypes(const Questions &questions, TypeFacts &types)
 ByteOrder byteOrder(const Questions &questions)
 {
     // 16 bits are the least that every compiler's short has. Read as characters they begin and end
-    // the mark of a text in either order.
-    const QByteArray bytes =
-        questions
-            .eachAlone({"extern const unsigned short calyx_order[];\n"
-                        "const unsigned short calyx_order[] = {0x4361, 0x6c79, 0x7842, 0x6f75};\n"})
-            .first()
-            .bytes;
-    if (bytes.contains("aCylBxuo"))
-        return ByteOrder::LittleEndian;
-    return bytes.contains("CalyxBou") ? ByteOrder::BigEndian : ByteOrder::Unknown;
+    // the mark of a text in either order. A compiler that knows no constants keeps the last one.
+    const QByteArray start = "unsigned short calyx_order[]";
+    const QByteArray list = " = {0x4361, 0x6c79, 0x7842, 0x6f75};\n";
+    for (const QByteArray &source :
+         {"extern const " + start + ";\nconst " + start + list, start + list}) {
+        const QByteArray bytes = questions.eachAlone({source}).first().bytes;
+        if (bytes.contains("aCylBxuo"))
+            return ByteOrder::LittleEndian;
+        if (bytes.contains("CalyxBou"))
+            return ByteOrder::BigEndian;
+    }
+    // Those that many compilers define for this, according to the manuals of GCC and clang.
+    const QList<bool> isDefined = questions.conditions(
+        {"defined __ORDER_LITTLE_ENDIAN__ && __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__",
+         "defined __ORDER_BIG_ENDIAN__ && __BYTE_ORDER__ == __ORDER_BIG_ENDIAN__"});
+    if (isDefined[0] == isDefined[1])
+        return ByteOrder::Unknown;
+    return isDefined[0] ? ByteOrder::LittleEndian : ByteOrder::BigEndian;
 }
 
 /// Whether char has no sign: by its value or, where that cannot be read back, by the type that the

@@ -17,7 +17,7 @@ void removeLogs();
 std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arguments);
 
 /// What the compiler says to a probe that any compiler accepts. Leaves the logs in \a logFolder.
-std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner,
+std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, ProbeRunner &runner,
                                              const QString &logFolder);
 
 /// Whether the answers of \a runner's compiler, \a first being that to the first probe, can be
