@@ -14,6 +14,10 @@ namespace {
 
 const int usualTimeLimit = 60'000; // milliseconds for one compilation
 
+// Of messages, in bytes. Errors behind it would be overlooked, and a compiler may remark on every
+// line of the largest probe several times.
+const qsizetype mostMessages = 64'000'000;
+
 // Behind that many answers that another try has mended, a compiler is taken for one that does not
 // work twice at a time.
 const int mostMended = 3;
@@ -176,7 +180,7 @@ ProbeAnswer ProbeRunner::askIn(const QString &folder, const QByteArray &source,
     if (!answer.isAsked)
         return answer;
     ++m_started;
-    answer.run = platform::runProgram(command(goal), folder, timeLimit());
+    answer.run = platform::runProgram(command(goal), folder, timeLimit(), mostMessages);
     const QByteArray messages = answer.run.errors + '\n' + answer.run.output;
     answer.messageCounts = messagesOnLines(messages, name.toLatin1());
     answer.allLines = QSet<int>(answer.messageCounts.keyBegin(), answer.messageCounts.keyEnd());
