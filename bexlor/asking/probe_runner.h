@@ -45,11 +45,13 @@ private:
     ProbeAnswer askIn(const QString &folder, const QByteArray &source, CompileTo goal) const;
     ProbeAnswer askAgain(const ProbeAnswer &first, const QByteArray &source, CompileTo goal) const;
     bool isExpected(const ProbeAnswer &answer) const;
+    int errorsNamed() const;
     void liftErrorLimit();
+    void widenLimits();
 
     Compiler m_compiler;
     const QString m_folder;
-    const ProbeLimits m_limits;
+    ProbeLimits m_limits;
     Controls m_controls;
     bool m_knowsControls = false;
     mutable std::optional<ProbeAnswer> m_malfunction;

@@ -37,6 +37,8 @@ public:
     std::optional<QList<bool>> withFewerMessages(const QByteArray &prelude,
                                                  const QList<QByteArray> &items,
                                                  const QList<QByteArray> &others) const;
+    /// Whether a probe with several errors tells the first only.
+    bool stopsAtFirstError() const { return m_runner.controls().stopsAtFirstError; }
     /// Whether what is accepted draws no message.
     bool isQuiet() const { return m_runner.controls().isQuiet; }
 

@@ -5,7 +5,6 @@
 #include <QSet>
 #include <algorithm>
 #include <functional>
-#include <span>
 
 namespace {
 
@@ -16,32 +15,28 @@ struct Use
 {
     const char *line;
     Keyword::Form form;
+    bool isBehindFunction = false;
 };
 
+/// In the order in which they tell most, for compilers that are asked one after the other.
 const Use uses[] = {
     {"void %f(void) { extern char @ %; }", Keyword::Qualifier},
     {"void %f(void) { extern @ char %; }", Keyword::Qualifier},
-    {"void %f(void) { extern char * @ %; }", Keyword::Qualifier},
+    {"extern void %(void) @;", Keyword::Qualifier, true},
     {"void %f(void) { extern @ void %(void); }", Keyword::Qualifier},
+    {"void %f(void) { extern char * @ %; }", Keyword::Qualifier},
+    {"void %f(void) { extern @ %; }", Keyword::TypeName},
+    {"void %f(void) { extern @ *%; }", Keyword::TypeName},
     {"static @ char %(void) { return 0; }", Keyword::Qualifier},
     {"extern void @ %(int);", Keyword::Qualifier},
     {"void %f(void) { extern @(1) int %; }", Keyword::QualifierWithArgument},
     {"void %f(void) { extern int @(1) %; }", Keyword::QualifierWithArgument},
+    {"extern void %(void) @(1);", Keyword::QualifierWithArgument, true},
+    {"extern void %(void) @(a, b);", Keyword::QualifierWithArgument, true},
     {"void %f(void) { extern @((unused)) int %; }", Keyword::QualifierWithArgument},
     {"void %f(void) { extern @(dllimport) int %; }", Keyword::QualifierWithArgument},
     {"void %f(void) { extern @(a, b) int %; }", Keyword::QualifierWithArgument},
-    {"void %f(void) { extern @ %; }", Keyword::TypeName},
-    {"void %f(void) { extern @ *%; }", Keyword::TypeName},
-};
-
-/// Forms of what may stand behind a function. A compiler takes what is wrong there for the start of
-/// a definition in the old style and may go astray, so these are tried apart, and only for
-/// keywords that have no other form.
-const Use usesBehindFunctions[] = {
-    {"extern void %(void) @;", Keyword::Qualifier},
-    {"extern void %(void) @(1);", Keyword::QualifierWithArgument},
-    {"extern void %(void) @(a, b);", Keyword::QualifierWithArgument},
-    {"extern void %(void) @((noreturn));", Keyword::QualifierWithArgument},
+    {"extern void %(void) @((noreturn));", Keyword::QualifierWithArgument, true},
 };
 
 QSet<QByteArray> macroNames(const MacroFacts &macros)
@@ -115,31 +110,87 @@ QByteArray lineOf(const Use &use, const QByteArray &keyword, qsizetype number)
     return QByteArray(use.line).replace('@', keyword).replace('%', name) + '\n';
 }
 
-/// Tries the forms in \a tried with those of \a keywords that are not \a settled and for which
-/// there is none in \a forms yet, and adds those that the compiler accepts; \a isAlone for one in a
-/// probe.
-void addForms(const Questions &questions, const QList<QByteArray> &keywords,
-              std::span<const Use> tried, bool isApart, QList<QSet<int>> &forms,
-              const QList<QByteArray> &settled)
+/// Tries to use keywords, in few probes.
+class Trial
 {
-    QList<QByteArray> lines;
-    QList<std::pair<qsizetype, int>> asked; // keyword and form
-    for (qsizetype i = 0; i < keywords.size(); ++i) {
-        if (!forms[i].isEmpty() || settled.contains(keywords[i]))
-            continue;
-        for (const Use &use : tried) {
-            // An unknown name must not pass for a type.
-            if (use.form == Keyword::TypeName && !questions.rejects(ErrorKind::UnknownName))
-                continue;
-            lines << lineOf(use, keywords[i], lines.size());
-            asked << std::pair(i, int(use.form));
+public:
+    Trial(const Questions &questions, const QList<QByteArray> &keywords,
+          const QSet<QByteArray> &called, const QList<QByteArray> &settled)
+        : forms(keywords.size()), m_questions(questions), m_keywords(keywords), m_called(called),
+          m_settled(settled.begin(), settled.end())
+    { }
+
+    QList<QSet<int>> forms; ///< in which each keyword may be used
+
+    /// Tries all uses at once, but for those behind functions: a compiler takes what is wrong there
+    /// for the start of a definition in the old style and may go astray, so these are tried apart,
+    /// and only for keywords that have no other form.
+    void runAtOnce()
+    {
+        QList<Use> among, behind;
+        for (const Use &use : uses)
+            (use.isBehindFunction ? behind : among) << use;
+        tryUses(among);
+        for (qsizetype i = 0; i < m_keywords.size(); ++i) {
+            if (!forms[i].isEmpty())
+                m_settled << m_keywords[i];
         }
+        tryUses(behind);
     }
-    const QList<bool> isAccepted =
-        isApart ? questions.acceptedApart(lines) : questions.accepted({}, lines);
-    for (const auto &[keyword, form] : selected(asked, isAccepted))
-        forms[keyword] << form;
-}
+
+    /// Tries the uses one after the other, each only where it makes a difference: each one that is
+    /// rejected takes a probe.
+    void runInTurn()
+    {
+        for (const Use &use : uses)
+            tryUses({use});
+    }
+
+private:
+    /// Tries \a tried, all of which stand behind functions or none, with each keyword.
+    void tryUses(const QList<Use> &tried)
+    {
+        QList<QByteArray> lines;
+        QList<std::pair<qsizetype, int>> asked; // keyword and form
+        for (qsizetype i = 0; i < m_keywords.size(); ++i) {
+            for (const Use &use : tried) {
+                if (!isNeeded(use, i))
+                    continue;
+                lines << lineOf(use, m_keywords[i], lines.size());
+                asked << std::pair(i, int(use.form));
+            }
+        }
+        const QList<bool> isAccepted =
+            tried.first().isBehindFunction
+                ? m_questions.acceptedApart(lines)
+                : m_questions.accepted({}, lines, m_questions.stopsAtFirstError());
+        for (const auto &[keyword, form] : selected(asked, isAccepted))
+            forms[keyword] << form;
+    }
+
+    /// Whether it makes a difference to formOf() how \a use of a keyword is taken.
+    bool isNeeded(const Use &use, qsizetype keyword) const
+    {
+        const QSet<int> &known = forms[keyword];
+        if (known.contains(use.form))
+            return false;
+        if (use.isBehindFunction && m_settled.contains(m_keywords[keyword]))
+            return false;
+        // An unknown name must not pass for a type.
+        if (use.form == Keyword::TypeName && !m_questions.rejects(ErrorKind::UnknownName))
+            return false;
+        // Where types show all forms are weighed; see keepTypesApart().
+        if (known.isEmpty() || !m_questions.rejects(ErrorKind::ConflictingDeclaration))
+            return true;
+        return use.form == Keyword::QualifierWithArgument && known.contains(Keyword::Qualifier)
+            && m_called.contains(m_keywords[keyword]);
+    }
+
+    const Questions &m_questions;
+    const QList<QByteArray> &m_keywords;
+    const QSet<QByteArray> &m_called; ///< used in headers with a parenthesis behind it
+    QSet<QByteArray> m_settled;       ///< not tried behind functions
+};
 
 /// Leaves those of \a keywords that have a size alone, and none together with char, only the form
 /// of a type: a compiler that lets a name be declared again takes "char size_t x;" too.
@@ -206,16 +257,19 @@ QList<Keyword> learnKeywords(const Questions &questions, const QList<ScannedName
 {
     const QList<QByteArray> found =
         undeclarableNames(questions, candidates(names, questions.isCpp(), macros));
-    QList<QSet<int>> forms(found.size());
-    addForms(questions, found, uses, false, forms, {});
-    addForms(questions, found, usesBehindFunctions, true, forms, settled);
-    if (!questions.rejects(ErrorKind::ConflictingDeclaration))
-        keepTypesApart(questions, found, forms);
     QSet<QByteArray> called;
     for (const ScannedName &name : names) {
         if (name.uses & CalledInHeader)
             called << name.text;
     }
+    Trial trial(questions, found, called, settled);
+    if (questions.stopsAtFirstError())
+        trial.runInTurn();
+    else
+        trial.runAtOnce();
+    QList<QSet<int>> &forms = trial.forms;
+    if (!questions.rejects(ErrorKind::ConflictingDeclaration))
+        keepTypesApart(questions, found, forms);
     QList<Keyword> keywords;
     for (qsizetype i = 0; i < found.size(); ++i)
         keywords.append({found[i], formOf(forms[i], called.contains(found[i])), {}});
