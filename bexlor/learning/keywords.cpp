@@ -54,6 +54,14 @@ bool isReservedFunction(const QByteArray &name)
         || name.startsWith("__atomic_");
 }
 
+/// The order in which names are asked for: alphabetical, but what may begin an assembler's text
+/// comes last, since a compiler may take all that follows for it.
+bool isAskedBefore(const QByteArray &a, const QByteArray &b)
+{
+    const bool isAssembler = a.contains("asm");
+    return isAssembler == b.contains("asm") ? a < b : !isAssembler;
+}
+
 /// The names that may be keywords: those used in headers and the well-known ones.
 QList<QByteArray> candidates(const QList<ScannedName> &names, bool isCpp, const MacroFacts &macros)
 {
@@ -69,7 +77,7 @@ QList<QByteArray> candidates(const QList<ScannedName> &names, bool isCpp, const 
         if (!isMacro.contains(name) && !isStandardKeyword(name, isCpp) && !isSpecialName(name))
             sorted << name;
     }
-    std::sort(sorted.begin(), sorted.end());
+    std::sort(sorted.begin(), sorted.end(), &isAskedBefore);
     return sorted;
 }
 
@@ -100,7 +108,7 @@ QList<QByteArray> undeclarableNames(const Questions &questions, const QList<QByt
             types << name;
     }
     rejected << undeclarable(questions, "static int @ = 0;\n", types);
-    std::sort(rejected.begin(), rejected.end());
+    std::sort(rejected.begin(), rejected.end(), &isAskedBefore);
     return rejected;
 }
 
@@ -274,5 +282,7 @@ QList<Keyword> learnKeywords(const Questions &questions, const QList<ScannedName
     for (qsizetype i = 0; i < found.size(); ++i)
         keywords.append({found[i], formOf(forms[i], called.contains(found[i])), {}});
     measureTypes(questions, keywords, types);
+    std::sort(keywords.begin(), keywords.end(),
+              [](const Keyword &a, const Keyword &b) { return a.name < b.name; });
     return keywords;
 }

@@ -38,41 +38,56 @@ QList<Shape> shapesOf(const Questions &questions, const QByteArray &prelude,
     return shapes;
 }
 
-/// The integer type that the standard headers' \a name of \a shape stands for: an object can be
-/// declared again only with the same type. Empty when that is none of those with the same shape, or
-/// when the compiler does not mind and there are several of them.
-QByteArray typeBehind(const Questions &questions, const QByteArray &name, const Shape &shape,
-                      const QList<Shape> &shapesOfTypes)
+/// The integer types that the standard headers' \a names of \a shapes stand for: an object can be
+/// declared again only with the same type. Empty where that is none of those with the same shape,
+/// or when the compiler does not mind and there are several of them.
+QList<QByteArray> typesBehind(const Questions &questions, const QList<QByteArray> &names,
+                              const QList<Shape> &shapes, const QList<Shape> &shapesOfTypes)
 {
-    QList<QByteArray> types, declarations;
-    for (qsizetype i = 0; i < integerTypes.size(); ++i) {
-        const Shape &other = shapesOfTypes[i];
-        if (!shape.size || other.size != shape.size || other.isUnsigned != shape.isUnsigned)
-            continue;
-        const QByteArray object = " calyx_" + QByteArray::number(types.size()) + "; ";
-        types << integerTypes[i];
-        declarations << "extern " + name + object + "extern " + integerTypes[i] + object + '\n';
+    QList<std::pair<qsizetype, QByteArray>> pairs; // name and type
+    QList<QByteArray> declarations;
+    for (qsizetype name = 0; name < names.size(); ++name) {
+        for (qsizetype type = 0; type < integerTypes.size(); ++type) {
+            const Shape &one = shapes[name], &other = shapesOfTypes[type];
+            if (!one.size || other.size != one.size || other.isUnsigned != one.isUnsigned)
+                continue;
+            const QByteArray object = " calyx_" + QByteArray::number(pairs.size()) + "; ";
+            pairs << std::pair(name, integerTypes[type]);
+            declarations << "extern " + names[name] + object + "extern " + integerTypes[type]
+                                + object + '\n';
+        }
     }
-    if (!questions.rejects(ErrorKind::ConflictingDeclaration))
-        return types.size() == 1 ? types.first() : QByteArray();
-    const QList<QByteArray> same =
-        selected(types, questions.accepted("#include <stddef.h>\n", declarations));
-    return same.size() == 1 ? same.first() : QByteArray();
+    if (questions.rejects(ErrorKind::ConflictingDeclaration))
+        pairs = selected(pairs, questions.accepted("#include <stddef.h>\n", declarations));
+    QList<QByteArray> types;
+    for (qsizetype name = 0; name < names.size(); ++name) {
+        QList<QByteArray> same;
+        for (const auto &[index, type] : pairs) {
+            if (index == name)
+                same << type;
+        }
+        types << (same.size() == 1 ? same.first() : QByteArray());
+    }
+    return types;
 }
 
 /// The types behind the names of the standard headers. In C++ wchar_t is a type of its own.
 void learnNamedTypes(const Questions &questions, TypeFacts &types)
 {
-    const Shape wide =
-        shapesOf(questions, questions.isCpp() ? "" : "#include <stddef.h>\n", {"wchar_t"}).first();
-    const QList<Shape> named =
-        shapesOf(questions, "#include <stddef.h>\n", {"size_t", "ptrdiff_t"});
-    const QList<Shape> known = shapesOf(questions, {}, integerTypes);
-    types.sizeType = typeBehind(questions, "size_t", named[0], known);
-    types.pointerDifferenceType = typeBehind(questions, "ptrdiff_t", named[1], known);
+    QList<QByteArray> names {"size_t", "ptrdiff_t"};
     if (!questions.isCpp())
-        types.wideCharacterType = typeBehind(questions, "wchar_t", wide, known);
-    else if (wide.size && wide.isUnsigned)
+        names << "wchar_t";
+    const QList<QByteArray> behind =
+        typesBehind(questions, names, shapesOf(questions, "#include <stddef.h>\n", names),
+                    shapesOf(questions, {}, integerTypes));
+    types.sizeType = behind[0];
+    types.pointerDifferenceType = behind[1];
+    if (!questions.isCpp()) {
+        types.wideCharacterType = behind[2];
+        return;
+    }
+    const Shape wide = shapesOf(questions, {}, {"wchar_t"}).first();
+    if (wide.size && wide.isUnsigned)
         types.wideCharacterType = typeLike(types, *wide.size, false, *wide.isUnsigned);
 }
 
