@@ -111,7 +111,7 @@ void ProbeRunner::liftErrorLimit()
 {
     const int named = errorsNamed();
     m_controls.stopsAtFirstError = named < 2;
-    if (named == manyErrors)
+    if (named == manyErrors || m_controls.stopsAtFirstError)
         return;
     m_compiler.command << withoutErrorLimit;
     if (errorsNamed() != manyErrors)

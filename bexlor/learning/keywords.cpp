@@ -168,10 +168,11 @@ private:
                 asked << std::pair(i, int(use.form));
             }
         }
-        const QList<bool> isAccepted =
-            tried.first().isBehindFunction
-                ? m_questions.acceptedApart(lines)
-                : m_questions.accepted({}, lines, m_questions.stopsAtFirstError());
+        // What stops at its first error does not go astray behind it.
+        const bool stops = m_questions.stopsAtFirstError();
+        const QList<bool> isAccepted = tried.first().isBehindFunction && !stops
+                                         ? m_questions.acceptedApart(lines)
+                                         : m_questions.accepted({}, lines, stops);
         for (const auto &[keyword, form] : selected(asked, isAccepted))
             forms[keyword] << form;
     }

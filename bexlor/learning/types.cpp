@@ -71,15 +71,15 @@ QList<QByteArray> typesBehind(const Questions &questions, const QList<QByteArray
     return types;
 }
 
-/// The types behind the names of the standard headers. In C++ wchar_t is a type of its own.
-void learnNamedTypes(const Questions &questions, TypeFacts &types)
+/// The types behind the names of the standard headers, from the \a shapes of the integer types. In
+/// C++ wchar_t is a type of its own.
+void learnNamedTypes(const Questions &questions, const QList<Shape> &shapes, TypeFacts &types)
 {
     QList<QByteArray> names {"size_t", "ptrdiff_t"};
     if (!questions.isCpp())
         names << "wchar_t";
     const QList<QByteArray> behind =
-        typesBehind(questions, names, shapesOf(questions, "#include <stddef.h>\n", names),
-                    shapesOf(questions, {}, integerTypes));
+        typesBehind(questions, names, shapesOf(questions, "#include <stddef.h>\n", names), shapes);
     types.sizeType = behind[0];
     types.pointerDifferenceType = behind[1];
     if (!questions.isCpp()) {
@@ -114,11 +114,12 @@ ByteOrder byteOrder(const Questions &questions)
     return isDefined[0] ? ByteOrder::LittleEndian : ByteOrder::BigEndian;
 }
 
-/// Whether char has no sign: by its value or, where that cannot be read back, by the type that the
-/// compiler takes it for; some do, though it differs from both.
-std::optional<bool> charIsUnsigned(const Questions &questions)
+/// Whether char has no sign: by its value in \a shapes, those of the integer types, or, where that
+/// cannot be read back, by the type that the compiler takes it for; some do, though it differs from
+/// both.
+std::optional<bool> charIsUnsigned(const Questions &questions, const QList<Shape> &shapes)
 {
-    if (const auto isUnsigned = shapesOf(questions, {}, {"char"}).first().isUnsigned)
+    if (const auto isUnsigned = shapes[integerTypes.indexOf("char")].isUnsigned)
         return isUnsigned;
     if (!questions.rejects(ErrorKind::ConflictingDeclaration))
         return {};
@@ -181,12 +182,13 @@ TypeFacts learnTypes(const Questions &questions)
 {
     TypeFacts types;
     types.basic = measuredTypes(questions);
-    types.charIsUnsigned = charIsUnsigned(questions);
+    const QList<Shape> shapes = shapesOf(questions, {}, integerTypes);
+    types.charIsUnsigned = charIsUnsigned(questions, shapes);
     types.smallEnumSize =
         questions.numbers("enum calyx_enum { CALYX_A };\n", {"sizeof(enum calyx_enum)"})
             .first()
             .value_or(0);
     types.byteOrder = byteOrder(questions);
-    learnNamedTypes(questions, types);
+    learnNamedTypes(questions, shapes, types);
     return types;
 }
