@@ -37,9 +37,15 @@ std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const A
     const std::optional<ProbeAnswer> first = compileFirstProbe(progress, runner, logFolder);
     if (!first || !checkControls(progress, runner, *first))
         return {};
-    const DialectAnswers listed = askForListings(progress, compiler, *first, folder);
-    const HeaderScan scan = readDirectories(progress, arguments.headerDirectories);
+    DialectAnswers listed = askForListings(progress, compiler, *first, folder);
     const Questions questions = findHowToAsk(progress, runner);
+    QStringList directories = arguments.headerDirectories, programs;
+    if (directories.isEmpty() && listed.searchPath.directories.isEmpty()) {
+        directories = findDirectoriesBeside(progress, questions);
+        programs << compiler.command.value(0);
+        listed.searchPath.directories = directories;
+    }
+    const HeaderScan scan = readDirectories(progress, directories, programs);
     const std::optional<MacroFacts> macros =
         findMacros(progress, questions, listed.macros, scan.names, logFolder);
     if (!macros)

@@ -9,6 +9,7 @@ struct WalkedFile
 {
     std::filesystem::path path; ///< where it was seen, which may be a link
     bool isRead;                ///< not when another way to it has been found before
+    bool isProgram = false;     ///< even if it is a text
 
     bool operator<(const WalkedFile &other) const { return path < other.path; }
 };

@@ -2,6 +2,8 @@
 
 #include "directory_walk.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <algorithm>
 #include <cstring>
 #include <fstream>
@@ -281,7 +283,7 @@ void scanFiles(const std::vector<WalkedFile> &files, std::atomic<std::size_t> &n
         }
         const std::string_view text(content.data() + 1, content.size() - 2);
         Scanner scanner(text, scan.names);
-        if (isText(text)) {
+        if (isText(text) && !files[index].isProgram) {
             scan.texts.push_back(index);
             scanner.scanHeader();
         } else {
@@ -317,9 +319,31 @@ QList<ScannedName> sortedNames(const NameTable &table)
 
 } // namespace
 
-HeaderScan scanHeaders(const QStringList &directories, ScanProgress &progress)
+QList<HeaderFile> headersNear(const QStringList &directories)
 {
-    const DirectoryWalk walk = walkDirectories(directories, progress.found);
+    QStringList all = directories;
+    for (const QString &directory : directories) {
+        const QDir above(directory);
+        for (const QString &name : above.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+            all << above.filePath(name);
+    }
+    all.removeDuplicates();
+    QList<HeaderFile> headers;
+    for (const QString &directory : all) {
+        for (const QString &name : QDir(directory).entryList(QDir::Files))
+            headers.append({directory, name});
+    }
+    return headers;
+}
+
+HeaderScan scanHeaders(const QStringList &directories, ScanProgress &progress,
+                       const QStringList &programs)
+{
+    DirectoryWalk walk = walkDirectories(directories, progress.found);
+    for (const QString &program : programs) {
+        walk.files.push_back({QFileInfo(program).filesystemFilePath(), true, true});
+        ++progress.found;
+    }
     HeaderScan result;
     result.files = qint64(walk.files.size());
     result.remarks = walk.remarks;

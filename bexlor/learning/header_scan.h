@@ -43,7 +43,11 @@ struct ScanProgress
     std::atomic<qint64> read = 0;
 };
 
-/// Reads every regular file below \a directories once, counting them in \a progress. Of the names
-/// used in headers only those are kept that may be keywords: with a leading underscore, or of
-/// lower-case letters and not long.
-HeaderScan scanHeaders(const QStringList &directories, ScanProgress &progress);
+/// Reads every regular file below \a directories, and \a programs, once, counting them in
+/// \a progress. Of the names used in headers only those are kept that may be keywords: with a
+/// leading underscore, or of lower-case letters and not long.
+HeaderScan scanHeaders(const QStringList &directories, ScanProgress &progress,
+                       const QStringList &programs = {});
+
+/// The files in \a directories and in the folders right below them, unread.
+QList<HeaderFile> headersNear(const QStringList &directories);

@@ -1,5 +1,6 @@
 #include "steps.h"
 
+#include "beside_compiler.h"
 #include "clang.h"
 #include "generator_interface.h"
 #include "personality.h"
@@ -219,7 +220,23 @@ DialectAnswers askForListings(Progress &progress, const Compiler &compiler,
     return askInDialects(run, command, source, known);
 }
 
-HeaderScan readDirectories(Progress &progress, const QStringList &directories)
+QStringList findDirectoriesBeside(Progress &progress, const Questions &questions)
+{
+    const ProgressStep step(progress, u"Looking for headers beside the compiler ..."_s,
+                            probesOf(questions.runner()));
+    QStringList directories = directoriesBeside(questions.runner().compiler().command.value(0));
+    leaveOutOddDirectories(progress, directories);
+    const QStringList searched = learnSearchPath(questions, headersNear(directories));
+    if (searched.isEmpty())
+        progress.say(u"No directory has been named, and none that is searched lies beside it."_s);
+    else
+        progress.say(u"No directory has been named; these lie beside it and are searched: %1"_s.arg(
+            searched.join(u", "_s)));
+    return searched;
+}
+
+HeaderScan readDirectories(Progress &progress, const QStringList &directories,
+                           const QStringList &programs)
 {
     for (const QString &directory : directories) {
         if (isTooWide(directory)) {
@@ -227,11 +244,11 @@ HeaderScan readDirectories(Progress &progress, const QStringList &directories)
                 u"%1 is too wide for a search directory; reading it takes long."_s.arg(directory));
         }
     }
-    if (directories.isEmpty())
+    if (directories.isEmpty() && programs.isEmpty())
         return {};
     ScanProgress scanned;
     const ProgressStep step(progress, u"Reading the search directories ..."_s, filesOf(scanned));
-    const HeaderScan scan = scanHeaders(directories, scanned);
+    const HeaderScan scan = scanHeaders(directories, scanned, programs);
     for (const QString &remark : scan.remarks)
         progress.say(remark);
     progress.say(u"Found %1 in %2."_s.arg(counted(scan.names.size(), "name"_L1, "names"_L1),

@@ -29,8 +29,13 @@ bool checkControls(Progress &progress, ProbeRunner &runner, const ProbeAnswer &f
 DialectAnswers askForListings(Progress &progress, const Compiler &compiler,
                               const ProbeAnswer &first, const QString &folder);
 
-/// The names below the directories that the user has given.
-HeaderScan readDirectories(Progress &progress, const QStringList &directories);
+/// The directories that the compiler searches of those that lie beside its program, or that its
+/// file names. For a user who has named none.
+QStringList findDirectoriesBeside(Progress &progress, const Questions &questions);
+
+/// The names below \a directories, and in the files \a programs.
+HeaderScan readDirectories(Progress &progress, const QStringList &directories,
+                           const QStringList &programs = {});
 
 /// How \a runner's compiler answers larger questions.
 Questions findHowToAsk(Progress &progress, const ProbeRunner &runner);
