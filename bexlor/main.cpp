@@ -56,6 +56,7 @@ std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const A
     facts.macros = *macros;
     facts.types = measureTypes(progress, questions);
     facts.keywords = findKeywords(progress, questions, scan, facts);
+    facts.leniencies = findLeniencies(progress, questions);
     facts.searchPath = findSearchPath(progress, questions, listed.searchPath, scan);
     const bool lacksSearchPath =
         facts.searchPath.directories.isEmpty() && includesStandardHeaders(questions);

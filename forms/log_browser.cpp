@@ -6,6 +6,7 @@
 #include <QTemporaryFile>
 #include <QTextBlock>
 #include <QTextCursor>
+#include <QTextLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +24,7 @@ const int mostAtOnce = 1000;
 const int mostCharacters = 64'000'000;
 const int greatestHeight = 18'000'000;
 const int charactersLeft = 200'000;
+const int linesLeft = 20'000;
 
 // A longer text is kept in a file.
 const int longestInMemory = 1'000'000;
@@ -62,6 +64,20 @@ QString inParagraphs(const QString &text, const QString &last, bool joinsLines)
         }
     }
     return result;
+}
+
+/// The first of the paragraphs of \a document that are left when it holds too much.
+QTextBlock firstLeft(const QTextDocument &document)
+{
+    QTextBlock first = document.lastBlock();
+    int lines = first.layout()->lineCount();
+    for (QTextBlock block = first.previous(); block.isValid(); block = block.previous()) {
+        lines += block.layout()->lineCount();
+        if (lines > linesLeft || document.characterCount() - block.position() > charactersLeft)
+            break;
+        first = block;
+    }
+    return first;
 }
 
 bool writeAll(QIODevice &device, const QByteArray &bytes)
@@ -152,8 +168,7 @@ void LogBrowser::showEndOnly()
 {
     QTextCursor end(document());
     end.movePosition(QTextCursor::End);
-    const int firstShown = end.position() - charactersLeft;
-    end.setPosition(document()->findBlock(firstShown).position(), QTextCursor::KeepAnchor);
+    end.setPosition(firstLeft(*document()).position(), QTextCursor::KeepAnchor);
     m_hidden += end.selectionStart();
     const QString rest = end.selectedText();
     clear();

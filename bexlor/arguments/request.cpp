@@ -89,7 +89,7 @@ Request parseExport(ArgumentReader &reader)
             return reader.error();
     }
     if (format->needsOutput && request.output.isEmpty())
-        reader.expect(outputFlag);
+        return UsageError {u"%1 needs -o FILE, since it is two files."_s.arg(format->word)};
     if (format->needsDatabase && request.database.isEmpty())
         request.database = reader.wholePath(); // which is missing
     return whole(reader, request);

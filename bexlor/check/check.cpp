@@ -120,8 +120,9 @@ std::optional<Comparison> compare(const Checking &checking, const CheckedSource 
     if (own.isEmpty() || !clang.succeeded())
         return {};
     const QStringList ownHeaders = ownHeadersOf(checking.content);
-    return Comparison {
-        firstDifference({own, ownHeaders}, {clang.output, {checking.clang.headers}})};
+    // A header of clang's may include the compiler's of the same name.
+    return Comparison {firstDifference(
+        {own, ownHeaders}, {clang.output, QStringList {checking.clang.headers} + ownHeaders})};
 }
 
 /// Compares the code that both see in a source that both accept.

@@ -17,9 +17,11 @@ const char *const pragmasSetAside[] = {
     "GCC poison", "GCC warning", "GCC diagnostic",
 };
 
-// A declaration that a header of the C library leaves out behind the GNU compilers' <stdarg.h>, and
-// repeats behind clang's, which does not define the macro that it looks for.
-const char *const repeatedDeclaration[] = {"__gnuc_va_list", "va_list", ";"}; // behind "typedef"
+// Declarations behind "typedef" that a header of the C library leaves out behind the GNU compilers'
+// <stdarg.h> and <stddef.h>, and repeats behind clang's, which do not define the macros that it
+// looks for.
+const char *const repeatedDeclarations[][3] = {{"__gnuc_va_list", "va_list", ";"},
+                                               {"__size_t", "size_t", ";"}};
 
 const char *const literalPrefixes[] = {"L", "u", "U", "u8", "R", "LR", "uR", "UR", "u8R"};
 
@@ -89,16 +91,20 @@ QByteArrayView TokenStream::next()
     return token;
 }
 
-/// Passes what stands behind "typedef" if it is the declaration.
+/// Passes what stands behind "typedef" if it is one of the declarations.
 bool TokenStream::passRepeatedDeclaration()
 {
-    TokenStream ahead = *this;
-    for (const char *expected : repeatedDeclaration) {
-        if (ahead.takeToken() != expected)
-            return false;
+    for (const auto &declaration : repeatedDeclarations) {
+        TokenStream ahead = *this;
+        const bool isRepeated =
+            std::all_of(std::begin(declaration), std::end(declaration),
+                        [&ahead](const char *expected) { return ahead.takeToken() == expected; });
+        if (isRepeated) {
+            *this = ahead;
+            return true;
+        }
     }
-    *this = ahead;
-    return true;
+    return false;
 }
 
 QByteArrayView TokenStream::takeToken()

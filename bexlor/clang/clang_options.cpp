@@ -176,6 +176,8 @@ QList<QByteArray> languageOptions(const Facts &facts, bool isCpp)
             options << (findMacro(facts.macros, feature.macro) ? feature.options
                                                                : feature.opposite);
     }
+    for (const QByteArray &warning : facts.leniencies)
+        options << "-Wno-error=" + warning;
     return options + typeOptions(facts, target);
 }
 

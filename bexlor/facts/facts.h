@@ -78,6 +78,7 @@ struct Facts
     MacroFacts macros;
     TypeFacts types;
     QList<Keyword> keywords;
+    QList<QByteArray> leniencies; ///< what it accepts: clang's warnings that clang makes errors of
     SearchPath searchPath;
 
     bool operator==(const Facts &) const = default;

@@ -41,6 +41,10 @@ QList<Option> searchOptions(const Arguments &arguments, const Facts &facts)
         if (!searched.contains(QDir(directory).canonicalPath()) && hasHeaders(directory))
             options << pathOption("-idirafter", directory);
     }
+    // Clang's <limits.h> marks GCC's as included before it goes on to it, which passes on to the C
+    // library's only if this says that there is one.
+    if (usesClangsOwn)
+        options.prepend({"-D_GCC_NEXT_LIMITS_H="});
     options.prepend({usesClangsOwn ? "-nostdlibinc" : "-nostdinc"});
     return options;
 }

@@ -279,6 +279,7 @@ void visitFacts(Visitor &visitor, Visited &personality)
     visitor.each("quoted-search-path", facts.searchPath.forQuotedNames);
     visitor.each("search-path", facts.searchPath.directories);
     visitor.each("keyword", facts.keywords);
+    visitor.each("accepts", facts.leniencies);
     visitor.each("macro", facts.macros.undetermined, " undetermined");
 }
 

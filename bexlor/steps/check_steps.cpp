@@ -160,6 +160,8 @@ void checkHeaders(Progress &progress, const Arguments &arguments, const QByteArr
         checkSources(checking, sources,
                      [&verdicts](const Verdict &verdict) { verdicts << verdict; });
     }
+    if (verdicts.isEmpty())
+        progress.say(u"None of them was compiled within %1 seconds."_s.arg(headerTimeLimit / 1000));
     if (acceptedByCompiler(verdicts) == 0)
         return;
     progress.say(acceptanceSentence(clang->version, verdicts, u"headers"_s));

@@ -312,6 +312,13 @@ QList<Keyword> findKeywords(Progress &progress, const Questions &questions, cons
     return keywords;
 }
 
+QList<QByteArray> findLeniencies(Progress &progress, const Questions &questions)
+{
+    const ProgressStep step(progress, u"Looking for what newer clang would reject ..."_s,
+                            probesOf(questions.runner()));
+    return learnLeniencies(questions);
+}
+
 SearchPath findSearchPath(Progress &progress, const Questions &questions, const SearchPath &listed,
                           const HeaderScan &scan)
 {

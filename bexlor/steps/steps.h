@@ -51,6 +51,9 @@ TypeFacts measureTypes(Progress &progress, const Questions &questions);
 QList<Keyword> findKeywords(Progress &progress, const Questions &questions, const HeaderScan &scan,
                             const Facts &known);
 
+/// What the compiler accepts though newer clang does not; see learnLeniencies().
+QList<QByteArray> findLeniencies(Progress &progress, const Questions &questions);
+
 /// The search path: the one \a listed or, if it is empty, what can be found of it.
 SearchPath findSearchPath(Progress &progress, const Questions &questions, const SearchPath &listed,
                           const HeaderScan &scan);

@@ -49,7 +49,7 @@ private slots:
         row("unknown flag", {"again", "x", "--x"}, "Argument 3 .*: --x$");
         row("unknown format", {"export", "x", "xml"}, "Argument 3 .*: xml$");
         row("no database", {"export", "x", "compile-commands"}, "commands$");
-        row("no output", {"export", "x", "cppcheck"}, "last one: cppcheck$");
+        row("no output", {"export", "x", "cppcheck"}, "^cppcheck needs -o FILE");
         row("a database for nothing", {"export", "x", "json", "y"}, "4 .*: y$");
         row("no place for an entry", {"entry", "x"}, "last one: x$");
         row("more than a word", {"--help", "me"}, "Argument 2 .*: me$");

@@ -31,8 +31,9 @@ private slots:
         row("pragmas", "#pragma GCC system_header\n#pragma pack(1)\na",
             "#pragma pack(1)\n#pragma GCC diagnostic pop\na", "");
         row("a pragma for the compiler", "# 1 \"x.c\"\n#pragma pack(1)\na", "a", "x.c:1 # a");
-        row("a repeated declaration", "a typedef int va_list; b",
-            "a typedef __gnuc_va_list va_list; typedef int va_list; b", "");
+        row("repeated declarations", "a typedef int va_list; b",
+            "a typedef __gnuc_va_list va_list; typedef int va_list; typedef __size_t size_t; b",
+            "");
         row("headers of its own", "# 1 \"/own/stddef.h\" 1\na b\n# 2 \"x.c\" 2\nc",
             "# 1 \"/clang/stddef.h\" 1\nz\n# 2 \"x.c\" 2\nc", "");
     }
