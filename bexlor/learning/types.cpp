@@ -129,6 +129,19 @@ std::optional<bool> charIsUnsigned(const Questions &questions, const QList<Shape
     return isSame[0] != isSame[1] ? std::optional(isSame[0]) : std::nullopt;
 }
 
+/// The name of the structure whose only members are a character and a basic type.
+QByteArray structureOf(const QByteArray &type)
+{
+    return "struct calyx_" + QByteArray::number(basicTypes.indexOf(type)) + 's';
+}
+
+/// Rejected, with a \a name of its own, if \a expression is not \a value.
+QByteArray assertion(const QByteArray &name, const QByteArray &expression, int value)
+{
+    return "extern char calyx_" + name + "[1-2*(" + expression + "!=" + QByteArray::number(value)
+         + ")];\n";
+}
+
 /// Those of \a types of which the compiler knows the same as has been read back: it rejects an
 /// array of negative size.
 QList<Type> confirmed(const Questions &questions, const QByteArray &prelude,
@@ -139,8 +152,11 @@ QList<Type> confirmed(const Questions &questions, const QByteArray &prelude,
     QList<QByteArray> assertions;
     for (const Type &type : types) {
         const QByteArray number = QByteArray::number(assertions.size());
-        assertions << "extern char calyx_" + number + "a[1-2*(sizeof(" + type.name
-                          + ")!=" + QByteArray::number(type.size) + ")];\n";
+        const QByteArray size = "sizeof(" + type.name + ')';
+        assertions << assertion(number + 'a', size, type.size)
+                          + assertion(number + 'b',
+                                      "sizeof(" + structureOf(type.name) + ")-" + size,
+                                      type.alignment);
     }
     const QList<bool> isConfirmed = questions.accepted(prelude, assertions);
     // That a char has one byte is true everywhere; what rejects it tells nothing of the others.
@@ -153,8 +169,8 @@ QList<Type> measuredTypes(const Questions &questions)
     // Where a member lies behind a single character tells its alignment.
     QList<QByteArray> structures;
     for (qsizetype i = 0; i < basicTypes.size(); ++i) {
-        structures << "struct calyx_" + QByteArray::number(i) + "s { char c; "
-                          + declared(basicTypes[i], "t") + "; };\n";
+        structures << structureOf(basicTypes[i]) + " { char c; " + declared(basicTypes[i], "t")
+                          + "; };\n";
     }
     const QList<bool> isKnown = questions.accepted({}, structures);
     QByteArray prelude;
@@ -165,7 +181,7 @@ QList<Type> measuredTypes(const Questions &questions)
         const QByteArray size = "sizeof(" + basicTypes[i] + ')';
         prelude += structures[i];
         names << basicTypes[i];
-        expressions << size << "sizeof(struct calyx_" + QByteArray::number(i) + "s)-" + size;
+        expressions << size << "sizeof(" + structureOf(basicTypes[i]) + ")-" + size;
     }
     const QList<std::optional<int>> values = questions.numbers(prelude, expressions);
     QList<Type> types;
