@@ -244,6 +244,24 @@ qsizetype TokenStream::punctuatorSize() const
     return 1;
 }
 
+/// How many lines behind that of \a stream the number \a token is; nothing if it is none.
+std::optional<int> linesBehind(QByteArrayView token, const TokenStream &stream)
+{
+    bool isNumber = false;
+    const int number = token.toInt(&isNumber);
+    return isNumber ? std::optional(number - stream.line()) : std::nullopt;
+}
+
+/// Whether \a one and \a other are what both have in the place of __LINE__ in a macro's arguments
+/// that stand on several lines: the first line for GNU compilers, for clang the last.
+bool areLineOfCall(QByteArrayView one, const TokenStream &compiler, QByteArrayView other,
+                   const TokenStream &clang)
+{
+    const int longestCall = 50;
+    return linesBehind(one, compiler) == 0 && linesBehind(other, clang) > 0
+        && linesBehind(other, clang) < longestCall;
+}
+
 } // namespace
 
 std::optional<TokenDifference> firstDifference(const PreprocessedSource &ofCompiler,
@@ -252,7 +270,7 @@ std::optional<TokenDifference> firstDifference(const PreprocessedSource &ofCompi
     TokenStream compiler(ofCompiler), clang(ofClang);
     while (true) {
         const QByteArrayView one = compiler.next(), other = clang.next();
-        if (one != other) {
+        if (one != other && !areLineOfCall(one, compiler, other, clang)) {
             const TokenStream &place = one.isEmpty() ? clang : compiler;
             return TokenDifference {place.file(), place.line(), one.toByteArray(),
                                     other.toByteArray()};
