@@ -22,6 +22,11 @@ struct Shape
     std::optional<bool> isUnsigned;
 };
 
+bool areAlike(const Shape &first, const Shape &second)
+{
+    return first.size && first.size == second.size && first.isUnsigned == second.isUnsigned;
+}
+
 /// The shapes of \a names behind \a prelude.
 QList<Shape> shapesOf(const Questions &questions, const QByteArray &prelude,
                       const QList<QByteArray> &names)
@@ -38,6 +43,17 @@ QList<Shape> shapesOf(const Questions &questions, const QByteArray &prelude,
     return shapes;
 }
 
+/// What \a index is paired with in \a pairs; empty when that is not one.
+QByteArray onlyPartner(qsizetype index, const QList<std::pair<qsizetype, QByteArray>> &pairs)
+{
+    QList<QByteArray> partners;
+    for (const auto &[first, second] : pairs) {
+        if (first == index)
+            partners << second;
+    }
+    return partners.size() == 1 ? partners.first() : QByteArray();
+}
+
 /// The integer types that the standard headers' \a names of \a shapes stand for: an object can be
 /// declared again only with the same type. Empty where that is none of those with the same shape,
 /// or when the compiler does not mind and there are several of them.
@@ -48,8 +64,7 @@ QList<QByteArray> typesBehind(const Questions &questions, const QList<QByteArray
     QList<QByteArray> declarations;
     for (qsizetype name = 0; name < names.size(); ++name) {
         for (qsizetype type = 0; type < integerTypes.size(); ++type) {
-            const Shape &one = shapes[name], &other = shapesOfTypes[type];
-            if (!one.size || other.size != one.size || other.isUnsigned != one.isUnsigned)
+            if (!areAlike(shapes[name], shapesOfTypes[type]))
                 continue;
             const QByteArray object = " calyx_" + QByteArray::number(pairs.size()) + "; ";
             pairs << std::pair(name, integerTypes[type]);
@@ -60,14 +75,8 @@ QList<QByteArray> typesBehind(const Questions &questions, const QList<QByteArray
     if (questions.rejects(ErrorKind::ConflictingDeclaration))
         pairs = selected(pairs, questions.accepted("#include <stddef.h>\n", declarations));
     QList<QByteArray> types;
-    for (qsizetype name = 0; name < names.size(); ++name) {
-        QList<QByteArray> same;
-        for (const auto &[index, type] : pairs) {
-            if (index == name)
-                same << type;
-        }
-        types << (same.size() == 1 ? same.first() : QByteArray());
-    }
+    for (qsizetype name = 0; name < names.size(); ++name)
+        types << onlyPartner(name, pairs);
     return types;
 }
 
