@@ -78,7 +78,7 @@ std::optional<QByteArray> makePersonality(Progress &progress, const Arguments &a
     const std::optional<Facts> facts = learn(progress, compiler, *usable, folder, logFolder);
     if (!facts)
         return {};
-    return textOfPersonality(*usable, compiler, *facts);
+    return textOfPersonality(progress, *usable, compiler, *facts);
 }
 
 ExitStatus generate(Progress &progress, const Arguments &arguments, const QString &folder)
@@ -88,7 +88,8 @@ ExitStatus generate(Progress &progress, const Arguments &arguments, const QStrin
     if (!text || !writePersonality(progress, arguments.personality, *text))
         return ExitStatus::Failed;
     checkHeaders(progress, arguments, *text, folder);
-    return ExitStatus::Done;
+    return arguments.checksTypes ? checkTypes(progress, arguments, *text, folder)
+                                 : ExitStatus::Done;
 }
 
 /// Says what has changed since a personality was written.

@@ -6,7 +6,9 @@
 ///
 ///     Bexlor.exe kov|kovpp cmp|ccmp COMMAND OUTPUT-FLAG OBJECT-FLAG DEFINE-FLAG EXTENSION ORDER
 ///         {-i DIRECTORY} -op PERSONALITY [-xd DEFINES] [-xs SWITCHES]
-///         [-tpl FILE] [-fi FILE] [-sub DIRECTORY] [-rfs]
+///         [-tpl FILE] [-fi FILE] [-sub DIRECTORY] [-rfs] [-check]
+///
+/// The wizard never asks for the last one.
 namespace generator {
 
 inline constexpr QLatin1StringView program("Bexlor.exe");
@@ -24,6 +26,7 @@ inline constexpr QLatin1StringView templateFile("-tpl");
 inline constexpr QLatin1StringView forceIncludeFile("-fi");
 inline constexpr QLatin1StringView substituteHeaders("-sub");
 inline constexpr QLatin1StringView reduceFileSize("-rfs");
+inline constexpr QLatin1StringView checkTypes("-check");
 
 // Beside the working directory: where the files lie that are named without a folder.
 inline constexpr QLatin1StringView templateFolder("TemplatePersonalities");

@@ -34,6 +34,7 @@ std::variant<UsageError, Arguments> parseArguments(const QStringList &list)
     if (reader.flag(generator::substituteHeaders))
         arguments.substituteHeaders = reader.path();
     arguments.reduceFileSize = reader.flag(generator::reduceFileSize);
+    arguments.checksTypes = reader.flag(generator::checkTypes);
     if (!reader.isComplete())
         return reader.error();
     arguments.answers = {QDir::currentPath(), list};

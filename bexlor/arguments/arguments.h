@@ -38,6 +38,7 @@ struct Arguments
     QString forceIncludeFile;
     QString substituteHeaders;
     bool reduceFileSize = false;
+    bool checksTypes = false; ///< by a source beside the personality
     CommandLine answers; ///< the list that all this was taken from, with an empty text as the path
                          ///< of the personality
 };

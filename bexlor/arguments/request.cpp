@@ -131,7 +131,7 @@ QString usage()
     QString lines =
         u"usage: Bexlor.exe kov|kovpp cmp|ccmp COMMAND OUTPUT-FLAG OBJECT-FLAG DEFINE-FLAG "
         "OBJECT-EXTENSION ORDER {-i DIRECTORY} -op PERSONALITY [-xd DEFINES] [-xs SWITCHES] "
-        "[-tpl FILE] [-fi FILE] [-sub DIRECTORY] [-rfs]"_s;
+        "[-tpl FILE] [-fi FILE] [-sub DIRECTORY] [-rfs] [-check]"_s;
     for (const CommandWord &row : commandWords)
         lines += "\n       "_L1 + u"Bexlor.exe %1 %2"_s.arg(row.word, row.usage).trimmed();
     return lines;
@@ -154,10 +154,12 @@ QString help()
   -op PERSONALITY   the file to write
   -xd DEFINES       NAME or NAME=VALUE, separated by commas
   -xs SWITCHES      added to the command, separated by commas
-  -tpl FILE         of options that come first
+  -tpl FILE         of options that override what is learned
   -fi FILE          that is included before every source
   -sub DIRECTORY    of headers that take the place of the compiler's
   -rfs              for a compiler with small buffers
+  -check            writes PERSONALITY's types as assertions, into a source beside it that
+                    is called .check.c or .check.cpp, and has the compiler and clang try it
 
 again generates PERSONALITY once more, from the answers that it holds. With --verify it
 writes nothing, and lists what has changed since.

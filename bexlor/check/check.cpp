@@ -91,13 +91,17 @@ platform::ProgramRun runClang(const Checking &checking, const CheckedSource &sou
                     source.directory, timeLeft(checking), largestSource);
 }
 
-/// Lets clang leave the keywords in the code that it would otherwise not understand.
+/// Lets clang leave the keywords in the code that it would otherwise not understand, and see the
+/// compiler's own definition of macros that have been made to fit clang's types.
 QStringList undefinedKeywords(const Personality &personality)
 {
     QStringList options;
     for (const Option &option : personality.keywordDefinitions) {
-        const QByteArray name = option.first().sliced(2);
-        options << u"-U"_s + QString::fromUtf8(name.first(name.indexOf('=')).split('(').first());
+        const QByteArray definition = option.first().sliced(2);
+        const QByteArray name = definition.split('=').first().split('(').first();
+        options << QString::fromUtf8("-U" + name);
+        if (const Macro *macro = findMacro(personality.facts.macros, name))
+            options << QString::fromUtf8("-D" + name + '=' + macro->value);
     }
     return options;
 }

@@ -4,14 +4,45 @@
 
 /// What clang can be told of a compiler, and how.
 
-/// The target of clang that a compiler's code is for: by its predefined macros or, for an
-/// architecture that clang does not have, the one whose types differ least. Empty when nothing is
-/// known of either.
-QByteArray clangTarget(const Facts &facts);
+/// A target of clang, and options that lay its types out as a compiler's.
+struct TargetChoice
+{
+    QByteArray name; ///< empty when nothing is known
+    QList<QByteArray> options;
+};
 
-/// The options that make clang's language and types those of a compiler: its target, the language
-/// version, the features and the types that a target does not settle.
-QList<QByteArray> languageOptions(const Facts &facts, bool isCpp);
+/// The target of clang that a compiler's code is for, by its predefined macros. Where its types are
+/// not the compiler's, options and other targets of the architecture are tried; for an architecture
+/// that clang does not have, all targets. \a passed are options that clang gets in any case.
+TargetChoice chooseTarget(const Facts &facts, const QList<QByteArray> &passed);
+
+/// Of what is known of the types \a ofClang, that which is not as in \a types.
+TypeFacts differingTypes(const TypeFacts &types, const TypeFacts &ofClang);
+
+/// A sentence for each thing that differingTypes() has found of \a types, which is in \a ofClang.
+QStringList differenceSentences(const TypeFacts &types, const TypeFacts &ofClang);
+
+/// What becomes of those options of a compiler that change the language, or how types are laid out.
+struct PassedOptions
+{
+    QList<QByteArray> forClang; ///< one or two words each, with a space between them
+    QStringList lacking;        ///< of the compiler, that clang has nothing like
+};
+
+/// What becomes of the options of \a command, a program and its options.
+PassedOptions passedOptions(const QStringList &command, bool isCpp);
+
+/// What makes clang's language and types those of a compiler.
+struct Language
+{
+    QList<QByteArray> options;
+    QList<Macro> redefinitions; ///< of predefined macros that must fit clang's own types
+    TypeFacts differingTypes;   ///< of clang, where no option makes them the compiler's
+};
+
+/// The language of a compiler: its target, the language version, the features, the options that are
+/// \a passed on, and the types that a target does not settle.
+Language languageOf(const Facts &facts, const QList<QByteArray> &passed, bool isCpp);
 
 /// The macros that clang defines even under -undef.
 QList<QByteArray> macrosOfClang();

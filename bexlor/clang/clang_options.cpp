@@ -1,5 +1,7 @@
 #include "clang.h"
 
+#include "target_layouts.h"
+
 #include <QFileInfo>
 #include <algorithm>
 #include <cctype>
@@ -127,11 +129,10 @@ QList<QByteArray> typeOptions(const Facts &facts, const QByteArray &target)
         options << "-fsigned-char";
     if (types.smallEnumSize != 0 && types.smallEnumSize < sizeOf(types, "int"))
         options << "-fshort-enums";
+    else if (types.smallEnumSize != 0 && target.startsWith("hexagon-"))
+        options << "-fno-short-enums";
     if (types.wideCharacterType == "unsigned short")
         options << "-fshort-wchar";
-    const bool isX86 = target.startsWith("x86_64-") || target.startsWith("i386-");
-    if (isX86 && sizeOf(types, "long double") == 8)
-        options << "-mlong-double-64";
     const auto isFixedPoint = [](const Keyword &keyword) { return keyword.name == "_Accum"; };
     if (std::any_of(facts.keywords.begin(), facts.keywords.end(), isFixedPoint))
         options << "-ffixed-point";
@@ -152,33 +153,83 @@ const QList<QByteArray> alwaysDefined {
     "__cplusplus",
 };
 
-} // namespace
+// What the headers of GNU compilers make wchar_t of. An array of it can only be initialised with
+// clang's own wide literals if it has their type.
+const QByteArray wideCharacterMacro = "__WCHAR_TYPE__";
 
-QList<QByteArray> languageOptions(const Facts &facts, bool isCpp)
+/// Whether wchar_t has the same size and sign in both.
+bool hasLikeWideCharacter(const TypeFacts &types, const TypeFacts &others)
+{
+    const QByteArray &name = types.wideCharacterType, &other = others.wideCharacterType;
+    return sizeOfLike(types, name) == sizeOfLike(others, other)
+        && name.startsWith("unsigned ") == other.startsWith("unsigned ");
+}
+
+/// Options for the processor of \a target.
+QList<QByteArray> processorOptions(const MacroFacts &macros, const QByteArray &target)
 {
     QList<QByteArray> options;
-    const QByteArray target = clangTarget(facts);
-    if (!target.isEmpty())
-        options << "--target=" + target;
     if (target.startsWith("arm"))
-        options << armOptions(facts.macros);
+        options << armOptions(macros);
     for (const Feature &feature : instructions)
-        options << (findMacro(facts.macros, feature.macro) ? feature.options : feature.opposite);
+        options << (findMacro(macros, feature.macro) ? feature.options : feature.opposite);
     // Without these clang warns, though it is not to link, that it cannot; and it does so before it
     // reads in a file that it should not. The processor is the one that avr-gcc assumes.
     if (target.startsWith("avr-"))
         options << "-nostdlib"
                 << "-mmcu=avr2";
-    options << (isCpp ? standardOption(facts.macros, "__cplusplus", cppStandards, "c++", "gnu++")
-                      : standardOption(facts.macros, "__STDC_VERSION__", cStandards, "c", "gnu"));
-    if (isCpp) {
-        for (const Feature &feature : cppFeatures)
-            options << (findMacro(facts.macros, feature.macro) ? feature.options
-                                                               : feature.opposite);
+    return options;
+}
+
+/// Options for the version of the language and its features.
+QList<QByteArray> versionOptions(const MacroFacts &macros, bool isCpp)
+{
+    if (!isCpp)
+        return standardOption(macros, "__STDC_VERSION__", cStandards, "c", "gnu");
+    QList<QByteArray> options = standardOption(macros, "__cplusplus", cppStandards, "c++", "gnu++");
+    for (const Feature &feature : cppFeatures)
+        options << (findMacro(macros, feature.macro) ? feature.options : feature.opposite);
+    return options;
+}
+
+/// Settles what \a language says of wchar_t, if that is like the one of clang, \a ofClang.
+void settleWideCharacter(const Facts &facts, const TypeFacts &ofClang, bool isCpp,
+                         Language &language)
+{
+    QByteArray &differing = language.differingTypes.wideCharacterType;
+    if (differing.isEmpty() || !hasLikeWideCharacter(facts.types, ofClang))
+        return;
+    // In C++ it is a type of its own, of which no more is known.
+    if (isCpp)
+        differing.clear();
+    else if (findMacro(facts.macros, wideCharacterMacro))
+        language.redefinitions << Macro {wideCharacterMacro, differing};
+}
+
+} // namespace
+
+Language languageOf(const Facts &facts, const QList<QByteArray> &passed, bool isCpp)
+{
+    Language language;
+    QList<QByteArray> &options = language.options;
+    const TargetChoice target = chooseTarget(facts, passed);
+    if (!target.name.isEmpty())
+        options << "--target=" + target.name;
+    options << processorOptions(facts.macros, target.name) << versionOptions(facts.macros, isCpp);
+    // What has been measured comes last, so that it counts.
+    for (const QByteArray &option : passed + target.options + typeOptions(facts, target.name)) {
+        options.removeAll(option);
+        options << option;
     }
+    // Otherwise a long double in a structure, which Microsoft has not got, is an error.
+    if (options.contains("-mms-bitfields"))
+        options << "-Wno-incompatible-ms-struct";
     for (const QByteArray &warning : facts.leniencies)
         options << "-Wno-error=" + warning;
-    return options + typeOptions(facts, target);
+    const TypeFacts ofClang = typesOfTarget(target.name, options);
+    language.differingTypes = differingTypes(facts.types, ofClang);
+    settleWideCharacter(facts, ofClang, isCpp, language);
+    return language;
 }
 
 QList<QByteArray> macrosOfClang()

@@ -52,22 +52,6 @@ bool isAnswered(Topic topic, const DialectAnswers &answers)
     return !answers.versionLine.isEmpty();
 }
 
-/// The directories that \a command names behind -I, in one word with it or in the next.
-QStringList optionDirectories(const QStringList &command)
-{
-    const QLatin1StringView option("-I");
-    QStringList directories;
-    for (qsizetype i = 0; i < command.size(); ++i) {
-        if (!command[i].startsWith(option))
-            continue;
-        const QString joined = command[i].mid(option.size());
-        const QString named = joined.isEmpty() ? command.value(i + 1) : joined;
-        if (QFileInfo(named).isDir())
-            directories << QDir(named).canonicalPath();
-    }
-    return directories;
-}
-
 /// The folder of headers beside that of cc65's target systems, \a targets.
 QStringList directoryBeside(const QByteArray &targets)
 {
@@ -86,7 +70,7 @@ SearchPath searchPathIn(const ProgramRun &answer, const DialectQuestion &questio
     const QStringList own = question.heading.isEmpty()
                               ? directoryBeside(answer.output)
                               : directoriesBehind(question.heading, answer.output);
-    QStringList directories = own.isEmpty() ? own : optionDirectories(command) + own;
+    QStringList directories = own.isEmpty() ? own : includeDirectories(command) + own;
     directories.removeDuplicates();
     return {directories, {}};
 }
@@ -127,6 +111,22 @@ DialectAnswers askInDialects(const RunCommand &run, const QStringList &command,
             read(answer, question, command, answers);
     }
     return answers;
+}
+
+QStringList includeDirectories(const QStringList &command)
+{
+    static const QRegularExpression option(u"^[-/]I(.*)$"_s);
+    QStringList directories;
+    for (qsizetype i = 1; i < command.size(); ++i) {
+        const QRegularExpressionMatch match = option.match(command[i]);
+        if (!match.hasMatch())
+            continue;
+        const QString joined = match.captured(1);
+        const QString named = joined.isEmpty() ? command.value(i + 1) : joined;
+        if (QFileInfo(named).isDir())
+            directories << QDir(named).canonicalPath();
+    }
+    return directories;
 }
 
 QList<Macro> macrosIn(const QByteArray &listing)

@@ -21,6 +21,10 @@ struct DialectAnswers
 DialectAnswers askInDialects(const RunCommand &run, const QStringList &command,
                              const QString &source, const DialectAnswers &known = {});
 
+/// The directories that \a command names behind -I, as Microsoft's compiler also /I, in one word
+/// with it or in the next; links in them are followed.
+QStringList includeDirectories(const QStringList &command);
+
 /// The macros of a listing as preprocessors print it under -dM: lines "#define NAME VALUE".
 QList<Macro> macrosIn(const QByteArray &listing);
 

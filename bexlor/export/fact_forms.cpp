@@ -40,12 +40,6 @@ const struct
     {""_L1, "gcc-x86"_L1},
 };
 
-/// The bytes of a type that is \a name, a basic one, or like it with another sign.
-int sizeOfLike(const TypeFacts &types, QByteArray name)
-{
-    return sizeOf(types, name.replace("unsigned ", "").replace("signed ", ""));
-}
-
 /// What stands behind \a start in the options of \a personality's language.
 QString languageOption(const Personality &personality, const QByteArray &start)
 {

@@ -25,6 +25,11 @@ int sizeOf(const TypeFacts &types, const QByteArray &name)
     return type ? type->size : 0;
 }
 
+int sizeOfLike(const TypeFacts &types, QByteArray name)
+{
+    return sizeOf(types, name.replace("unsigned ", "").replace("signed ", ""));
+}
+
 QByteArray typeLike(const TypeFacts &types, int size, bool isFloating, bool isUnsigned)
 {
     for (const Type &type : types.basic) {

@@ -41,6 +41,7 @@ struct TypeFacts
     QByteArray sizeType, pointerDifferenceType, wideCharacterType; ///< names of basic types
     std::optional<bool> charIsUnsigned;
     int smallEnumSize = 0; ///< of an enumeration with small values, in bytes
+    int bitFieldSize = 0;  ///< of a structure of a char and a bit-field of int, in bytes
     ByteOrder byteOrder = ByteOrder::Unknown;
 
     bool operator==(const TypeFacts &) const = default;
@@ -89,6 +90,9 @@ const Macro *findMacro(const MacroFacts &macros, const QByteArray &name);
 
 /// The bytes of the basic type \a name; 0 if not known.
 int sizeOf(const TypeFacts &types, const QByteArray &name);
+
+/// The bytes of a type that is \a name, a basic one, or like it with another sign; 0 if not known.
+int sizeOfLike(const TypeFacts &types, QByteArray name);
 
 /// The first of the basic types with that size and kind; empty when there is none.
 QByteArray typeLike(const TypeFacts &types, int size, bool isFloating, bool isUnsigned);

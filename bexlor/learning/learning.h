@@ -27,8 +27,8 @@ QList<Keyword> learnKeywords(const Questions &questions, const QList<ScannedName
                              const MacroFacts &macros, const TypeFacts &types,
                              const QList<QByteArray> &settled = {});
 
-/// What the compiler accepts though newer clang does not: the names of clang's warnings that are errors
-/// there.
+/// What the compiler accepts though newer clang does not: the names of clang's warnings that are
+/// errors there.
 QList<QByteArray> learnLeniencies(const Questions &questions);
 
 /// Which directories with \a headers the compiler searches by itself, in its order.

@@ -21,7 +21,6 @@ const Leniency leniencies[] = {
     {"return-type", "int calyx_%(void) { return; }\n", false},
     {"c++11-narrowing", "int calyx_%(double a) { int b[] = {a}; return b[0]; }\n", true},
     {"register", "int calyx_%(int a) { register int b = a; return b; }\n", true},
-    {"dynamic-exception-spec", "void calyx_%() throw(int);\n", true},
     {"reserved-user-defined-literal",
      "#define calyx_m% \"b\"\nconst char *calyx_% = \"a\"calyx_m%;\n", true},
 };

@@ -172,8 +172,11 @@ QList<Type> confirmed(const Questions &questions, const QByteArray &prelude,
     return isConfirmed.value(0) ? selected(types, isConfirmed) : types;
 }
 
-/// Those of the basic types that the compiler has, with their sizes and alignments.
-QList<Type> measuredTypes(const Questions &questions)
+// In some compilers the bits lie beside the character, in others in an int of their own.
+const QByteArray bitFieldStructure = "struct calyx_b { char c; int b : 4; };\n";
+
+/// Measures those of the basic types that the compiler has, and what it makes of a bit-field.
+void measureTypes(const Questions &questions, TypeFacts &types)
 {
     // Where a member lies behind a single character tells its alignment.
     QList<QByteArray> structures;
@@ -181,7 +184,7 @@ QList<Type> measuredTypes(const Questions &questions)
         structures << structureOf(basicTypes[i]) + " { char c; " + declared(basicTypes[i], "t")
                           + "; };\n";
     }
-    const QList<bool> isKnown = questions.accepted({}, structures);
+    const QList<bool> isKnown = questions.accepted({}, structures + QList {bitFieldStructure});
     QByteArray prelude;
     QList<QByteArray> names, expressions;
     for (qsizetype i = 0; i < basicTypes.size(); ++i) {
@@ -192,13 +195,19 @@ QList<Type> measuredTypes(const Questions &questions)
         names << basicTypes[i];
         expressions << size << "sizeof(" + structureOf(basicTypes[i]) + ")-" + size;
     }
+    if (isKnown.last()) {
+        prelude += bitFieldStructure;
+        expressions << "sizeof(struct calyx_b)";
+    }
     const QList<std::optional<int>> values = questions.numbers(prelude, expressions);
-    QList<Type> types;
+    QList<Type> measured;
     for (qsizetype i = 0; i < names.size(); ++i) {
         if (values[2 * i] && values[2 * i + 1])
-            types.append({names[i], *values[2 * i], *values[2 * i + 1]});
+            measured.append({names[i], *values[2 * i], *values[2 * i + 1]});
     }
-    return confirmed(questions, prelude, types);
+    types.basic = confirmed(questions, prelude, measured);
+    if (isKnown.last())
+        types.bitFieldSize = values.last().value_or(0);
 }
 
 } // namespace
@@ -206,7 +215,7 @@ QList<Type> measuredTypes(const Questions &questions)
 TypeFacts learnTypes(const Questions &questions)
 {
     TypeFacts types;
-    types.basic = measuredTypes(questions);
+    measureTypes(questions, types);
     const QList<Shape> shapes = shapesOf(questions, {}, integerTypes);
     types.charIsUnsigned = charIsUnsigned(questions, shapes);
     types.smallEnumSize =

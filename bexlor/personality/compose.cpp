@@ -20,19 +20,34 @@ bool hasHeaders(const QString &directory)
     return !QDir(directory).entryList({u"*.h"_s}, QDir::Files).isEmpty();
 }
 
-QList<Option> searchOptions(const Arguments &arguments, const Facts &facts)
+/// How many of the directories that are searched come first and are named by -I. One that stands
+/// behind others has been found by the compiler in its own search path, and kept there.
+qsizetype projectDirectories(const QStringList &searched, const QStringList &named)
+{
+    const auto first =
+        std::find_if(searched.begin(), searched.end(),
+                     [&named](const QString &directory) { return !named.contains(directory); });
+    return first - searched.begin();
+}
+
+QList<Option> searchOptions(const Arguments &arguments, const Facts &facts,
+                            const QStringList &includeDirectories)
 {
     QList<Option> options;
+    const QStringList &searched = facts.searchPath.directories;
+    const qsizetype ofProject = projectDirectories(searched, includeDirectories);
+    // Clang searches what -isystem names behind what -I names.
     if (!arguments.substituteHeaders.isEmpty())
-        options << pathOption("-isystem", arguments.substituteHeaders);
+        options << pathOption(ofProject > 0 ? "-I" : "-isystem", arguments.substituteHeaders);
     for (const QString &directory : facts.searchPath.forQuotedNames)
         options << pathOption("-iquote", directory);
+    for (const QString &directory : searched.first(ofProject))
+        options << pathOption("-I", directory);
     // Where the compiler searches its own headers clang searches those that are made for itself,
     // and what the compiler searches behind them comes behind those, too.
-    const QStringList &searched = facts.searchPath.directories;
     const bool isClang = findMacro(facts.macros, "__clang__");
     bool usesClangsOwn = false;
-    for (const QString &directory : searched) {
+    for (const QString &directory : searched.sliced(ofProject)) {
         usesClangsOwn |= !isClang && holdsIntrinsics(directory);
         options << pathOption(usesClangsOwn ? "-idirafter" : "-isystem", directory);
     }
@@ -58,12 +73,16 @@ bool fitsOnLine(const Macro &macro)
 } // namespace
 
 Personality composePersonality(const Arguments &arguments, const Facts &facts,
-                               const QStringList &includedByCommand, const QByteArray &templateText)
+                               const CommandParts &parts, const QByteArray &templateText)
 {
+    const PassedOptions passed = passedOptions(parts.command, arguments.isCpp);
+    const Language language = languageOf(facts, passed.forClang, arguments.isCpp);
     Personality personality {arguments.command,
                              arguments.switches,
                              arguments.answers,
+                             passed.lacking,
                              facts,
+                             language.differingTypes,
                              templateText,
                              {},
                              {},
@@ -78,16 +97,18 @@ Personality composePersonality(const Arguments &arguments, const Facts &facts,
             macros.undetermined << macro.name;
     }
     macros.known.removeIf([](const Macro &macro) { return !fitsOnLine(macro); });
-    for (const QByteArray &option : languageOptions(facts, arguments.isCpp))
-        personality.language.append({option});
-    for (const Macro &macro : keywordDefinitions(facts))
+    for (const QByteArray &option : language.options)
+        personality.language << option.split(' ');
+    for (const Macro &macro : language.redefinitions)
+        personality.keywordDefinitions.append({"-U" + macro.name});
+    for (const Macro &macro : keywordDefinitions(facts) + language.redefinitions)
         personality.keywordDefinitions.append({"-D" + macro.name + '=' + macro.value});
-    personality.searchPath = searchOptions(arguments, facts);
+    personality.searchPath = searchOptions(arguments, facts, parts.includeDirectories);
     if (!arguments.forceIncludeFile.isEmpty())
         personality.includedFirst << pathOption("-include", arguments.forceIncludeFile);
     // A name that is no path is searched for, so these stay as they are.
-    for (qsizetype i = 0; i + 1 < includedByCommand.size(); i += 2)
+    for (qsizetype i = 0; i + 1 < parts.includedFirst.size(); i += 2)
         personality.includedFirst.append(
-            {includedByCommand[i].toUtf8(), includedByCommand[i + 1].toUtf8()});
+            {parts.includedFirst[i].toUtf8(), parts.includedFirst[i + 1].toUtf8()});
     return personality;
 }

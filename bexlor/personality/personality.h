@@ -15,8 +15,10 @@ struct Personality
     QString command;      ///< the compiler's command as it was typed
     QStringList switches; ///< implicit switches
     CommandLine answers;  ///< by which it has been generated
+    QStringList lacking;  ///< options of the compiler that clang has nothing like
     Facts facts;
-    QByteArray templateText; ///< options that come before all others, in whole lines
+    TypeFacts typesOfClang;  ///< of clang with this personality, where they are not the compiler's
+    QByteArray templateText; ///< options that override those of the compiler, in whole lines
     QList<Option> language;
     QList<Option> keywordDefinitions; ///< under which clang reads the keywords that it lacks
     QList<Option> searchPath;
@@ -25,12 +27,19 @@ struct Personality
     bool operator==(const Personality &) const = default;
 };
 
-/// The personality of the compiler of \a facts with what the user of \a arguments has added:
-/// \a templateText comes first, substitute headers come before all others, and the force-include
-/// file is included before the files of \a includedByCommand: options, each followed by its file.
+/// What a compiler's command says that is passed on to clang.
+struct CommandParts
+{
+    QStringList command;            ///< the program and its options
+    QStringList includeDirectories; ///< those that it names by -I
+    QStringList includedFirst;      ///< options, each followed by its file
+};
+
+/// The personality of the compiler of \a facts, which is called as \a parts say, with what the user
+/// of \a arguments has added: substitute headers come before all others, and the force-include file
+/// is included before the files of the command. Directories are searched in the compiler's order.
 Personality composePersonality(const Arguments &arguments, const Facts &facts,
-                               const QStringList &includedByCommand,
-                               const QByteArray &templateText);
+                               const CommandParts &parts, const QByteArray &templateText);
 
 /// The text of a personality: a file of compiler options that clang reads under --config, one
 /// option a line. What no option can say stands in lines that begin with "#:", one fact each; the

@@ -4,6 +4,7 @@
 #include "report.h"
 #include "steps.h"
 #include "text_file.h"
+#include "type_assertions.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -65,6 +66,24 @@ QStringList sampleOfHeaders(const Personality &content, bool isCpp)
     names.removeDuplicates();
     std::shuffle(names.begin(), names.end(), std::minstd_rand());
     return names.mid(0, headersAtMost);
+}
+
+/// What \a verdict, on the assertions in \a file, tells of the compiler and of \a clang.
+QString typeSentence(const Verdict &verdict, const QString &file, const Clang &clang)
+{
+    switch (verdict.result) {
+    case Verdict::RejectedByCompiler:
+    case Verdict::NotStarted:
+        return u"The compiler rejects %1: %2"_s.arg(file, verdict.message);
+    case Verdict::RejectedByClang:
+        return u"The compiler accepts %1, and %2 rejects it: %3"_s.arg(file, clang.version,
+                                                                       verdict.rejection.message);
+    case Verdict::Same:
+    case Verdict::Different:
+    case Verdict::NotCompared:
+        break;
+    }
+    return u"The compiler and %2 accept %1."_s.arg(file, clang.version);
 }
 
 } // namespace
@@ -171,4 +190,31 @@ void checkHeaders(Progress &progress, const Arguments &arguments, const QByteArr
         });
     if (rejected != verdicts.end())
         progress.say(u"The first that it rejects: %1"_s.arg(rejected->rejection.message));
+}
+
+ExitStatus checkTypes(Progress &progress, const Arguments &arguments, const QByteArray &text,
+                      const QString &folder)
+{
+    const QFileInfo personality(QDir::current().absoluteFilePath(arguments.personality));
+    const QString file = personality.path() + u'/' + personality.completeBaseName()
+                       + (arguments.isCpp ? ".check.cpp"_L1 : ".check.c"_L1);
+    // What is compiled is a copy: some compilers write beside the source.
+    const QString copy = folder + "/types_"_L1 + probeName(arguments.isCpp);
+    const Personality content = parsePersonality(text);
+    const QByteArray source = typeAssertions(content.facts, arguments.isCpp);
+    if (!platform::writeFile(file, source) || !platform::writeScratchFile(copy, source)) {
+        progress.say(u"The assertions cannot be written: %1"_s.arg(file));
+        return ExitStatus::Failed;
+    }
+    const std::optional<Clang> clang = findClang(progress, u"clang"_s);
+    if (!clang)
+        return ExitStatus::Missing;
+    const Compiler compiler = findCompiler(arguments);
+    const Checking checking {*clang, personality.filePath(), content, compiler.layout, {}, {}};
+    ExitStatus status = ExitStatus::Done;
+    checkSources(checking, {sourceOfFile(compiler, copy, folder, 0)}, [&](const Verdict &verdict) {
+        progress.say(typeSentence(verdict, file, *clang).replace(copy, file));
+        status = verdict.result == Verdict::NotCompared ? ExitStatus::Done : ExitStatus::Failed;
+    });
+    return status;
 }

@@ -24,6 +24,11 @@ ExitStatus checkWithPersonality(Progress &progress, const CheckRequest &request,
 void checkHeaders(Progress &progress, const Arguments &arguments, const QByteArray &text,
                   const QString &folder);
 
+/// Writes the types of the personality that has just been written, \a text, as assertions beside
+/// it, and says in one line whether the compiler and clang accept them.
+ExitStatus checkTypes(Progress &progress, const Arguments &arguments, const QByteArray &text,
+                      const QString &folder);
+
 /// Writes the personality that holds \a content as \a request asks; the rest as above.
 ExitStatus exportPersonality(Progress &progress, const ExportRequest &request,
                              const Arguments &arguments, const Personality &content,

@@ -360,13 +360,19 @@ bool checkCompleteness(Progress &progress, const Facts &facts, bool lacksSearchP
     return hasTypes && !lacksSearchPath;
 }
 
-QByteArray textOfPersonality(const Arguments &arguments, const Compiler &compiler,
-                             const Facts &facts)
+QByteArray textOfPersonality(Progress &progress, const Arguments &arguments,
+                             const Compiler &compiler, const Facts &facts)
 {
     const QByteArray templateText =
         platform::readTextFile(arguments.templateFile).value_or(QString()).toUtf8();
-    return personalityText(
-        composePersonality(arguments, facts, compiler.includedFirst, templateText));
+    const CommandParts parts {compiler.command, includeDirectories(compiler.command),
+                              compiler.includedFirst};
+    const Personality personality = composePersonality(arguments, facts, parts, templateText);
+    for (const QString &option : personality.lacking)
+        progress.say(u"Clang has no option like the compiler's %1."_s.arg(visibleText(option)));
+    for (const QString &line : differenceSentences(facts.types, personality.typesOfClang))
+        progress.say(line);
+    return personalityText(personality);
 }
 
 bool writePersonality(Progress &progress, const QString &path, const QByteArray &text)

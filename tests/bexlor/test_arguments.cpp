@@ -18,13 +18,14 @@ private slots:
     void takesTheWholeList()
     {
         const Request request = parseRequest(
-            {"kovpp",  "ccmp",         "\"cc -m32\"", "",         "-c",   "",      "",
-             "%c %s ", "-i",           "..\\a b",     "-i",       "-op",  "-op",   "x.p_c",
-             "-xd",    "A, B=(1,2) ,", "-xs",         "-x -y,-z", "-tpl", "..\\t", "-fi",
-             "f",      "-sub",         "s",           "-rfs"});
+            {"kovpp",  "ccmp",         "\"cc -m32\"", "",         "-c",    "",      "",
+             "%c %s ", "-i",           "..\\a b",     "-i",       "-op",   "-op",   "x.p_c",
+             "-xd",    "A, B=(1,2) ,", "-xs",         "-x -y,-z", "-tpl",  "..\\t", "-fi",
+             "f",      "-sub",         "s",           "-rfs",     "-check"});
         const auto *arguments = std::get_if<Arguments>(&request);
         QVERIFY(arguments);
-        QVERIFY(arguments->isCpp && arguments->crossCompiler && arguments->reduceFileSize);
+        QVERIFY(arguments->isCpp && arguments->crossCompiler && arguments->reduceFileSize
+                && arguments->checksTypes);
         QCOMPARE(arguments->headerDirectories, QStringList({platform::hostPath("..\\a b"), "-op"}));
         QCOMPARE(arguments->personality, "x.p_c");
         QCOMPARE(arguments->defines, QStringList({"A", "B=(1,2)"}));

@@ -1,5 +1,6 @@
 #include "clang.h"
 #include "program_run.h"
+#include "target_layouts.h"
 
 #include "files.h"
 #include "row.h"
@@ -14,17 +15,55 @@ QList<Macro> macros(const QByteArray &names)
     return macros;
 }
 
-/// Types with these sizes of int, long, a pointer, double and long double; 0 for one that is
-/// missing.
-TypeFacts types(const QList<int> &sizes)
+/// Types with these sizes of int, long, a pointer, double and long double, each aligned to its size
+/// but no further than to \a alignment; 0 for one that is missing.
+TypeFacts types(const QList<int> &sizes, int alignment = 16)
 {
     const QByteArray names[] = {"int", "long", "void *", "double", "long double"};
     TypeFacts types;
     for (int i = 0; i < sizes.size(); ++i) {
         if (sizes[i] != 0)
-            types.basic.append({names[i], sizes[i], 1});
+            types.basic.append({names[i], sizes[i], std::min(sizes[i], alignment)});
     }
     return types;
+}
+
+/// A source that only a clang with \a types takes.
+QByteArray assertionsOf(const TypeFacts &types)
+{
+    QByteArray code = "#define SAME(a, b) _Static_assert(__builtin_types_compatible_p(a, b), #a)\n";
+    for (const Type &type : types.basic) {
+        const QByteArray member =
+            type.name.endsWith("(void)") ? "void (*t)(void)" : type.name + " t";
+        const QByteArray size = "sizeof(" + type.name + ")";
+        code += "_Static_assert(" + size + " == " + QByteArray::number(type.size)
+              + " && sizeof(struct { char c; " + member + "; }) - " + size
+              + " == " + QByteArray::number(type.alignment) + ", \"" + type.name + "\");\n";
+    }
+    const bool isLittle = types.byteOrder == ByteOrder::LittleEndian;
+    return code + "SAME(__SIZE_TYPE__, " + types.sizeType + ");\n" + "SAME(__PTRDIFF_TYPE__, "
+         + types.pointerDifferenceType + ");\n" + "SAME(__typeof(*L\"\"), "
+         + types.wideCharacterType + ");\n"
+         + "_Static_assert(sizeof(enum { A }) == " + QByteArray::number(types.smallEnumSize)
+         + ", \"enum\");\n_Static_assert(sizeof(struct { char c; int b : 4; }) == "
+         + QByteArray::number(types.bitFieldSize)
+         + ", \"bit-field\");\n#if __BYTE_ORDER__ != __ORDER_" + (isLittle ? "LITTLE" : "BIG")
+         + "_ENDIAN__\n#error\n#endif\n";
+}
+
+/// What clang says against \a code with \a options.
+QByteArray clangAnswer(const QList<QByteArray> &options, bool isCpp, const QByteArray &code,
+                       const QString &program = "clang")
+{
+    const QTemporaryDir folder;
+    const QString source = folder.filePath(isCpp ? "x.cpp" : "x.c");
+    writeTestFile(source, code);
+    QStringList command {program, source, "-fsyntax-only", "-nostdlibinc",
+                         "-Werror=incompatible-library-redeclaration"};
+    for (const QByteArray &option : options)
+        command << option;
+    const platform::ProgramRun clang = platform::runProgram(command, folder.path(), 60'000);
+    return clang.succeeded() ? QByteArray() : clang.errors + "failed";
 }
 
 } // namespace
@@ -36,8 +75,9 @@ class TestClang : public QObject
 private slots:
     void findsTheTarget_data()
     {
-        const Columns<QByteArray, QList<int>, ByteOrder, QByteArray> row("defined", "sizes",
-                                                                         "order", "target");
+        // target: with the options that it needs and, behind a colon, the types that still differ
+        const Columns<QByteArray, TypeFacts, ByteOrder, QByteArray> row("defined", "types", "order",
+                                                                        "target");
         const ByteOrder little = ByteOrder::LittleEndian, big = ByteOrder::BigEndian;
         row("Linux", "__x86_64__ __linux__", {}, little, "x86_64-unknown-linux-gnu");
         row("x32", "__x86_64__ __ILP32__ __linux__", {}, little, "x86_64-unknown-linux-gnux32");
@@ -49,25 +89,161 @@ private slots:
         row("little-endian MIPS", "__mips64 __mips__ __ELF__", {}, little,
             "mips64el-unknown-none-elf");
         row("RISC-V", "__riscv_xlen=32 __ELF__", {}, little, "riscv32-unknown-none-elf");
-        row("8 bits", "SDCC", {2, 4, 2, 4, 0}, little, "avr-unknown-unknown");
-        row("8 bits, few types", "__CC65__", {2, 4, 2, 0, 0}, little, "avr-unknown-unknown");
-        row("16 bits", "ACC", {2, 4, 2, 8, 8}, little, "msp430-unknown-none-elf");
-        row("32 bits", "ACC", {4, 4, 4, 8, 8}, little, "arm-unknown-none-eabi");
-        row("32 bits, big-endian", "ACC", {4, 4, 4, 8, 8}, big, "armeb-unknown-none-eabi");
-        row("64 bits", "ACC", {4, 8, 8, 8, 16}, ByteOrder::Unknown, "x86_64-unknown-none-elf");
-        row("64 bits, short long", "ACC", {4, 4, 8, 8, 16}, little, "x86_64-w64-windows-gnu");
+        row("LoongArch", "__loongarch_grlen=64 __linux__", {}, little,
+            "loongarch64-unknown-linux-gnu");
+        row("short pointers", "__aarch64__ __ILP32__ __ELF__", types({4, 4, 4, 8, 16}), little,
+            "aarch64_32-apple-watchos: long double 8/8");
+        row("n32", "__mips64 __mips__ __ELF__", types({4, 4, 4, 8, 16}), big,
+            "mips64-unknown-linux-gnuabin32");
+        row("aligned to 2", "__m68k__ __ELF__", types({4, 4, 4, 8, 8}, 2), big,
+            "m68k-unknown-none-elf -fpack-struct=2");
+        row("aligned double", "__i386__ __linux__", types({4, 4, 4, 8, 8}), little,
+            "i386-unknown-linux-gnu -malign-double -mlong-double-64");
+        row("double of 64 bits", "__AVR__", types({2, 4, 2, 8, 8}, 1), little,
+            "avr-unknown-none -mdouble=64");
+        row("double of 32 bits", "__arm__ __ELF__", types({4, 4, 4, 4, 8}), little,
+            "arm-unknown-none-eabi: double 8/8");
+        row("8 bits", "SDCC", types({2, 4, 3, 4, 0}, 1), little, "avr-unknown-unknown: void * 2/1");
+        row("8 bits, few types", "__CC65__", types({2, 4, 2, 0, 0}, 1), little,
+            "avr-unknown-unknown");
+        row("16 bits", "ACC", types({2, 4, 2, 8, 8}, 2), little, "msp430-unknown-none-elf");
+        row("32 bits", "ACC", types({4, 4, 4, 8, 8}), little, "arm-unknown-none-eabi");
+        row("32 bits, big-endian", "ACC", types({4, 4, 4, 8, 8}), big, "armeb-unknown-none-eabi");
+        row("32 bits, aligned to 4", "ACC", types({4, 4, 4, 8, 8}, 4), little,
+            "i386-unknown-none-elf -mlong-double-64");
+        row("32 bits, double too", "ACC", types({4, 4, 4, 4, 4}), little, "tcele-unknown-none");
+        row("64 bits", "ACC", types({4, 8, 8, 8, 16}), ByteOrder::Unknown,
+            "x86_64-unknown-none-elf");
+        row("64 bits, short long", "ACC", types({4, 4, 8, 8, 16}), little,
+            "x86_64-w64-windows-gnu");
         row("nothing known", "ACC", {}, ByteOrder::Unknown, "");
     }
     void findsTheTarget()
     {
         QFETCH(QByteArray, defined);
-        QFETCH(QList<int>, sizes);
+        QFETCH(TypeFacts, types);
         QFETCH(ByteOrder, order);
         Facts facts;
         facts.macros.known = macros(defined);
-        facts.types = types(sizes);
+        facts.types = types;
         facts.types.byteOrder = order;
-        QTEST(clangTarget(facts), "target");
+        const TargetChoice choice = chooseTarget(facts, {});
+        QByteArray found = (QList {choice.name} + choice.options).join(' ');
+        for (const Type &type : languageOf(facts, {}, false).differingTypes.basic) {
+            found += ": " + type.name + ' ' + QByteArray::number(type.size) + '/'
+                   + QByteArray::number(type.alignment);
+        }
+        QTEST(found, "target");
+    }
+
+    void saysWhereTypesDiffer()
+    {
+        Facts facts;
+        facts.macros.known = macros("__i386__ __linux__ __WCHAR_TYPE__=long");
+        facts.types = types({4, 4, 8, 8, 12}, 4);
+        facts.types.basic[3].alignment = 2;
+        facts.types.wideCharacterType = "long";
+        facts.types.sizeType = "unsigned long";
+        facts.types.smallEnumSize = 8;
+        facts.types.bitFieldSize = 6;
+        facts.types.byteOrder = ByteOrder::BigEndian;
+        const Language language = languageOf(facts, {}, false);
+        QCOMPARE(differenceSentences(facts.types, language.differingTypes),
+                 QStringList({"For clang double is aligned to 4, for the compiler to 2.",
+                              "For clang void * has 4 bytes, for the compiler 8.",
+                              "For clang a small enumeration has 4 bytes, for the compiler 8.",
+                              "For clang a structure of a char and a bit-field has 4 bytes, for "
+                              "the compiler 6.",
+                              "For clang integers are little-endian, for the compiler big-endian.",
+                              "For clang size_t is unsigned int, for the compiler unsigned long.",
+                              "For clang wchar_t is int, for the compiler long."}));
+        // Wide literals must fit the headers.
+        QCOMPARE(language.redefinitions, QList<Macro>({{"__WCHAR_TYPE__", "int"}}));
+        QVERIFY(languageOf(facts, {}, true).differingTypes.wideCharacterType.isEmpty());
+    }
+
+    void knowsTheTypesOfClangsTargets_data()
+    {
+        const Columns<QString, QByteArray> row("clang", "target");
+        for (const char *clang : {"clang-14", "clang-19"}) {
+            for (const QByteArray &target : targetNames())
+                row(clang + (' ' + target), clang, target);
+        }
+    }
+    void knowsTheTypesOfClangsTargets()
+    {
+        QFETCH(QString, clang);
+        QFETCH(QByteArray, target);
+        QList<QList<QByteArray>> variants {{}};
+        for (const QByteArray &option : layoutOptions(target)) {
+            // All targets are packed alike.
+            if (!option.startsWith("-fpack-struct") || option.endsWith("=2"))
+                variants << QList {option};
+        }
+        for (const QList<QByteArray> &variant : variants) {
+            const QByteArray answer = clangAnswer(
+                QList<QByteArray> {"--target=" + target, "-Wno-incompatible-ms-struct"} + variant,
+                false, assertionsOf(typesOfTarget(target, variant)), clang);
+            // Clang 14 does not have all of them.
+            const bool isUnknown = clang == "clang-14" && answer.contains("unknown target triple");
+            QVERIFY2(answer.isEmpty() || isUnknown, target + variant.join(' ') + ": " + answer);
+        }
+    }
+
+    void passesOptionsOn_data()
+    {
+        const Columns<QString, bool, QByteArray> row("options", "isCpp", "code");
+        row("trigraphs", "-trigraphs", false,
+            "int a?"
+            "?(2?"
+            "?);");
+        row("Microsoft's trigraphs", "/Zc:trigraphs", false,
+            "int a?"
+            "?(2?"
+            "?);");
+        row("no asm", "-fno-asm", false, "int asm; int typeof;");
+        row("unnamed members", "-fplan9-extensions", false,
+            "struct a { int b; }; struct c { struct a; } d; int *e = &d.b;");
+        row("float constants", "-fsingle-precision-constant", false,
+            "char a[sizeof(1.0) == 4 ? 1 : -1];");
+        row("packed", "-fpack-struct", false,
+            "struct { char a; int b; } c; char d[sizeof c == 5 ? 1 : -1];");
+        row("packed, the last counts", "-fpack-struct=1 /Zp2 -fcond-mismatch", false,
+            "struct { char a; int b; } c; char d[sizeof c == 6 ? 1 : -1];");
+        row("bit-fields", "-mms-bitfields", false,
+            "struct { char a : 4; int b : 4; } c; char d[sizeof c == 8 ? 1 : -1];");
+        row("aligned", "-malign-double", false,
+            "struct { char a; double b; } c; char d[sizeof c == 16 ? 1 : -1];");
+        row("a function of that name", "-ffreestanding -fno-builtin-printf", false,
+            "char *printf(void);\n#if __STDC_HOSTED__\n#error\n#endif");
+        row("old inline", "-fgnu89-inline", false, "#ifndef __GNUC_GNU_INLINE__\n#error\n#endif");
+        row("wchar_t of a header", "/Zc:wchar_t-", true, "typedef short wchar_t;");
+        row("words for operators", "-fno-operator-names -fno-access-control", true,
+            "class a { int and; } b; int c = b.and;");
+    }
+    void passesOptionsOn()
+    {
+        QFETCH(QString, options);
+        QFETCH(bool, isCpp);
+        QFETCH(QByteArray, code);
+        const auto takes = [&](const QStringList &words) {
+            QList<QByteArray> forClang {"--target=i386-unknown-none-elf"};
+            for (const QByteArray &option : passedOptions(words, isCpp).forClang)
+                forClang << option.split(' ');
+            return clangAnswer(forClang, isCpp, code).isEmpty();
+        };
+        QVERIFY(!takes({"cc"}));
+        QVERIFY(takes(("cc " + options).split(' ')));
+    }
+
+    void namesOptionsThatClangLacks()
+    {
+        const PassedOptions options = passedOptions(
+            {"-fgimple", "-fgnu89-inline", "-Wall", "-finput-charset=utf-8", "-fexec-charset=x y",
+             "-fpack-struct=1 -fplugin=x", "-fcond-mismatch", "-fcond-mismatch"},
+            true);
+        QCOMPARE(options.lacking, QStringList({"-fexec-charset=x y", "-fcond-mismatch"}));
+        QCOMPARE(options.forClang, QList<QByteArray>());
     }
 
     void takesTheSameCode_data()
@@ -134,16 +310,11 @@ private slots:
         QFETCH(Facts, facts);
         QFETCH(bool, isCpp);
         QFETCH(QByteArray, code);
-        const QTemporaryDir folder;
-        const QString source = folder.filePath(isCpp ? "x.cpp" : "x.c");
-        writeTestFile(source, code);
-        QStringList command {"clang", source, "-fsyntax-only", "-nostdlibinc"};
-        for (const QByteArray &option : languageOptions(facts, isCpp))
-            command << option;
+        QList<QByteArray> options = languageOf(facts, {}, isCpp).options;
         for (const Macro &macro : keywordDefinitions(facts))
-            command << "-D" + macro.name + '=' + macro.value;
-        const platform::ProgramRun clang = platform::runProgram(command, folder.path(), 60'000);
-        QVERIFY2(clang.succeeded(), clang.errors);
+            options << "-D" + macro.name + '=' + macro.value;
+        const QByteArray answer = clangAnswer(options, isCpp, code);
+        QVERIFY2(answer.isEmpty(), answer);
     }
 };
 

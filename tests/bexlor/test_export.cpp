@@ -1,5 +1,6 @@
 #include "fact_forms.h"
 #include "program_run.h"
+#include "type_assertions.h"
 
 #include "files.h"
 #include "row.h"
@@ -76,6 +77,41 @@ private slots:
         const QByteArray xml = cppcheckPlatform(facts);
         QVERIFY2(xml.contains("<int>2</int>") && xml.contains("<size_t>2</size_t>"), xml);
         QVERIFY2(!xml.contains("long") && !xml.contains("wchar_t") && !xml.contains("sign"), xml);
+    }
+
+    void assertsEachFact()
+    {
+        Facts facts;
+        QVERIFY(!typeAssertions(facts, false).contains("sizeof"));
+        facts.macros.known = {{"__BYTE_ORDER__", "4321"}};
+        facts.types.basic = {{"int", 4, 4}, {"void (*)(void)", 8, 8}};
+        facts.types.sizeType = "unsigned long";
+        facts.types.wideCharacterType = "int";
+        facts.types.charIsUnsigned = false;
+        facts.types.smallEnumSize = 4;
+        facts.types.bitFieldSize = 4;
+        facts.types.byteOrder = ByteOrder::LittleEndian;
+        const auto isAccepted = [this, &facts](bool isCpp) {
+            const char *file = isCpp ? "types.cpp" : "types.c";
+            writeTestFile(m_folder.filePath(file), typeAssertions(facts, isCpp));
+            return run({"gcc", "-ansi", "-pedantic-errors", "-fsyntax-only", file}).succeeded();
+        };
+        QVERIFY(isAccepted(false) && isAccepted(true));
+        const Facts right = facts;
+        const auto isRejected = [&](auto &fact, const auto &wrong) {
+            fact = wrong;
+            const bool rejects = !isAccepted(false) && !isAccepted(true);
+            facts = right;
+            return rejects;
+        };
+        QVERIFY(isRejected(facts.types.basic[0].size, 2));
+        QVERIFY(isRejected(facts.types.basic[1].alignment, 4));
+        QVERIFY(isRejected(facts.types.sizeType, QByteArray("unsigned long long")));
+        QVERIFY(isRejected(facts.types.wideCharacterType, QByteArray("unsigned int")));
+        QVERIFY(isRejected(facts.types.charIsUnsigned, true));
+        QVERIFY(isRejected(facts.types.smallEnumSize, 1));
+        QVERIFY(isRejected(facts.types.bitFieldSize, 8));
+        QVERIFY(isRejected(facts.types.byteOrder, ByteOrder::BigEndian));
     }
 
     void makesCppcheckSeeTypesAndMacros()

@@ -321,6 +321,35 @@ private slots:
         QVERIFY(workshop.read("stderr.log").contains("no-such-option"));
     }
 
+    void assertsTheTypes_data()
+    {
+        const Columns<QString, QString, QByteArray> row("product", "command", "says");
+        row("C", "kov", "gcc", "The compiler and clang 14 accept $.check.c.\n");
+        row("C++ of 1998", "kovpp", "g++ -std=c++98",
+            "The compiler and clang 14 accept $.check.cpp.\n");
+        row("C++ with a long wchar_t", "kovpp", "g++ -m32",
+            "The compiler and clang 14 accept $.check.cpp.\n");
+        row("C of 8 bits", "kov", "avr-gcc", "The compiler and clang 14 accept $.check.c.\n");
+        row("pointers of 3 bytes", "kov", "sdcc -mmcs51",
+            "The compiler accepts $.check.c, and clang 14 rejects it: $.check.c:");
+    }
+    void assertsTheTypes()
+    {
+        QFETCH(QString, product);
+        QFETCH(QString, command);
+        QFETCH(QByteArray, says);
+        const Workshop workshop;
+        const ProgramRun run = workshop.generate(product, command, {"-check"});
+        const QString folder = QDir(workshop.folder.path()).canonicalPath();
+        says.replace("$", folder.toLocal8Bit() + "/sub folder/mine");
+        QVERIFY2(run.output.contains(says), run.output);
+        QCOMPARE(run.succeeded(), !says.contains("rejects"));
+        // Another compiler does not accept the same.
+        const QString file = folder + "/sub folder/mine.check." + (product == "kov" ? "c" : "cpp");
+        const ProgramRun other = workshop.run({"arm-none-eabi-gcc", "-fsyntax-only", file});
+        QVERIFY(other.exitCode == 1 && other.errors.contains("calyx_size_of_"));
+    }
+
     void putsUpWithOddCompilers_data()
     {
         const Columns<QByteArray, QByteArray> row("script", "says");

@@ -135,15 +135,15 @@ private slots:
     {
         const Columns<QStringList, QString> row("command", "types");
         row("gcc", {"gcc"},
-            "short2/2 int4/4 long8/8 long double16/16 void *8/8 signed enum4 order1 "
+            "short2/2 int4/4 long8/8 long double16/16 void *8/8 signed enum4 bits4 order1 "
             "unsigned long|long|int");
         row("32 bits, other options",
-            {"gcc", "-m32", "-funsigned-char", "-fshort-wchar", "-fshort-enums",
-             "-mlong-double-64"},
-            "short2/2 int4/4 long4/4 long double8/4 void *4/4 unsigned enum1 order1 "
+            {"gcc", "-m32", "-funsigned-char", "-fshort-wchar", "-fshort-enums", "-mlong-double-64",
+             "-mms-bitfields"},
+            "short2/2 int4/4 long4/4 long double8/8 void *4/4 unsigned enum1 bits8 order1 "
             "unsigned int|int|unsigned short");
         row("8 bits", {"sdcc", "-mz80"},
-            "short2/1 int2/1 long4/1 void *2/1 unsigned enum1 order1 "
+            "short2/1 int2/1 long4/1 void *2/1 unsigned enum1 bits2 order1 "
             "unsigned int|int|unsigned long");
     }
     void measuresTypes()
@@ -157,9 +157,10 @@ private slots:
                     type.name))
                 shown += QString("%1%2/%3 ").arg(type.name).arg(type.size).arg(type.alignment);
         }
-        shown += QString("%1 enum%2 order%3 ")
+        shown += QString("%1 enum%2 bits%3 order%4 ")
                      .arg(types.charIsUnsigned.value() ? "unsigned" : "signed")
                      .arg(types.smallEnumSize)
+                     .arg(types.bitFieldSize)
                      .arg(int(types.byteOrder));
         shown += types.sizeType + '|' + types.pointerDifferenceType + '|' + types.wideCharacterType;
         QTEST(shown, "types");

@@ -34,6 +34,7 @@ Personality fullPersonality()
     facts.types.wideCharacterType = "signed char";
     facts.types.charIsUnsigned = true;
     facts.types.smallEnumSize = 1;
+    facts.types.bitFieldSize = 7;
     facts.types.byteOrder = ByteOrder::BigEndian;
     facts.keywords = {{"__a", Keyword::Qualifier, {}},
                       {"__b", Keyword::QualifierWithArgument, {}},
@@ -42,8 +43,10 @@ Personality fullPersonality()
                       {"__e", Keyword::Undetermined, {}}};
     facts.leniencies = {"return-type", "implicit-int"};
     facts.searchPath = {{"/a b", "/c"}, {"/q"}};
-    return composePersonality(arguments, facts, {"-include", "x.h", "-imacros", "y z.h"},
-                              "-DFROM_TEMPLATE=1\n# Language\n#: keyword __f qualifier");
+    const CommandParts parts {
+        {"cc", "-fcond-mismatch", "/Zc:wchar_t-"}, {}, {"-include", "x.h", "-imacros", "y z.h"}};
+    return composePersonality(arguments, facts, parts,
+                              "-DFROM_TEMPLATE=1\n# Search path\n#: keyword __f qualifier");
 }
 
 } // namespace
@@ -58,6 +61,10 @@ private slots:
         const Personality full = fullPersonality();
         QVERIFY(full.keywordDefinitions.size() == 3 && full.includedFirst.size() == 3);
         QCOMPARE(full.searchPath.size(), 6);
+        QCOMPARE(full.lacking, QStringList {"-fcond-mismatch"});
+        QVERIFY(!full.typesOfClang.basic.isEmpty()
+                && !full.typesOfClang.pointerDifferenceType.isEmpty());
+        QVERIFY(full.language.contains(Option {"-Xclang", "-fno-wchar"}));
         QCOMPARE(full.includedFirst.first(), Option({"-include", "/first \"one\".h"}));
         Personality bare;
         Personality little = full;
@@ -106,20 +113,26 @@ private slots:
         for (const char *value : {"a \"b\\\" c\"", "'x' \\", "# no comment", "$HOME `id` %PATH%",
                                   "@file", "((char)-1)", "", "-include x"})
             words << QString("-DM%1=%2").arg(words.size()).arg(value);
-        words << "-DF(a,b)=a \"q\" b";
+        words << "-DF(a,b)=a \"q\" b"
+              << "-DOVERRIDDEN=1";
         Facts facts;
         facts.macros.known = macrosIn(platform::runProgram(words, folder.path(), 60'000).output);
         QVERIFY(facts.macros.known.size() > 200);
+        writeTestFile(folder.filePath("first/x.h"), "#define X 1\n");
+        writeTestFile(folder.filePath("own/x.h"), "#error\n");
+        facts.searchPath.directories = QStringList {folder.filePath("own")};
+        const QByteArray overriding = "-UOVERRIDDEN\n-DOVERRIDDEN=2\n-isystem "
+                                    + folder.filePath("first").toLocal8Bit() + "\n-include x.h";
         const QString path = folder.filePath("odd \"name\".p_c");
-        writeTestFile(path,
-                      personalityText(composePersonality(arguments, facts, {}, "-DTEMPLATE=1")));
+        writeTestFile(path, personalityText(composePersonality(arguments, facts, {}, overriding)));
         const platform::ProgramRun seen = platform::runProgram(
             {"clang", "--config", path, "-dM", "-E", source}, folder.path(), 60'000);
         QCOMPARE(seen.errors, QByteArray());
         QList<Macro> macros = macrosIn(seen.output);
         const QList<Macro> added = keywordDefinitions(facts);
         macros.removeIf([&added](const Macro &macro) { return added.contains(macro); });
-        facts.macros.known << Macro {"TEMPLATE", "1"};
+        facts.macros.known.removeOne(Macro {"OVERRIDDEN", "1"});
+        facts.macros.known << Macro {"OVERRIDDEN", "2"} << Macro {"X", "1"};
         QCOMPARE(sorted(macros), sorted(facts.macros.known));
     }
 
@@ -138,9 +151,10 @@ private slots:
         arguments.headerDirectories = QStringList {at("searched"), at("user"), at("empty")};
         Facts facts;
         facts.searchPath = {{at("own"), at("intrinsics"), at("searched")}, {at("quoted")}};
+        CommandParts parts;
         const auto shown = [&] {
             QStringList lines;
-            for (const Option &option : composePersonality(arguments, facts, {}, {}).searchPath)
+            for (const Option &option : composePersonality(arguments, facts, parts, {}).searchPath)
                 lines << option.join(' ');
             return lines.join('\n').replace(at(""), "");
         };
@@ -148,6 +162,11 @@ private slots:
             shown(),
             "-nostdlibinc\n-D_GCC_NEXT_LIMITS_H=\n-isystem stand-in\n-iquote quoted\n-isystem own\n"
             "-idirafter intrinsics\n-idirafter searched\n-idirafter user");
+        // What the command names by -I, but for what the compiler has kept in its own path.
+        parts.includeDirectories = QStringList {at("user"), at("own"), at("searched")};
+        QCOMPARE(shown(),
+                 "-nostdlibinc\n-D_GCC_NEXT_LIMITS_H=\n-I stand-in\n-iquote quoted\n-I own\n"
+                 "-idirafter intrinsics\n-idirafter searched\n-idirafter user");
         facts.macros.known = {{"__clang__", "1"}};
         QVERIFY(shown().startsWith("-nostdinc\n") && shown().contains("-isystem intrinsics"));
     }
