@@ -13,6 +13,8 @@
 // Of more headers than that, 400 unless said otherwise and all for 0, an evenly spread part is
 // taken.
 
+#include "compilers.h"
+
 #include "dialects.h"
 #include "personality.h"
 
@@ -23,115 +25,12 @@
 #include <QMap>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <atomic>
 #include <cstdio>
 #include <thread>
 
 namespace {
-
-struct Subject
-{
-    QString name;
-    QString command;
-    QString target; ///< clang's
-    bool isCpp;
-    bool isSmall; ///< a compiler with small buffers, whose objects are text
-    bool isCross;
-    QStringList directories;
-    QStringList programs;          ///< of /usr/bin, given as a binary directory
-    QList<QByteArray> listedNames; ///< by its manual, where it cannot list them itself
-};
-
-const QString hostGcc = QStringLiteral("/usr/lib/gcc/x86_64-linux-gnu/12");
-
-const Subject subjects[] = {
-    {"gcc", "gcc", "x86_64-linux-gnu", false, false, false, {hostGcc, "/usr/include"}, {}, {}},
-    {"g++", "g++", "x86_64-linux-gnu", true, false, false, {hostGcc, "/usr/include"}, {}, {}},
-    {"clang",
-     "clang",
-     "x86_64-linux-gnu",
-     false,
-     false,
-     false,
-     {"/usr/lib/llvm-14/lib/clang/14.0.6/include", "/usr/include"},
-     {"/usr/lib/x86_64-linux-gnu/libclang-cpp.so.14"},
-     {}},
-    {"tcc",
-     "tcc",
-     "x86_64-linux-gnu",
-     false,
-     false,
-     false,
-     {"/usr/lib/x86_64-linux-gnu/tcc/include", "/usr/include"},
-     {"/usr/bin/tcc"},
-     {}},
-    {"arm-none-eabi-gcc",
-     "arm-none-eabi-gcc",
-     "arm-none-eabi",
-     false,
-     false,
-     true,
-     {"/usr/lib/gcc/arm-none-eabi/12.2.1", "/usr/lib/arm-none-eabi/include"},
-     {},
-     {}},
-    {"avr-gcc",
-     "avr-gcc",
-     "avr",
-     false,
-     false,
-     true,
-     {"/usr/lib/gcc/avr/5.4.0", "/usr/lib/avr/include"},
-     {},
-     {}},
-    {"riscv64-unknown-elf-gcc",
-     "riscv64-unknown-elf-gcc -isystem /usr/lib/picolibc/riscv64-unknown-elf/include",
-     "riscv64-unknown-elf",
-     false,
-     false,
-     true,
-     {"/usr/lib/gcc/riscv64-unknown-elf/12.2.0", "/usr/lib/picolibc/riscv64-unknown-elf/include"},
-     {},
-     {}},
-    {"MinGW-w64 gcc",
-     "x86_64-w64-mingw32-gcc",
-     "x86_64-w64-mingw32",
-     false,
-     false,
-     true,
-     {"/usr/lib/gcc/x86_64-w64-mingw32/12-win32", "/usr/x86_64-w64-mingw32/include"},
-     {},
-     {}},
-    {"sdcc mcs51",
-     "sdcc -mmcs51",
-     "avr",
-     false,
-     true,
-     true,
-     {"/usr/share/sdcc/include"},
-     {"/usr/bin/sdcc", "/usr/bin/sdcpp"},
-     {}},
-    {"sdcc z80",
-     "sdcc -mz80",
-     "avr",
-     false,
-     true,
-     true,
-     {"/usr/share/sdcc/include"},
-     {"/usr/bin/sdcc", "/usr/bin/sdcpp"},
-     {}},
-    {"cc65",
-     "cl65 -t none",
-     "avr",
-     false,
-     true,
-     true,
-     {"/usr/share/cc65/include"},
-     {"/usr/bin/cc65", "/usr/bin/cl65"},
-     {"__CC65__", "__CC65_STD__", "__CC65_STD_C89__", "__CC65_STD_C99__", "__CC65_STD_CC65__",
-      "__STDC_HOSTED__"}},
-};
 
 struct Run
 {
@@ -240,24 +139,7 @@ int peakMemory(qint64 id)
 void measure(const Subject &subject, const QString &generator, int limit)
 {
     const QTemporaryDir folder;
-    const QDir top(folder.path());
-    top.mkdir("programs");
-    for (const QString &program : subject.programs)
-        QFile::link(program, folder.filePath("programs/" + QFileInfo(program).fileName()));
-
-    QStringList arguments {subject.isCpp ? "kovpp" : "kov",
-                           subject.isCross ? "ccmp" : "cmp",
-                           '"' + subject.command + '"',
-                           "-o",
-                           "-c",
-                           "-D",
-                           subject.isSmall && subject.name != "cc65" ? ".rel" : ".o",
-                           "%c %o %e %d%j %s "};
-    for (const QString &directory : subject.directories + QStringList {folder.filePath("programs")})
-        arguments << "-i" << directory;
-    arguments << "-op" << folder.filePath("x.p_c");
-    if (subject.isSmall)
-        arguments << "-rfs";
+    const QStringList arguments = generatorArguments(subject, folder.path(), "x.p_c");
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("BEXLOR_LEARN_ONLY", "1");
@@ -345,11 +227,7 @@ int main(int argc, char *argv[])
     const QStringList chosen = arguments.mid(3);
     std::printf("%-24s %9s %9s %5s %9s %9s %8s %7s %6s\n", "compiler", "names", "values", "wrong",
                 "headers", "peer", "started", "seconds", "MB");
-    for (const Subject &subject : subjects) {
-        const bool isInstalled =
-            !QStandardPaths::findExecutable(subject.command.section(' ', 0, 0)).isEmpty();
-        if (isInstalled && (chosen.isEmpty() || chosen.contains(subject.name)))
-            measure(subject, QFileInfo(arguments[1]).absoluteFilePath(), limit);
-    }
+    for (const Subject &subject : installedSubjects(chosen))
+        measure(subject, QFileInfo(arguments[1]).absoluteFilePath(), limit);
     return 0;
 }

@@ -38,11 +38,16 @@ std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const A
     const std::optional<ProbeAnswer> first = compileFirstProbe(progress, runner, logFolder);
     if (!first || !checkControls(progress, runner, *first))
         return {};
-    const DialectAnswers listed = askForListings(progress, compiler, *first, folder);
-    HeaderScan scan = readDirectories(progress, arguments.headerDirectories);
-    if (listed.macros.isEmpty())
-        scan.names << namesOfCompiler(runner.compiler(), listed.versionLine);
+    DialectAnswers listed = askForListings(progress, compiler, *first, folder);
     const Questions questions = findHowToAsk(progress, runner);
+    QStringList directories = arguments.headerDirectories;
+    if (directories.isEmpty() && listed.searchPath.directories.isEmpty()) {
+        directories = findDirectoriesBeside(progress, questions);
+        listed.searchPath.directories = directories;
+    }
+    HeaderScan scan = readDirectories(progress, directories);
+    if (listed.macros.isEmpty())
+        scan.names << namesOfCompiler(compiler, listed.versionLine);
     const std::optional<MacroFacts> macros =
         findMacros(progress, questions, listed.macros, scan.names, logFolder);
     if (!macros)

@@ -53,3 +53,11 @@ QList<bool> itemsAcceptedApart(const AskProbes &ask, const QByteArray &prelude,
 std::optional<QList<bool>> itemsWithoutMessage(const AskProbes &ask, const QByteArray &prelude,
                                                const QList<QByteArray> &items,
                                                const QByteArray &control, ProbeLimits limits);
+
+/// Which of \a items draw fewer messages behind \a prelude than those of \a others in their places,
+/// for a compiler that has something to say about every line. The last of both is a pair of which
+/// it is known that the compiler must. Nothing when it does not.
+std::optional<QList<bool>> itemsWithFewerMessages(const AskProbes &ask, const QByteArray &prelude,
+                                                  const QList<QByteArray> &items,
+                                                  const QList<QByteArray> &others,
+                                                  ProbeLimits limits);

@@ -76,6 +76,7 @@ Compiler findCompiler(const Arguments &arguments)
 QStringList probeCommand(const Compiler &compiler, const QString &source, const QString &output,
                          CompileTo goal)
 {
+    const bool isNamed = goal == CompileTo::Program || compiler.namesObjects;
     QList<Piece> pieces;
     for (const OrderToken &token : parseOrderString(compiler.layout.order)) {
         switch (token.part) {
@@ -84,10 +85,10 @@ QStringList probeCommand(const Compiler &compiler, const QString &source, const 
                 pieces.append({word});
             break;
         case CommandPart::OutputFlag:
-            pieces.append({compiler.layout.outputFlag, token.spaceFollows});
+            pieces.append({isNamed ? compiler.layout.outputFlag : QString(), token.spaceFollows});
             break;
         case CommandPart::OutputFile:
-            if (namesOutput(compiler.layout))
+            if (isNamed && namesOutput(compiler.layout))
                 pieces.append({output});
             break;
         case CommandPart::DefineFlag:

@@ -16,6 +16,7 @@ struct Compiler
     QStringList defines; ///< NAME or NAME=VALUE, passed with every probe
     bool isCpp = false;
     bool isCross = false;
+    bool namesObjects = true; ///< in the command; some compilers let only a program be named
 };
 
 /// The compiler of \a arguments, its program found where the wizard finds it too. When there is no
@@ -28,7 +29,8 @@ enum class CompileTo { Object, Program };
 /// The command that compiles \a source, in the compiler's order. Where it names an output, that is
 /// \a output. A token without a trailing space is joined to the next one: "-o" and "probe.o" become
 /// "-oprobe.o". An output flag that is empty leaves out the output's name too, and an empty define
-/// flag the defines; for a program the object flag is left out.
+/// flag the defines; for a program the object flag is left out, and for an object its name where
+/// the compiler does not take one.
 QStringList probeCommand(const Compiler &compiler, const QString &source, const QString &output,
                          CompileTo goal = CompileTo::Object);
 

@@ -28,7 +28,8 @@ struct Controls
     QSet<int> exitCodes; ///< with which it rejects; it may be 0 when it then leaves no object file
     bool givesReasons = true; ///< a message with every rejection
     bool namesLines = true;   ///< in each of these messages
-    bool isQuiet = true;      ///< names no line of what it accepts
+    bool stopsAtFirstError = false;
+    bool isQuiet = true; ///< names no line of what it accepts
 
     /// Whether an error of \a kind is rejected, so that what compiles has none.
     bool rejects(ErrorKind kind) const { return !overlooked.contains(kind); }

@@ -21,7 +21,7 @@ const QRegularExpression &readingOption()
         u"^((?:-include-pch|-include|-imacros|-iprefix|-iwithprefixbefore|-iwithprefix|-isystem|"
         "-iquote|-idirafter|-isysroot|-iframework|-imsvc|/imsvc|-ivfsoverlay|-cxx-isystem|"
         "[-/]external:I|[-/]winsysroot|[-/]vctoolsdir|[-/]FI|[-/]FU|[-/]AI|-fi(?==)|"
-        "-fplugin(?==)|-fmodule-map-file(?==)|--?sysroot|--?specs|--?gcc-toolchain|--config|"
+        "-fplugin(?==)|-fmodule-map-file(?==)|--?sysroot|--?sp\\wcs|--?gcc-toolchain|--config|"
         "-resource-dir|--include-directory|--include-file|--include-dir|--include_path|--include|"
         "--asm-include-dir|--bin-include-dir|--lib-path|--cfg-path|--peep-file|--dlib_config|"
         "--?preinclude|--system_include_dir|--option-file|--cmd_file|-?-via|-subcommand|"

@@ -2,6 +2,7 @@
 
 #include "program_run.h"
 
+#include <QHash>
 #include <QList>
 #include <QSet>
 
@@ -12,8 +13,9 @@ struct ProbeAnswer
     platform::ProgramRun run;
     QSet<int> lines;    ///< of the probe that its errors name, or else its other messages
     QSet<int> allLines; ///< that any message names; the first line is 1
-    QByteArray bytes;   ///< of the object file, read from hexadecimal text where it is that; of a
-                        ///< program what it prints
+    QHash<int, int> messageCounts; ///< how many messages name each line
+    QByteArray bytes; ///< of the object file, read from hexadecimal text where it is that; of a
+                      ///< program what it prints
 
     bool leftNothing = false;    ///< neither an object file nor anything else
     bool lacksConstants = false; ///< that its source has, though others can be read back

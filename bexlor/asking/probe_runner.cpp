@@ -14,6 +14,10 @@ namespace {
 
 const int usualTimeLimit = 60'000; // milliseconds for one compilation
 
+// Of messages, in bytes. Errors behind it would be overlooked, and a compiler may remark on every
+// line of the largest probe several times.
+const qsizetype mostMessages = 64'000'000;
+
 // Behind that many answers that another try has mended, a compiler is taken for one that does not
 // work twice at a time.
 const int mostMended = 3;
@@ -24,6 +28,7 @@ const int manyErrors = 30;
 
 const ProbeLimits usualLimits {20'000, 500'000};
 const ProbeLimits smallLimits {99, 4000};
+const ProbeLimits widerLimits {2000, 50'000};
 
 /// The usual one, or what tests set, in milliseconds.
 int timeLimit()
@@ -64,6 +69,14 @@ QStringList ProbeRunner::command(CompileTo goal) const
     return probeCommand(m_compiler, probeName(m_compiler.isCpp), output, goal);
 }
 
+ProbeAnswer ProbeRunner::tryWithoutObjectName()
+{
+    m_compiler.namesObjects = false;
+    const ProbeAnswer answer = ask(acceptedProbe);
+    m_compiler.namesObjects = !answer.compiled();
+    return answer;
+}
+
 bool ProbeRunner::learnControls(const ProbeAnswer &accepted)
 {
     const auto ask = [this](const QByteArray &source) {
@@ -72,18 +85,49 @@ bool ProbeRunner::learnControls(const ProbeAnswer &accepted)
     const std::optional<Controls> controls = askControls(ask, accepted);
     m_knowsControls = controls.has_value();
     m_controls = controls.value_or(Controls());
-    if (m_knowsControls)
+    if (m_knowsControls) {
         liftErrorLimit();
+        widenLimits();
+    }
     return m_knowsControls;
 }
 
-/// Adds the option to the command that makes the compiler name all errors, if it understands it.
+/// How many of many errors the compiler names. They are not alike, since it may report those once,
+/// and it may pass over the declaration behind each.
+int ProbeRunner::errorsNamed() const
+{
+    QByteArray source;
+    for (int i = 0; i < manyErrors; ++i)
+        source += "int calyx_" + QByteArray::number(i) + " = ;\n" + acceptedProbe;
+    int count = 0;
+    for (const int line : askOnce(source, CompileTo::Object).lines)
+        count += line % 2;
+    return count;
+}
+
+/// Adds the option to the command that makes the compiler name all errors, if it needs it and
+/// understands it.
 void ProbeRunner::liftErrorLimit()
 {
+    const int named = errorsNamed();
+    m_controls.stopsAtFirstError = named < 2;
+    if (named == manyErrors || m_controls.stopsAtFirstError)
+        return;
     m_compiler.command << withoutErrorLimit;
-    const QByteArray source = rejectedProbe.repeated(manyErrors);
-    if (askOnce(source, CompileTo::Object).lines.size() != manyErrors)
+    if (errorsNamed() != manyErrors)
         m_compiler.command.removeLast();
+}
+
+/// Many a compiler that is said to need small probes takes larger ones.
+void ProbeRunner::widenLimits()
+{
+    if (m_limits.bytes >= widerLimits.bytes)
+        return;
+    QByteArray source;
+    for (int i = 0; i < widerLimits.declarations; ++i)
+        source += "extern int calyx_" + QByteArray::number(i) + ";\n";
+    if (askOnce(source, CompileTo::Object).compiled())
+        m_limits = widerLimits;
 }
 
 ProbeAnswer ProbeRunner::ask(const QByteArray &source, CompileTo goal) const
@@ -168,9 +212,10 @@ ProbeAnswer ProbeRunner::askIn(const QString &folder, const QByteArray &source,
     if (!answer.isAsked)
         return answer;
     ++m_started;
-    answer.run = platform::runProgram(command(goal), folder, timeLimit());
+    answer.run = platform::runProgram(command(goal), folder, timeLimit(), mostMessages);
     const QByteArray messages = answer.run.errors + '\n' + answer.run.output;
-    answer.allLines = namedLines(messages, name.toLatin1());
+    answer.messageCounts = messagesOnLines(messages, name.toLatin1());
+    answer.allLines = QSet<int>(answer.messageCounts.keyBegin(), answer.messageCounts.keyEnd());
     answer.lines = namedLines(messages, name.toLatin1(), true);
     if (answer.lines.isEmpty())
         answer.lines = answer.allLines;

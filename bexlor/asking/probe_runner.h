@@ -12,6 +12,10 @@ public:
     /// \a folder is where the probes are put; it must exist.
     ProbeRunner(const Compiler &compiler, const QString &folder, bool smallProbes);
 
+    /// Compiles the accepted probe without a name for its object, and does so from then on if it
+    /// compiles. For compilers that refuse such a name and leave the object under the usual one.
+    ProbeAnswer tryWithoutObjectName();
+
     /// Learns from control probes what the compiler's answers are worth; from then on an answer
     /// that is unlike them is not taken for one. \a accepted is that to the accepted probe. False
     /// when the compiler does not answer twice alike.
@@ -41,11 +45,13 @@ private:
     ProbeAnswer askIn(const QString &folder, const QByteArray &source, CompileTo goal) const;
     ProbeAnswer askAgain(const ProbeAnswer &first, const QByteArray &source, CompileTo goal) const;
     bool isExpected(const ProbeAnswer &answer) const;
+    int errorsNamed() const;
     void liftErrorLimit();
+    void widenLimits();
 
     Compiler m_compiler;
     const QString m_folder;
-    const ProbeLimits m_limits;
+    ProbeLimits m_limits;
     Controls m_controls;
     bool m_knowsControls = false;
     mutable std::optional<ProbeAnswer> m_malfunction;

@@ -1,18 +1,20 @@
 #pragma once
 
-#include "bisection.h"
-#include "probe_runner.h"
+#include "constant_arrays.h"
+
+#include <memory>
 
 /// Larger questions to a compiler, each answered by as few probes as possible.
 class Questions
 {
 public:
-    /// Finds out how constants can be read back: from the object file or, from a native compiler,
-    /// by running a program; and which character set their texts are in.
+    /// Finds out how constants can be learned: read back from the object file or, from a native
+    /// compiler, by running a program; and else integers alone, from what is rejected.
     explicit Questions(const ProbeRunner &runner);
 
-    /// Whether constants can be read back at all.
-    bool readsConstants() const { return m_source != ConstantSource::None; }
+    /// Whether numbers can be learned at all, and texts, which can be read back only.
+    bool readsNumbers() const { return m_numbers != nullptr; }
+    bool readsTexts() const { return m_texts != nullptr; }
     const ProbeRunner &runner() const { return m_runner; }
     bool isCpp() const { return m_runner.compiler().isCpp; }
     ProbeLimits limits() const { return m_runner.limits(); }
@@ -31,13 +33,22 @@ public:
                                               const QList<QByteArray> &items,
                                               const QByteArray &control) const;
 
+    /// Which of \a items draw fewer messages than \a others; see itemsWithFewerMessages().
+    std::optional<QList<bool>> withFewerMessages(const QByteArray &prelude,
+                                                 const QList<QByteArray> &items,
+                                                 const QList<QByteArray> &others) const;
+    /// Whether a probe with several errors tells the first only.
+    bool stopsAtFirstError() const { return m_runner.controls().stopsAtFirstError; }
+    /// Whether what is accepted draws no message.
+    bool isQuiet() const { return m_runner.controls().isQuiet; }
+
     /// What the compiler says to each of \a sources, in a probe of its own.
     QList<ProbeAnswer> eachAlone(const QList<QByteArray> &sources) const;
     /// Which of \a items, most of which are rejected, are accepted; see itemsAcceptedApart().
     QList<bool> acceptedApart(const QList<QByteArray> &items) const;
 
     /// The texts of string literals, each given as an expression that may only be one behind
-    /// \a prelude. No value for one that is not.
+    /// \a prelude. No value for one that is not, and none where texts are not read.
     QList<std::optional<QByteArray>> texts(const QByteArray &prelude,
                                            const QList<QByteArray> &literals) const;
 
@@ -51,25 +62,7 @@ public:
                            const QByteArray &prelude = {}) const;
 
 private:
-    enum class ConstantSource { None, ObjectFile, RunningProgram };
-
-    bool readsTexts();
-    bool learnCharacterSet();
-    QList<std::optional<QByteArray>> arrays(const QByteArray &prelude,
-                                            const QList<QByteArray> &elements,
-                                            const QByteArray &characters) const;
-    void readContents(const QByteArray &source, const Batch &batch, const ProbeAnswer &first,
-                      const QByteArray &characters,
-                      QList<std::optional<QByteArray>> &contents) const;
-    QList<Batch> readBatches(const QByteArray &prelude, const QList<QByteArray> &items,
-                             const QList<Batch> &batches, const QByteArray &characters,
-                             QList<std::optional<QByteArray>> &contents) const;
-    QByteArray bytesOf(const QByteArray &source, const Batch &batch,
-                       const ProbeAnswer &answer) const;
-    AskProbes askProbes() const;
-
     const ProbeRunner &m_runner;
-    ConstantSource m_source = ConstantSource::None;
-    bool m_isProven = false; ///< that constants come back from there
-    QByteArray m_characters; ///< that the compiler's 256 codes stand for; empty if for themselves
+    std::shared_ptr<const ConstantArrays> m_texts;
+    std::shared_ptr<const NumberSource> m_numbers;
 };

@@ -13,7 +13,7 @@ const qint64 largestConfiguration = 1'000'000;
 
 // What configuration files beside programs are called.
 const QStringList configurationFiles {u"*.cfg"_s, u"*.cnf"_s, u"*.conf"_s,  u"*.ini"_s, u"*.opt"_s,
-                                      u"*.rc"_s,  u"*.rsp"_s, u"*.specs"_s, u"*.via"_s, u"*.xcl"_s};
+                                      u"*.rc"_s,  u"*.rsp"_s, u"*.sp?cs"_s, u"*.via"_s, u"*.xcl"_s};
 
 /// \a text with "_" for what no name may hold.
 QString asName(QString text)

@@ -2,6 +2,8 @@
 
 #include "directory_walk.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <algorithm>
 #include <cstring>
 #include <fstream>
@@ -332,6 +334,23 @@ QList<ScannedName> sortedNames(const NameTable &table)
 }
 
 } // namespace
+
+QList<HeaderFile> headersNear(const QStringList &directories)
+{
+    QStringList all = directories;
+    for (const QString &directory : directories) {
+        const QDir above(directory);
+        for (const QString &name : above.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+            all << above.filePath(name);
+    }
+    all.removeDuplicates();
+    QList<HeaderFile> headers;
+    for (const QString &directory : all) {
+        for (const QString &name : QDir(directory).entryList(QDir::Files))
+            headers.append({directory, name});
+    }
+    return headers;
+}
 
 HeaderScan scanHeaders(const QStringList &directories, ScanProgress &progress)
 {

@@ -52,3 +52,6 @@ HeaderScan scanHeaders(const QStringList &directories, ScanProgress &progress);
 /// are defined by options, and those that are spelled as macros are. Files that cannot be read have
 /// none.
 QList<ScannedName> scanProgramFiles(const QStringList &files);
+
+/// The files in \a directories and in the folders right below them, unread.
+QList<HeaderFile> headersNear(const QStringList &directories);

@@ -93,27 +93,54 @@ public:
     QList<qsizetype> keywordsWith(Keyword::Form form, const QList<QByteArray> &settled) const;
 
 private:
+    void tryAtOnce(std::span<const Use> uses, const QList<qsizetype> &indices, Ways ways);
+    bool isNeeded(const Use &use, qsizetype keyword) const;
+
     const Questions &m_questions;
     const QList<QByteArray> &m_keywords;
 };
 
 void FormSearch::tryUses(std::span<const Use> uses, const QList<qsizetype> &indices, Ways ways)
 {
+    if (!m_questions.stopsAtFirstError()) {
+        tryAtOnce(uses, indices, ways);
+        return;
+    }
+    // Each that is rejected takes a probe, so that none is tried where it makes no difference.
+    // Behind its first error such a compiler does not go astray.
+    for (const Use &use : uses)
+        tryAtOnce({&use, 1}, indices, Together);
+}
+
+void FormSearch::tryAtOnce(std::span<const Use> uses, const QList<qsizetype> &indices, Ways ways)
+{
     QList<QByteArray> lines;
     QList<std::pair<qsizetype, int>> asked; // keyword and form
     for (const qsizetype index : indices) {
         for (const Use &use : uses) {
-            // An unknown name must not pass for a type.
-            if (use.form == Keyword::TypeName && !m_questions.rejects(ErrorKind::UnknownName))
+            if (!isNeeded(use, index))
                 continue;
             lines << lineOf(use, m_keywords[index], lines.size());
             asked << std::pair(index, int(use.form));
         }
     }
     const QList<bool> isAccepted =
-        ways == Apart ? m_questions.acceptedApart(lines) : m_questions.accepted({}, lines);
+        ways == Apart ? m_questions.acceptedApart(lines)
+                      : m_questions.accepted({}, lines, m_questions.stopsAtFirstError());
     for (const auto &[index, form] : selected(asked, isAccepted))
         forms[index] << form;
+}
+
+/// Whether it makes a difference to the form of a keyword how \a use is taken.
+bool FormSearch::isNeeded(const Use &use, qsizetype keyword) const
+{
+    if (forms[keyword].contains(use.form))
+        return false;
+    if (use.form != Keyword::TypeName)
+        return true;
+    // An unknown name must not pass for a type. What qualifies is none, where types show.
+    return m_questions.rejects(ErrorKind::UnknownName)
+        && (forms[keyword].isEmpty() || !m_questions.rejects(ErrorKind::ConflictingDeclaration));
 }
 
 void FormSearch::keepTypesApart()

@@ -25,6 +25,14 @@ bool isReservedFunction(const QByteArray &name)
         || name.startsWith("__atomic_");
 }
 
+/// The order in which names are asked for: alphabetical, but what may begin an assembler's text
+/// comes last, since a compiler may take all that follows for it.
+bool isAskedBefore(const QByteArray &a, const QByteArray &b)
+{
+    const bool isAssembler = a.contains("asm");
+    return isAssembler == b.contains("asm") ? a < b : !isAssembler;
+}
+
 /// The names that may be keywords: those used in headers and the well-known ones.
 QList<QByteArray> candidates(const QList<ScannedName> &names, bool isCpp, const MacroFacts &macros)
 {
@@ -40,7 +48,7 @@ QList<QByteArray> candidates(const QList<ScannedName> &names, bool isCpp, const 
         if (!isMacro.contains(name) && !isStandardKeyword(name, isCpp) && !isSpecialName(name))
             sorted << name;
     }
-    std::sort(sorted.begin(), sorted.end());
+    std::sort(sorted.begin(), sorted.end(), &isAskedBefore);
     return sorted;
 }
 
@@ -71,7 +79,7 @@ QList<QByteArray> undeclarableNames(const Questions &questions, const QList<QByt
             types << name;
     }
     rejected << undeclarable(questions, "static int @ = 0;\n", types);
-    std::sort(rejected.begin(), rejected.end());
+    std::sort(rejected.begin(), rejected.end(), &isAskedBefore);
     return rejected;
 }
 

@@ -1,6 +1,8 @@
 #include "learning.h"
 
 #include "macro_definitions.h"
+#include "macro_values.h"
+#include "redefinitions.h"
 #include "well_known_names.h"
 
 #include <QRegularExpression>
@@ -32,12 +34,16 @@ QByteArray unquoted(const QByteArray &text)
     return text.mid(1, text.size() - 2).trimmed();
 }
 
-/// The definitions by which quoted() works with this compiler.
-QByteArray quoteDefinitions(const Questions &questions)
+/// The definitions by which quoted() works with this compiler. Nothing where texts are not read
+/// back, or by a preprocessor older than ISO C, which has no operator for it.
+std::optional<QByteArray> quoteDefinitions(const Questions &questions)
 {
-    const bool hasVariadic =
-        questions.texts(variadicQuote, {quoted("x, y")}).first() == QByteArray("~ x, y ~");
-    return hasVariadic ? variadicQuote : plainQuote;
+    const std::pair<QByteArray, QByteArray> quotes[] = {{variadicQuote, "x, y"}, {plainQuote, "x"}};
+    for (const auto &[quote, text] : quotes) {
+        if (questions.texts(quote, {quoted(text)}).first() == "~ " + text + " ~")
+            return quote;
+    }
+    return {};
 }
 
 /// What each of \a expressions becomes behind \a prelude, which begins with the quote's
@@ -89,17 +95,6 @@ QList<QByteArray> definedNames(const Questions &questions, const QList<QByteArra
     for (const QByteArray &name : suspects)
         tests << "defined " + name;
     return selected(suspects, questions.conditions(tests));
-}
-
-/// Which of \a macros the compiler has with exactly that definition: it accepts the same one again
-/// without a word. Nothing when it would accept another one as well.
-std::optional<QList<bool>> confirmed(const Questions &questions, const QList<Macro> &macros)
-{
-    QList<QByteArray> definitions;
-    for (const Macro &macro : macros)
-        definitions << "#define " + macro.name + ' ' + macro.value + '\n';
-    return questions.withoutMessage("#define CALYX_CONTROL 1\n", definitions,
-                                    "#define CALYX_CONTROL 2\nextern int calyx_end;\n");
 }
 
 /// Whether a compiler may refuse to have the macro defined again or taken back, whatever its value
@@ -155,13 +150,6 @@ MacroFacts withBareValues(const Questions &questions, const QByteArray &quote,
     return facts;
 }
 
-/// A function-like macro, and the definitions that it may have, the likeliest first.
-struct OpenMacro
-{
-    QByteArray name;
-    QList<Macro> definitions;
-};
-
 /// For each of the function-like macros \a names the definitions that it may have.
 QList<OpenMacro> possibleDefinitions(const Questions &questions, const QByteArray &quote,
                                      const QList<QByteArray> &names)
@@ -179,32 +167,32 @@ QList<OpenMacro> possibleDefinitions(const Questions &questions, const QByteArra
     for (qsizetype i = 0; i < names.size(); ++i) {
         const Macro ofItself {names[i], names[i]};
         macros.append(
-            {names[i], QList<Macro> {ofItself} + functionLikeDefinitions(names[i], uses[i])});
+            {names[i], QList<Macro> {ofItself} + functionLikeDefinitions(names[i], uses[i]), {}});
     }
     return macros;
 }
 
-/// The function-like macros \a names, each with the first definition that the compiler confirms.
-MacroFacts learnFunctionLike(const Questions &questions, const QByteArray &quote,
-                             const QList<QByteArray> &names)
+/// The macros \a defined from the texts that they become.
+MacroFacts learnByTexts(const Questions &questions, const QByteArray &quote,
+                        const QList<QByteArray> &defined)
 {
+    const QList<std::optional<QByteArray>> texts = expanded(questions, quote, defined);
     MacroFacts facts;
-    QList<OpenMacro> open = possibleDefinitions(questions, quote, names);
-    while (!open.isEmpty()) {
-        QList<Macro> tried;
-        for (OpenMacro &macro : open)
-            tried << macro.definitions.takeFirst();
-        const QList<Macro> refused = keepConfirmed(questions, tried, facts);
-        QList<OpenMacro> next;
-        for (qsizetype i = 0; i < open.size(); ++i) {
-            if (!refused.contains(tried[i]))
-                continue;
-            if (open[i].definitions.isEmpty())
-                facts.undetermined << open[i].name;
-            else
-                next << open[i];
-        }
-        open = next;
+    QList<Macro> objectLike;
+    QList<QByteArray> functionLike;
+    for (qsizetype i = 0; i < defined.size(); ++i) {
+        if (!texts[i])
+            facts.undetermined << defined[i];
+        else if (*texts[i] == defined[i]) // without arguments it is not replaced
+            functionLike << defined[i];
+        else
+            objectLike.append({defined[i], *texts[i]});
+    }
+    const QList<OpenMacro> open = possibleDefinitions(questions, quote, functionLike);
+    for (const MacroFacts &more :
+         {withBareValues(questions, quote, objectLike, defined), firstConfirmed(questions, open)}) {
+        facts.known << more.known;
+        facts.undetermined << more.undetermined;
     }
     return facts;
 }
@@ -232,24 +220,9 @@ QList<QByteArray> macroCandidates(const QList<ScannedName> &names, const QString
 MacroFacts learnMacros(const Questions &questions, const QList<QByteArray> &candidates)
 {
     const QList<QByteArray> defined = definedNames(questions, candidates);
-    const QByteArray quote = quoteDefinitions(questions);
-    const QList<std::optional<QByteArray>> texts = expanded(questions, quote, defined);
-    MacroFacts facts;
-    QList<Macro> objectLike;
-    QList<QByteArray> functionLike;
-    for (qsizetype i = 0; i < defined.size(); ++i) {
-        if (!texts[i])
-            facts.undetermined << defined[i];
-        else if (*texts[i] == defined[i]) // without arguments it is not replaced
-            functionLike << defined[i];
-        else
-            objectLike.append({defined[i], *texts[i]});
-    }
-    for (const MacroFacts &more : {withBareValues(questions, quote, objectLike, defined),
-                                   learnFunctionLike(questions, quote, functionLike)}) {
-        facts.known << more.known;
-        facts.undetermined << more.undetermined;
-    }
+    const std::optional<QByteArray> quote = quoteDefinitions(questions);
+    MacroFacts facts =
+        quote ? learnByTexts(questions, *quote, defined) : learnMacrosByValues(questions, defined);
     std::sort(facts.known.begin(), facts.known.end(),
               [](const Macro &a, const Macro &b) { return a.name < b.name; });
     std::sort(facts.undetermined.begin(), facts.undetermined.end());

@@ -22,6 +22,11 @@ struct Shape
     std::optional<bool> isUnsigned;
 };
 
+bool areAlike(const Shape &first, const Shape &second)
+{
+    return first.size && first.size == second.size && first.isUnsigned == second.isUnsigned;
+}
+
 /// The shapes of \a names behind \a prelude.
 QList<Shape> shapesOf(const Questions &questions, const QByteArray &prelude,
                       const QList<QByteArray> &names)
@@ -38,64 +43,92 @@ QList<Shape> shapesOf(const Questions &questions, const QByteArray &prelude,
     return shapes;
 }
 
-/// The integer type that the standard headers' \a name of \a shape stands for: an object can be
-/// declared again only with the same type. Empty when that is none of those with the same shape, or
-/// when the compiler does not mind and there are several of them.
-QByteArray typeBehind(const Questions &questions, const QByteArray &name, const Shape &shape,
-                      const QList<Shape> &shapesOfTypes)
+/// What \a index is paired with in \a pairs; empty when that is not one.
+QByteArray onlyPartner(qsizetype index, const QList<std::pair<qsizetype, QByteArray>> &pairs)
 {
-    QList<QByteArray> types, declarations;
-    for (qsizetype i = 0; i < integerTypes.size(); ++i) {
-        const Shape &other = shapesOfTypes[i];
-        if (!shape.size || other.size != shape.size || other.isUnsigned != shape.isUnsigned)
-            continue;
-        const QByteArray object = " calyx_" + QByteArray::number(types.size()) + "; ";
-        types << integerTypes[i];
-        declarations << "extern " + name + object + "extern " + integerTypes[i] + object + '\n';
+    QList<QByteArray> partners;
+    for (const auto &[first, second] : pairs) {
+        if (first == index)
+            partners << second;
     }
-    if (!questions.rejects(ErrorKind::ConflictingDeclaration))
-        return types.size() == 1 ? types.first() : QByteArray();
-    const QList<QByteArray> same =
-        selected(types, questions.accepted("#include <stddef.h>\n", declarations));
-    return same.size() == 1 ? same.first() : QByteArray();
+    return partners.size() == 1 ? partners.first() : QByteArray();
 }
 
-/// The types behind the names of the standard headers. In C++ wchar_t is a type of its own.
-void learnNamedTypes(const Questions &questions, TypeFacts &types)
+/// The integer types that the standard headers' \a names of \a shapes stand for: an object can be
+/// declared again only with the same type. Empty where that is none of those with the same shape,
+/// or when the compiler does not mind and there are several of them.
+QList<QByteArray> typesBehind(const Questions &questions, const QList<QByteArray> &names,
+                              const QList<Shape> &shapes, const QList<Shape> &shapesOfTypes)
 {
-    const Shape wide =
-        shapesOf(questions, questions.isCpp() ? "" : "#include <stddef.h>\n", {"wchar_t"}).first();
-    const QList<Shape> named =
-        shapesOf(questions, "#include <stddef.h>\n", {"size_t", "ptrdiff_t"});
-    const QList<Shape> known = shapesOf(questions, {}, integerTypes);
-    types.sizeType = typeBehind(questions, "size_t", named[0], known);
-    types.pointerDifferenceType = typeBehind(questions, "ptrdiff_t", named[1], known);
+    QList<std::pair<qsizetype, QByteArray>> pairs; // name and type
+    QList<QByteArray> declarations;
+    for (qsizetype name = 0; name < names.size(); ++name) {
+        for (qsizetype type = 0; type < integerTypes.size(); ++type) {
+            if (!areAlike(shapes[name], shapesOfTypes[type]))
+                continue;
+            const QByteArray object = " calyx_" + QByteArray::number(pairs.size()) + "; ";
+            pairs << std::pair(name, integerTypes[type]);
+            declarations << "extern " + names[name] + object + "extern " + integerTypes[type]
+                                + object + '\n';
+        }
+    }
+    if (questions.rejects(ErrorKind::ConflictingDeclaration))
+        pairs = selected(pairs, questions.accepted("#include <stddef.h>\n", declarations));
+    QList<QByteArray> types;
+    for (qsizetype name = 0; name < names.size(); ++name)
+        types << onlyPartner(name, pairs);
+    return types;
+}
+
+/// The types behind the names of the standard headers, from the \a shapes of the integer types. In
+/// C++ wchar_t is a type of its own.
+void learnNamedTypes(const Questions &questions, const QList<Shape> &shapes, TypeFacts &types)
+{
+    QList<QByteArray> names {"size_t", "ptrdiff_t"};
     if (!questions.isCpp())
-        types.wideCharacterType = typeBehind(questions, "wchar_t", wide, known);
-    else if (wide.size && wide.isUnsigned)
+        names << "wchar_t";
+    const QList<QByteArray> behind =
+        typesBehind(questions, names, shapesOf(questions, "#include <stddef.h>\n", names), shapes);
+    types.sizeType = behind[0];
+    types.pointerDifferenceType = behind[1];
+    if (!questions.isCpp()) {
+        types.wideCharacterType = behind[2];
+        return;
+    }
+    const Shape wide = shapesOf(questions, {}, {"wchar_t"}).first();
+    if (wide.size && wide.isUnsigned)
         types.wideCharacterType = typeLike(types, *wide.size, false, *wide.isUnsigned);
 }
 
 ByteOrder byteOrder(const Questions &questions)
 {
     // 16 bits are the least that every compiler's short has. Read as characters they begin and end
-    // the mark of a text in either order.
-    const QByteArray bytes =
-        questions
-            .eachAlone({"extern const unsigned short calyx_order[];\n"
-                        "const unsigned short calyx_order[] = {0x4361, 0x6c79, 0x7842, 0x6f75};\n"})
-            .first()
-            .bytes;
-    if (bytes.contains("aCylBxuo"))
-        return ByteOrder::LittleEndian;
-    return bytes.contains("CalyxBou") ? ByteOrder::BigEndian : ByteOrder::Unknown;
+    // the mark of a text in either order. A compiler that knows no constants keeps the last one.
+    const QByteArray start = "unsigned short calyx_order[]";
+    const QByteArray list = " = {0x4361, 0x6c79, 0x7842, 0x6f75};\n";
+    for (const QByteArray &source :
+         {"extern const " + start + ";\nconst " + start + list, start + list}) {
+        const QByteArray bytes = questions.eachAlone({source}).first().bytes;
+        if (bytes.contains("aCylBxuo"))
+            return ByteOrder::LittleEndian;
+        if (bytes.contains("CalyxBou"))
+            return ByteOrder::BigEndian;
+    }
+    // Those that many compilers define for this, according to the manuals of GCC and clang.
+    const QList<bool> isDefined = questions.conditions(
+        {"defined __ORDER_LITTLE_ENDIAN__ && __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__",
+         "defined __ORDER_BIG_ENDIAN__ && __BYTE_ORDER__ == __ORDER_BIG_ENDIAN__"});
+    if (isDefined[0] == isDefined[1])
+        return ByteOrder::Unknown;
+    return isDefined[0] ? ByteOrder::LittleEndian : ByteOrder::BigEndian;
 }
 
-/// Whether char has no sign: by its value or, where that cannot be read back, by the type that the
-/// compiler takes it for; some do, though it differs from both.
-std::optional<bool> charIsUnsigned(const Questions &questions)
+/// Whether char has no sign: by its value in \a shapes, those of the integer types, or, where that
+/// cannot be read back, by the type that the compiler takes it for; some do, though it differs from
+/// both.
+std::optional<bool> charIsUnsigned(const Questions &questions, const QList<Shape> &shapes)
 {
-    if (const auto isUnsigned = shapesOf(questions, {}, {"char"}).first().isUnsigned)
+    if (const auto isUnsigned = shapes[integerTypes.indexOf("char")].isUnsigned)
         return isUnsigned;
     if (!questions.rejects(ErrorKind::ConflictingDeclaration))
         return {};
@@ -103,6 +136,19 @@ std::optional<bool> charIsUnsigned(const Questions &questions)
         questions.accepted({}, {"extern char calyx_u; extern unsigned char calyx_u;\n",
                                 "extern char calyx_s; extern signed char calyx_s;\n"});
     return isSame[0] != isSame[1] ? std::optional(isSame[0]) : std::nullopt;
+}
+
+/// The name of the structure whose only members are a character and a basic type.
+QByteArray structureOf(const QByteArray &type)
+{
+    return "struct calyx_" + QByteArray::number(basicTypes.indexOf(type)) + 's';
+}
+
+/// Rejected, with a \a name of its own, if \a expression is not \a value.
+QByteArray assertion(const QByteArray &name, const QByteArray &expression, int value)
+{
+    return "extern char calyx_" + name + "[1-2*(" + expression + "!=" + QByteArray::number(value)
+         + ")];\n";
 }
 
 /// Those of \a types of which the compiler knows the same as has been read back: it rejects an
@@ -115,8 +161,11 @@ QList<Type> confirmed(const Questions &questions, const QByteArray &prelude,
     QList<QByteArray> assertions;
     for (const Type &type : types) {
         const QByteArray number = QByteArray::number(assertions.size());
-        assertions << "extern char calyx_" + number + "a[1-2*(sizeof(" + type.name
-                          + ")!=" + QByteArray::number(type.size) + ")];\n";
+        const QByteArray size = "sizeof(" + type.name + ')';
+        assertions << assertion(number + 'a', size, type.size)
+                          + assertion(number + 'b',
+                                      "sizeof(" + structureOf(type.name) + ")-" + size,
+                                      type.alignment);
     }
     const QList<bool> isConfirmed = questions.accepted(prelude, assertions);
     // That a char has one byte is true everywhere; what rejects it tells nothing of the others.
@@ -132,8 +181,8 @@ void measureTypes(const Questions &questions, TypeFacts &types)
     // Where a member lies behind a single character tells its alignment.
     QList<QByteArray> structures;
     for (qsizetype i = 0; i < basicTypes.size(); ++i) {
-        structures << "struct calyx_" + QByteArray::number(i) + "s { char c; "
-                          + declared(basicTypes[i], "t") + "; };\n";
+        structures << structureOf(basicTypes[i]) + " { char c; " + declared(basicTypes[i], "t")
+                          + "; };\n";
     }
     const QList<bool> isKnown = questions.accepted({}, structures + QList {bitFieldStructure});
     QByteArray prelude;
@@ -144,7 +193,7 @@ void measureTypes(const Questions &questions, TypeFacts &types)
         const QByteArray size = "sizeof(" + basicTypes[i] + ')';
         prelude += structures[i];
         names << basicTypes[i];
-        expressions << size << "sizeof(struct calyx_" + QByteArray::number(i) + "s)-" + size;
+        expressions << size << "sizeof(" + structureOf(basicTypes[i]) + ")-" + size;
     }
     if (isKnown.last()) {
         prelude += bitFieldStructure;
@@ -167,12 +216,13 @@ TypeFacts learnTypes(const Questions &questions)
 {
     TypeFacts types;
     measureTypes(questions, types);
-    types.charIsUnsigned = charIsUnsigned(questions);
+    const QList<Shape> shapes = shapesOf(questions, {}, integerTypes);
+    types.charIsUnsigned = charIsUnsigned(questions, shapes);
     types.smallEnumSize =
         questions.numbers("enum calyx_enum { CALYX_A };\n", {"sizeof(enum calyx_enum)"})
             .first()
             .value_or(0);
     types.byteOrder = byteOrder(questions);
-    learnNamedTypes(questions, types);
+    learnNamedTypes(questions, shapes, types);
     return types;
 }

@@ -117,9 +117,10 @@ ExitStatus checkWithPersonality(Progress &progress, const CheckRequest &request,
         return ExitStatus::Missing;
     }
     const std::optional<Clang> clang = findClang(progress, request.clang);
-    const Compiler compiler = findCompiler(arguments);
-    if (!clang || !compileFirstProbe(progress, ProbeRunner(compiler, folder, false), folder))
+    ProbeRunner runner(findCompiler(arguments), folder, false);
+    if (!clang || !compileFirstProbe(progress, runner, folder))
         return ExitStatus::Missing;
+    const Compiler &compiler = runner.compiler();
     const auto read = sourcesOf(request, compiler, folder);
     if (const auto *problem = std::get_if<QString>(&read)) {
         progress.say(*problem);

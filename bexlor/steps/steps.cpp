@@ -1,5 +1,6 @@
 #include "steps.h"
 
+#include "beside_compiler.h"
 #include "clang.h"
 #include "generator_interface.h"
 #include "personality.h"
@@ -173,7 +174,7 @@ std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arg
     return usable;
 }
 
-std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner,
+std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, ProbeRunner &runner,
                                              const QString &logFolder)
 {
     const QString against = optionAgainstObjects(runner.compiler().command);
@@ -188,6 +189,14 @@ std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunn
     leaveLogs(logFolder, runner.command(), answer.run);
     if (answer.compiled())
         return answer;
+    if (answer.run.ending == platform::ProgramRun::Exited) {
+        const ProbeAnswer unnamed = runner.tryWithoutObjectName();
+        if (unnamed.compiled()) {
+            leaveLogs(logFolder, runner.command(), unnamed.run);
+            progress.say(u"The compiler takes no name for an object file."_s);
+            return unnamed;
+        }
+    }
     progress.say(u"Compiling the first probe failed: %1."_s.arg(howItEnded(answer)));
     return {};
 }
@@ -231,6 +240,21 @@ DialectAnswers askForListings(Progress &progress, const Compiler &compiler,
     return askInDialects(run, command, source, known);
 }
 
+QStringList findDirectoriesBeside(Progress &progress, const Questions &questions)
+{
+    const ProgressStep step(progress, u"Looking for headers beside the compiler ..."_s,
+                            probesOf(questions.runner()));
+    QStringList directories = directoriesBeside(questions.runner().compiler().command.value(0));
+    leaveOutOddDirectories(progress, directories);
+    const QStringList searched = learnSearchPath(questions, headersNear(directories));
+    if (searched.isEmpty())
+        progress.say(u"No directory has been named, and none that is searched lies beside it."_s);
+    else
+        progress.say(u"No directory has been named; these lie beside it and are searched: %1"_s.arg(
+            searched.join(u", "_s)));
+    return searched;
+}
+
 HeaderScan readDirectories(Progress &progress, const QStringList &directories)
 {
     for (const QString &directory : directories) {
@@ -255,7 +279,12 @@ Questions findHowToAsk(Progress &progress, const ProbeRunner &runner)
 {
     const ProgressStep step(progress, u"Looking for a way to read constants back ..."_s,
                             probesOf(runner));
-    return Questions(runner);
+    const Questions questions(runner);
+    if (questions.readsNumbers() && !questions.readsTexts()) {
+        progress.say(u"The compiler leaves no file that holds the bytes of a probe's texts: macros "
+                     "that are neither integers nor types are left open."_s);
+    }
+    return questions;
 }
 
 std::optional<MacroFacts> findMacros(Progress &progress, const Questions &questions,
@@ -264,9 +293,10 @@ std::optional<MacroFacts> findMacros(Progress &progress, const Questions &questi
 {
     MacroFacts macros {listed, {}};
     if (listed.isEmpty()) {
-        if (!questions.readsConstants()) {
-            progress.say(u"Reading constants back failed: the compiler leaves no file that holds "
-                         "the bytes of a probe's constants."_s);
+        if (!questions.readsNumbers()) {
+            progress.say(
+                u"Reading constants back failed: the compiler leaves no file that holds "
+                "the bytes of a probe's constants, and overlooks errors that would tell."_s);
             return {};
         }
         const ProbeRunner &runner = questions.runner();
@@ -285,7 +315,7 @@ std::optional<MacroFacts> findMacros(Progress &progress, const Questions &questi
 
 TypeFacts measureTypes(Progress &progress, const Questions &questions)
 {
-    if (!questions.readsConstants())
+    if (!questions.readsNumbers())
         return {};
     const ProgressStep step(progress, u"Measuring types ..."_s, probesOf(questions.runner()));
     return learnTypes(questions);

@@ -17,7 +17,7 @@ void removeLogs();
 std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arguments);
 
 /// What the compiler says to a probe that any compiler accepts. Leaves the logs in \a logFolder.
-std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, const ProbeRunner &runner,
+std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, ProbeRunner &runner,
                                              const QString &logFolder);
 
 /// Whether the answers of \a runner's compiler, \a first being that to the first probe, can be
@@ -29,7 +29,11 @@ bool checkControls(Progress &progress, ProbeRunner &runner, const ProbeAnswer &f
 DialectAnswers askForListings(Progress &progress, const Compiler &compiler,
                               const ProbeAnswer &first, const QString &folder);
 
-/// The names below the directories that the user has given.
+/// The directories that the compiler searches of those that lie beside its program, or that its
+/// file names. For a user who has named none.
+QStringList findDirectoriesBeside(Progress &progress, const Questions &questions);
+
+/// The names below \a directories.
 HeaderScan readDirectories(Progress &progress, const QStringList &directories);
 
 /// How \a runner's compiler answers larger questions.

@@ -2,6 +2,8 @@
 
 #include "row.h"
 
+#include <numeric>
+
 namespace {
 
 const ProbeLimits limits {200, 1000};
@@ -70,7 +72,7 @@ private slots:
         row("no errors", "all", none, 2);
         row("names all", "all", few, 6);
         row("stops after some errors", "some", few, 12);
-        row("stops at its first error", "first", few, 40);
+        row("stops at its first error", "first", few, 8);
         row("names no line", "none", few, 60);
         row("names the line behind", "wrong", few, 110);
         row("names everything", "everything", few, 60);
@@ -116,6 +118,68 @@ private slots:
         const QList<QByteArray> items {"bad\n", "victim\n", "good\n"};
         QCOMPARE(acceptedItems(ask, {}, items, limits, false), QList<bool>({false, false, true}));
         QCOMPARE(acceptedItems(ask, {}, items, limits, true), QList<bool>({false, true, true}));
+    }
+
+    void findsTheEndOfAFunction()
+    {
+        // What is bad is taken for the start of a function, up to a block that ends it; a block
+        // elsewhere is an error.
+        int started = 0;
+        const AskProbes ask = [&started](const QList<QByteArray> &sources) {
+            QList<ProbeAnswer> answers;
+            for (const QByteArray &source : sources) {
+                ++started;
+                ProbeAnswer answer;
+                answer.run.ending = platform::ProgramRun::Exited;
+                bool isAstray = false;
+                const QList<QByteArray> lines = source.split('\n');
+                for (int i = 0; i < lines.size() && !source.isEmpty(); ++i) {
+                    const bool isBlock = lines[i].startsWith('{');
+                    const bool isBad = lines[i].contains("bad");
+                    if (isAstray || isBad || isBlock)
+                        answer.lines << i + 1;
+                    isAstray = (isAstray || isBad) && !isBlock;
+                }
+                answer.run.exitCode = answer.lines.isEmpty() ? 0 : 1;
+                answers << answer;
+            }
+            return answers;
+        };
+        QList<int> bad(50);
+        std::iota(bad.begin(), bad.end(), 0);
+        const QList<bool> accepted = itemsAcceptedApart(ask, {}, items(52, bad), limits);
+        for (int i = 0; i < accepted.size(); ++i)
+            QVERIFY2(accepted[i] == !bad.contains(i), qPrintable(QString::number(i)));
+        QVERIFY2(started <= 6, qPrintable(QString::number(started)));
+    }
+
+    void findsFewerMessages_data()
+    {
+        // control: whether the compiler remarks on another definition
+        const Columns<bool> row("control");
+        row("remarks", true);
+        row("does not mind", false);
+    }
+    void findsFewerMessages()
+    {
+        QFETCH(bool, control);
+        const AskProbes ask = [control](const QList<QByteArray> &sources) {
+            QList<ProbeAnswer> answers;
+            for (const QByteArray &source : sources) {
+                const QList<QByteArray> lines = source.split('\n');
+                ProbeAnswer answer;
+                for (int i = 0; i < lines.size(); ++i)
+                    answer.messageCounts[i + 1] = control && lines[i].contains("other") ? 2 : 1;
+                answers << answer;
+            }
+            return answers;
+        };
+        const QList<QByteArray> definitions {"a\n", "b other\n", "\nc\n", "control\n"};
+        const QList<QByteArray> others {"other\n", "other\n", "\nother\n", "other\n"};
+        const auto fewer = itemsWithFewerMessages(ask, "prelude\n", definitions, others, limits);
+        QCOMPARE(fewer.has_value(), control);
+        if (fewer)
+            QCOMPARE(*fewer, QList<bool>({true, false, true}));
     }
 
     void keepsToTheLimits()

@@ -1,3 +1,4 @@
+#include "beside_compiler.h"
 #include "header_scan.h"
 
 #include "compiler_names.h"
@@ -170,6 +171,40 @@ private slots:
         for (const char *name :
              {"__n0:U", "__n69:U", "__in_a_binary:B", "__at_the_end:U", "__in_an_odd_file:U"})
             QVERIFY2(names.contains(name), name);
+    }
+
+    void looksBesideCompilers_data()
+    {
+        // "$" stands for the folder of all; directories: those of them that are found
+        const Columns<QString, QStringList, QStringList> row("program", "there", "directories");
+        row("above", "bin/acc", {"include", "inc"}, {"include", "inc"});
+        row("by its name", "bin/acc.EXE",
+            {"acc/include", "lib/acc/include", "lib/other/include", "share/acc/include"},
+            {"lib/acc/include", "share/acc/include", "acc/include"});
+        row("by its target", "bin/arm-eabi-acc", {"arm-eabi/include", "lib/arm/include"},
+            {"arm-eabi/include", "lib/arm/include"});
+        row("around it", "acc", {"include"}, {"include"});
+        row("far above", "bin/x/y/acc.exe", {"include"}, {"include"});
+        row("named in its file", "bin/acc", {"odd/includes/z80", "odd/lib"}, {"odd/includes/z80"});
+        row("nothing", "bin/acc", {"lib", "share/acc"}, {});
+    }
+    void looksBesideCompilers()
+    {
+        QFETCH(QString, program);
+        QFETCH(QStringList, there);
+        QFETCH(QStringList, directories);
+        const QTemporaryDir folder;
+        const QString top = QDir(folder.path()).canonicalPath() + '/';
+        for (const QString &directory : there)
+            QDir().mkpath(top + directory);
+        // Also as one that others are made from, and that is not there.
+        writeTestFile(top + program, QByteArray("\0x=", 3) + top.toUtf8() + "odd/includes/z80:"
+                                         + top.toUtf8() + "odd/lib;{B}" + top.toUtf8()
+                                         + "include/inc\0" + top.toUtf8() + "include/none");
+        QStringList expected;
+        for (const QString &directory : directories)
+            expected << top + directory;
+        QCOMPARE(directoriesBeside(top + program), expected);
     }
 };
 

@@ -72,7 +72,7 @@ private slots:
         QVERIFY(truth.size() > 20);
 
         const Subject subject(command, isSmall);
-        QVERIFY(subject.questions.readsConstants());
+        QVERIFY(subject.questions.readsTexts());
         const MacroFacts macros =
             learnMacros(subject.questions, macroCandidates({{"QQ_ABSENT", InBinary}}, own));
         QMap<QByteArray, QByteArray> learned;
@@ -87,6 +87,48 @@ private slots:
                 missing << macro.name;
         }
         QVERIFY2(missing.size() <= mayMiss, missing.join(' '));
+    }
+
+    void findsIntegersWithoutObjects()
+    {
+        // It leaves nothing of what it has compiled, and makes no programs.
+        const QStringList hidden {
+            "sh", "-c",
+            "gcc \"$@\" || exit\n"
+            "case \"$*\" in *-c*) echo >probe.o ;; *-E*) ;; *) exit 1 ;; esac",
+            "sh"};
+        const QStringList own {"-DQQ_SUM=(1 + 2)",
+                               "-DQQ_TEXT=\"a\"",
+                               "-DQQ_EMPTY=",
+                               "-DQQ_LEAST=(-9223372036854775807L - 1)",
+                               "-DQQ_LAST=18446744073709551615UL",
+                               "-DQQ_FLOAT=2.5",
+                               "-DQQ_CAST=((char)3)",
+                               "-DQQ_OTHERS=int *"};
+        const Subject subject(hidden + own);
+        QVERIFY(subject.questions.readsNumbers() && !subject.questions.readsTexts());
+        writeTestFile(m_folder.filePath("x.c"), "\n");
+        const QList<Macro> truth =
+            macrosIn(run(hidden + own + QStringList {"-dM", "-E", "x.c"}).output);
+        QVERIFY(truth.size() > 300);
+        QList<ScannedName> names;
+        for (const Macro &macro : truth)
+            names.append({macro.name.split('(').first(), InBinary});
+        const MacroFacts macros = learnMacros(subject.questions, macroCandidates(names, {}));
+        QMap<QByteArray, QByteArray> learned;
+        for (const Macro &macro : macros.known)
+            learned[macro.name] = macro.value;
+        const QRegularExpression open("[.\"]|[0-9]E|^\\(\\(|\\*$");
+        for (const Macro &macro : truth) {
+            if (macro.name == "QQ_SUM")
+                QCOMPARE(learned["QQ_SUM"], "3");
+            else if (open.match(macro.value).hasMatch())
+                QVERIFY2(macros.undetermined.contains(macro.name), macro.name);
+            else
+                QCOMPARE(macro.name + ' ' + learned.value(macro.name, "?"),
+                         macro.name + ' ' + macro.value);
+        }
+        QCOMPARE(learnTypes(subject.questions), learnTypes(Subject({"gcc"}).questions));
     }
 
     void measuresTypes_data()

@@ -19,6 +19,9 @@ private slots:
         row("warnings", "x.c:5: warning: A redefined\nx.c:9: note: b", {5, 9}, {});
         row("warnings and errors", "x.c:5: warning: 1\nx.c:9: error: 2\nx.c:3: syntax error",
             {3, 5, 9}, {3, 9});
+        row("names of errors",
+            "x.c:5: warning: no 'error' here\nx.c:7: note: error: y\nx.c:8: fatal: z", {5, 7, 8},
+            {8});
         row("included", "In file included from x.c:4:\n/i/y.h:9: error: z", {4}, {});
         row("line first", "Error C141 in line 4 of x.c: near 'calyx_3'\nx.c: near 'calyx_3'", {4},
             {4});
