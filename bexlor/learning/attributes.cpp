@@ -36,8 +36,9 @@ QList<QByteArray> learnAttributes(const Questions &questions)
             names << QByteArray(attribute).split('(').first();
         }
     }
+    // In the one use that holds nothing else that a compiler may not know.
     const auto isSilent = questions.withoutMessage(
-        {}, lines, lineOf(attributeUses[0], "calyx_unknown", lines.size()));
+        {}, lines, lineOf(attributeUses[1], "calyx_unknown", lines.size()));
     if (!isSilent)
         return {};
     QList<QByteArray> accepted = selected(names, *isSilent);
