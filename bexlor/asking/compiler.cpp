@@ -44,6 +44,46 @@ bool namesOutput(const CommandLayout &layout)
     return !layout.outputFlag.isEmpty() || !layout.order.contains("%o"_L1);
 }
 
+/// What a probe is compiled from and to.
+struct Probe
+{
+    const QString &source;
+    QString output; ///< empty where the compiler takes no name for it
+    CompileTo goal;
+};
+
+/// What stands for \a token in the command that compiles \a probe.
+QList<Piece> piecesFor(const OrderToken &token, const Compiler &compiler, const Probe &probe)
+{
+    const CommandLayout &layout = compiler.layout;
+    const bool isNamed = !probe.output.isEmpty();
+    QList<Piece> pieces;
+    switch (token.part) {
+    case CommandPart::Command:
+        for (const QString &word : compiler.command)
+            pieces.append({word});
+        break;
+    case CommandPart::OutputFlag:
+        pieces.append({isNamed ? layout.outputFlag : QString(), token.spaceFollows});
+        break;
+    case CommandPart::OutputFile:
+        if (isNamed && namesOutput(layout))
+            pieces.append({probe.output});
+        break;
+    case CommandPart::DefineFlag:
+        for (const QString &define : passedDefines(compiler))
+            pieces << Piece {layout.defineFlag, token.spaceFollows} << Piece {define};
+        break;
+    case CommandPart::ObjectFlag:
+        pieces.append({probe.goal == CompileTo::Object ? layout.objectFlag : QString()});
+        break;
+    case CommandPart::Source:
+        pieces.append({probe.source});
+        break;
+    }
+    return pieces;
+}
+
 } // namespace
 
 Compiler findCompiler(const Arguments &arguments)
@@ -77,32 +117,10 @@ QStringList probeCommand(const Compiler &compiler, const QString &source, const 
                          CompileTo goal)
 {
     const bool isNamed = goal == CompileTo::Program || compiler.namesObjects;
+    const Probe probe {source, isNamed ? output : QString(), goal};
     QList<Piece> pieces;
-    for (const OrderToken &token : parseOrderString(compiler.layout.order)) {
-        switch (token.part) {
-        case CommandPart::Command:
-            for (const QString &word : compiler.command)
-                pieces.append({word});
-            break;
-        case CommandPart::OutputFlag:
-            pieces.append({isNamed ? compiler.layout.outputFlag : QString(), token.spaceFollows});
-            break;
-        case CommandPart::OutputFile:
-            if (isNamed && namesOutput(compiler.layout))
-                pieces.append({output});
-            break;
-        case CommandPart::DefineFlag:
-            for (const QString &define : passedDefines(compiler))
-                pieces << Piece {compiler.layout.defineFlag, token.spaceFollows} << Piece {define};
-            break;
-        case CommandPart::ObjectFlag:
-            pieces.append({goal == CompileTo::Object ? compiler.layout.objectFlag : QString()});
-            break;
-        case CommandPart::Source:
-            pieces.append({source});
-            break;
-        }
-    }
+    for (const OrderToken &token : parseOrderString(compiler.layout.order))
+        pieces << piecesFor(token, compiler, probe);
     return wordsOf(pieces);
 }
 
