@@ -1,6 +1,7 @@
 #include "clang.h"
 #include "program_run.h"
 #include "target_layouts.h"
+#include "type_assertions.h"
 
 #include "files.h"
 #include "row.h"
@@ -26,29 +27,6 @@ TypeFacts types(const QList<int> &sizes, int alignment = 16)
             types.basic.append({names[i], sizes[i], std::min(sizes[i], alignment)});
     }
     return types;
-}
-
-/// A source that only a clang with \a types takes.
-QByteArray assertionsOf(const TypeFacts &types)
-{
-    QByteArray code = "#define SAME(a, b) _Static_assert(__builtin_types_compatible_p(a, b), #a)\n";
-    for (const Type &type : types.basic) {
-        const QByteArray member =
-            type.name.endsWith("(void)") ? "void (*t)(void)" : type.name + " t";
-        const QByteArray size = "sizeof(" + type.name + ")";
-        code += "_Static_assert(" + size + " == " + QByteArray::number(type.size)
-              + " && sizeof(struct { char c; " + member + "; }) - " + size
-              + " == " + QByteArray::number(type.alignment) + ", \"" + type.name + "\");\n";
-    }
-    const bool isLittle = types.byteOrder == ByteOrder::LittleEndian;
-    return code + "SAME(__SIZE_TYPE__, " + types.sizeType + ");\n" + "SAME(__PTRDIFF_TYPE__, "
-         + types.pointerDifferenceType + ");\n" + "SAME(__typeof(*L\"\"), "
-         + types.wideCharacterType + ");\n"
-         + "_Static_assert(sizeof(enum { A }) == " + QByteArray::number(types.smallEnumSize)
-         + ", \"enum\");\n_Static_assert(sizeof(struct { char c; int b : 4; }) == "
-         + QByteArray::number(types.bitFieldSize)
-         + ", \"bit-field\");\n#if __BYTE_ORDER__ != __ORDER_" + (isLittle ? "LITTLE" : "BIG")
-         + "_ENDIAN__\n#error\n#endif\n";
 }
 
 /// What clang says against \a code with \a options.
@@ -183,7 +161,11 @@ private slots:
         for (const QList<QByteArray> &variant : variants) {
             const QByteArray answer = clangAnswer(
                 QList<QByteArray> {"--target=" + target, "-Wno-incompatible-ms-struct"} + variant,
-                false, assertionsOf(typesOfTarget(target, variant)), clang);
+                false,
+                typeAssertions({.macros = {macros("__BYTE_ORDER__"), {}},
+                                .types = typesOfTarget(target, variant)},
+                               false),
+                clang);
             // Clang 14 does not have all of them.
             const bool isUnknown = clang == "clang-14" && answer.contains("unknown target triple");
             QVERIFY2(answer.isEmpty() || isUnknown, target + variant.join(' ') + ": " + answer);
@@ -193,14 +175,8 @@ private slots:
     void passesOptionsOn_data()
     {
         const Columns<QString, bool, QByteArray> row("options", "isCpp", "code");
-        row("trigraphs", "-trigraphs", false,
-            "int a?"
-            "?(2?"
-            "?);");
-        row("Microsoft's trigraphs", "/Zc:trigraphs", false,
-            "int a?"
-            "?(2?"
-            "?);");
+        row("trigraphs", "-trigraphs", false, "int a?\?(2?\?);");
+        row("Microsoft's trigraphs", "/Zc:trigraphs", false, "int a?\?(2?\?);");
         row("no asm", "-fno-asm", false, "int asm; int typeof;");
         row("unnamed members", "-fplan9-extensions", false,
             "struct a { int b; }; struct c { struct a; } d; int *e = &d.b;");

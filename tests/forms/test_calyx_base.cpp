@@ -106,29 +106,6 @@ private slots:
         QCOMPARE(user->textLabel1_3->font().pointSize(), 12);
     }
 
-    void laysNoControlOverAnother()
-    {
-        const Forms forms;
-        QStringList problems;
-        for (const QWidget *control : forms.all<QWidget>()) {
-            const QWidget *parent = control->parentWidget();
-            const QString name = control->objectName();
-            if (control->focusPolicy() == Qt::NoFocus || name.isEmpty() || name.startsWith("qt_")
-                || control->isWindow())
-                continue;
-            // Two stand on the frames of their groups.
-            if (!parent->rect().adjusted(0, -2, 0, 0).contains(control->geometry()))
-                problems << name + " leaves " + parent->objectName();
-            for (const QObject *child : parent->children()) {
-                const auto *other = qobject_cast<const QWidget *>(child);
-                if (other > control && other->focusPolicy() != Qt::NoFocus
-                    && other->geometry().intersects(control->geometry()))
-                    problems << name + " meets " + other->objectName();
-            }
-        }
-        QCOMPARE(problems, QStringList());
-    }
-
     void hasRoomForEveryText_data()
     {
         const Columns<QString> row("language");
