@@ -126,7 +126,9 @@ QStringList probeCommand(const Compiler &compiler, const QString &source, const 
 
 QString commandLine(const QStringList &command)
 {
-    static const QRegularExpression special(u"[\\s&|<>^()\"']"_s);
+    // All that a command is split at.
+    static const QRegularExpression special(u"[\\s&|<>^()\"']"_s,
+                                            QRegularExpression::UseUnicodePropertiesOption);
     static const QRegularExpression beforeQuote(u"(\\\\*)\""_s);
     static const QRegularExpression atEnd(u"(\\\\+)\\z"_s);
     QStringList words = command;
