@@ -11,7 +11,9 @@
 #include "text_file.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QThread>
@@ -75,6 +77,7 @@ int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
     const QStringList arguments = application.arguments();
+    const QString generator = QFileInfo(arguments.value(1)).absoluteFilePath();
     const QString part = arguments.value(3, "/bexlor/arguments/");
     auto commands = parseDatabase(platform::readFile(arguments.value(2)).bytes, ".");
     if (!commands)
@@ -83,6 +86,7 @@ int main(int argc, char *argv[])
         return !command.file.contains(part) || command.file.contains("autogen");
     });
     const QTemporaryDir folder;
+    QDir::setCurrent(folder.path()); // the generator leaves its logs where it works
     const QString database = folder.filePath("some.json"), byHand = folder.filePath("by_hand"),
                   personality = folder.filePath("mine.p_c");
     QByteArray lines;
@@ -91,8 +95,8 @@ int main(int argc, char *argv[])
     const QString compiler = "\"c++ -O2 -std=c++20 -fPIC\"";
     const bool isReady =
         platform::writeFile(database, databaseText(*commands)) && platform::writeFile(byHand, lines)
-        && QProcess::execute(arguments[1], {"kovpp", "cmp", compiler, "-o", "-c", "-D", ".o",
-                                            "%c %o %e %d%j %s ", "-op", personality})
+        && QProcess::execute(generator, {"kovpp", "cmp", compiler, "-o", "-c", "-D", ".o",
+                                         "%c %o %e %d%j %s ", "-op", personality})
                == 0;
     if (!isReady)
         return EXIT_FAILURE;
@@ -103,7 +107,7 @@ int main(int argc, char *argv[])
             timeOf("xargs",
                    {"-0", "-n1", "-P" + QString::number(QThread::idealThreadCount()), "sh", "-c"},
                    byHand));
-        check = std::min(check, timeOf(arguments[1], {"check", personality, database}, database));
+        check = std::min(check, timeOf(generator, {"check", personality, database}, database));
     }
     printHeading();
     const QByteArray what = "check of " + QByteArray::number(commands->size()) + " sources";
