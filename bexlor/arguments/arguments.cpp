@@ -3,7 +3,6 @@
 #include "argument_reader.h"
 #include "comma_list.h"
 #include "generator_interface.h"
-
 #include "quoting.h"
 
 #include <QDir>

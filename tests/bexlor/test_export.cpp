@@ -57,6 +57,9 @@ private slots:
         const ProgramRun clang = run(words + QStringList {"-Werror", "-fsyntax-only"});
         QVERIFY2(clang.succeeded() && clang.errors.isEmpty(), clang.errors);
         QVERIFY(!QFile::exists(m_folder.filePath("a.d")));
+        // Though clang's own <stdint.h> goes on to the compiler's.
+        const ProgramRun check = run({GENERATOR, "check", "arm.p_c", "all.json"});
+        QVERIFY2(check.output.contains("a.c: same\n"), check.output);
     }
 
     void namesWhatClangdRemoves()

@@ -1,7 +1,7 @@
 #include "beside_compiler.h"
+#include "compiler_names.h"
 #include "header_scan.h"
 
-#include "compiler_names.h"
 #include "files.h"
 #include "row.h"
 
