@@ -17,20 +17,29 @@ namespace {
 const int usualWait = 500;
 const int longestWait = 5000;
 
-/// Waits for \a lock and takes it. False when others keep it, or it cannot be made.
-bool acquire(QLockFile &lock)
+/// Removes \a lock when whoever made it was killed before signing it, which is done at once. From
+/// one who lives the system does not let it be taken away.
+void removeUnsigned(QLockFile &lock)
 {
-    if (lock.tryLock(usualWait))
-        return true;
     const QDateTime made = QFileInfo(lock.fileName()).lastModified();
     qint64 process = 0;
     QString host, program;
     const bool isSigned = lock.getLockInfo(&process, &host, &program);
-    // Whoever made a lock and has not signed it at once was killed before that; from one who lives
-    // the system does not let it be taken away.
-    if (!isSigned && made.isValid() && made.msecsTo(QDateTime::currentDateTime()) > usualWait)
+    if (!isSigned && made.isValid() && made.msecsTo(QDateTime::currentDateTime()) > usualWait / 2)
         lock.removeStaleLockFile();
-    return lock.tryLock(longestWait);
+}
+
+/// Waits for \a lock and takes it. False when others keep it, or it cannot be made.
+bool acquire(QLockFile &lock)
+{
+    for (int waited = 0; waited < longestWait; waited += usualWait) {
+        if (lock.tryLock(usualWait))
+            return true;
+        if (lock.error() == QLockFile::PermissionError)
+            return false;
+        removeUnsigned(lock);
+    }
+    return lock.tryLock(0);
 }
 
 /// What \a path leads to, whether or not that exists.
