@@ -61,8 +61,6 @@ private slots:
         QFETCH(QString, question);
         QFETCH(bool, onErrors);
         QFETCH(QString, listing);
-        QFETCH(QString, directories);
-        QFETCH(QString, quoted);
         const QTemporaryDir folder;
         const QString top = QDir(folder.path()).canonicalPath();
         for (const char *name : {"a", "b c", "own", "target", "include", "inc"})
@@ -77,8 +75,8 @@ private slots:
             return onErrors ? answer({}, output) : answer(output);
         };
         const DialectAnswers answers = askInDialects(run, command, "probe.c");
-        QCOMPARE(answers.searchPath.directories.join('|').replace(top, "$"), directories);
-        QCOMPARE(answers.searchPath.forQuotedNames.join('|').replace(top, "$"), quoted);
+        QTEST(answers.searchPath.directories.join('|').replace(top, "$"), "directories");
+        QTEST(answers.searchPath.forQuotedNames.join('|').replace(top, "$"), "quoted");
         QVERIFY(asked.contains("* -dM -E probe.c") && asked.contains("* --version"));
         QCOMPARE(asked.removeDuplicates(), 0);
     }
