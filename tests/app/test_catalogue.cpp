@@ -165,6 +165,7 @@ private slots:
             dialog.buttonCancel->click();
         });
         QCOMPARE(saved, before);
+        QCOMPARE(user->ExeCommandBtn->menu()->actions().size(), 2);
         // It is the chosen one now, and does not go with the product.
         QVERIFY(!messageOf([&] { user->KOVRadioButton->click(); }).isEmpty());
 

@@ -24,7 +24,6 @@ private slots:
         QFETCH(bool, answered);
         QFETCH(bool, valid);
         QFETCH(int, from);
-        QFETCH(QString, reachable);
         const ProgramFolder folder;
         const WizardUser user;
         user->PersonDestEdit->setText(answered ? "..\\out" : "..\\nowhere");
@@ -42,7 +41,7 @@ private slots:
                 QCOMPARE(user->currentPage(), pages[from]);
         }
         QVERIFY(user->updatesEnabled());
-        QCOMPARE(reached, reachable);
+        QTEST(reached, "reachable");
         const bool isReviewed = from != 4 && reached.contains('4');
         QCOMPARE(user.finishIsEnabled() && !user->DetailsText->toPlainText().isEmpty(), isReviewed);
     }
@@ -180,8 +179,12 @@ private slots:
             return button->icon().pixmap(175, 23).toImage().convertToFormat(QImage::Format_RGB32)
                 == QImage(folder.path(bitmap)).convertToFormat(QImage::Format_RGB32);
         };
-        QVERIFY(shows(user->P0_SrchBtn, enter, "images/search_directories_shd.bmp"));
-        QVERIFY(shows(user->P0_SrchBtn, leave, "images/search_directories.bmp"));
+        for (const auto &[button, name] : {std::pair(user->P0_CmpBtn, "images/compiler_command"),
+                                           {user->P0_SrchBtn, "images/search_directories"},
+                                           {user->P0_DefBtn, "images/defines_switches"}}) {
+            QVERIFY(shows(button, enter, QString(name) + "_shd.bmp"));
+            QVERIFY(shows(button, leave, QString(name) + ".bmp"));
+        }
         QVERIFY(shows(user->P0_PrdctBtn, leave, "images/product_output_shd.bmp"));
         QVERIFY(shows(user->P0_RevBtn, enter, "no picture"));
     }
@@ -189,22 +192,14 @@ private slots:
     void restsWhenNothingHappens()
     {
         // The event filter changes what it watches: that must come to an end.
-        struct PaintCounter : QObject
-        {
-            int paints = 0;
-            bool eventFilter(QObject *, QEvent *event) override
-            {
-                paints += event->type() == QEvent::Paint;
-                return false;
-            }
-        } counter;
         const ProgramFolder folder;
         const WizardUser user;
         user->showPage(user->Page1);
-        user->P1_CmpBtn->installEventFilter(&counter);
-        user->CmpCmdOrder->installEventFilter(&counter);
-        QTest::qWait(300);
-        QVERIFY2(counter.paints < 20, qPrintable(QString::number(counter.paints)));
+        int rounds = 0;
+        while (rounds < 1000
+               && QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents))
+            ++rounds;
+        QVERIFY(rounds < 1000);
     }
 };
 

@@ -81,6 +81,7 @@ private slots:
                  "one line\ntwo\n");
         succeeds("a line end split over two reads", "bytes one\\x0d\nbytes \\x0atwo\\x0d\\x0a",
                  "one\ntwo\n");
+        succeeds("questions that nobody answers", "input\nprint on", "on\n");
         succeeds("no line end", "bytes three", "three\n");
         succeeds("a flood of lines", "lines 20000\nexit 0",
                  QString("one of many\n").repeated(20'000));
@@ -149,7 +150,8 @@ private slots:
         user.press(QWizard::FinishButton);
         for (const char *beat : {"bin/beat", "child"})
             QTRY_VERIFY_WITH_TIMEOUT(!folder.read(beat).isEmpty(), patience);
-        QCOMPARE(user->DetailsText->viewport()->cursor().shape(), Qt::BusyCursor);
+        for (const QWidget *widget : {user->DetailsText->viewport(), (QWidget *)user->Page4})
+            QCOMPARE(widget->cursor().shape(), Qt::BusyCursor);
         end(user);
         for (const char *beat : {"bin/beat", "child"})
             QTRY_VERIFY_WITH_TIMEOUT(folder.hasStopped(beat), patience);
@@ -190,7 +192,10 @@ private slots:
                  output + "\nLog Saved: " + folder.path("out/run.log").replace('/', '\\'));
 
         withDialog([&] { user.click(user->SaveLogBtn); },
-                   [](QWidget *dialog) { qobject_cast<QDialog *>(dialog)->accept(); });
+                   [](QWidget *dialog) {
+                       QCOMPARE(dialog->windowTitle(), "Save Log File as ..");
+                       qobject_cast<QDialog *>(dialog)->accept();
+                   });
         QVERIFY(folder.read("out/mine.log").contains("Log Saved: "));
     }
 };

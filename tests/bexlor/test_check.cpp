@@ -44,11 +44,10 @@ private slots:
         QFETCH(QByteArray, ofCompiler);
         QFETCH(QByteArray, ofClang);
         const auto found = firstDifference({ofCompiler, {"/own"}}, {ofClang, {"/clang"}});
-        const QString shown = !found ? QString()
-                                     : QString("%1:%2 %3 %4")
-                                           .arg(found->file)
-                                           .arg(found->line)
-                                           .arg(found->ofCompiler, found->ofClang);
+        QString shown;
+        if (found)
+            shown = found->file + ':' + QString::number(found->line) + ' ' + found->ofCompiler + ' '
+                  + found->ofClang;
         QTEST(shown, "difference");
     }
 

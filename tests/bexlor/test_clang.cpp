@@ -283,13 +283,12 @@ private slots:
         facts.macros.known = macros("__GNUC__=11");
         row("an attribute with arguments", false,
             "void f(void *); __attribute__((__malloc__(f, 1))) void *g(void);");
+        row("overflow alone", false,
+            "int f(int a) { return __builtin_mul_overflow_p(a, a, (short)0); }");
         facts.macros.known = macros("__AVR__ __BUILTIN_AVR_NOP __BUILTIN_AVR_SWAP");
         row("functions of AVR", false,
             "extern void __builtin_avr_nop(void); extern unsigned char __builtin_avr_swap(unsigned "
             "char a); unsigned f(void) { __builtin_avr_nop(); return __builtin_avr_swap(1); }");
-        facts.macros.known = macros("__GNUC__=11");
-        row("overflow alone", false,
-            "int f(int a) { return __builtin_mul_overflow_p(a, a, (short)0); }");
     }
     void takesTheSameCode()
     {

@@ -75,14 +75,11 @@ private slots:
         QVERIFY(subject.questions.readsTexts());
         const MacroFacts macros =
             learnMacros(subject.questions, macroCandidates({{"QQ_ABSENT", InBinary}}, own));
-        QMap<QByteArray, QByteArray> learned;
-        for (const Macro &macro : macros.known)
-            learned[macro.name] = macro.value;
-        QVERIFY(learned.contains("QQ_INNER") && !learned.contains("QQ_ABSENT"));
+        QVERIFY(findMacro(macros, "QQ_INNER") && !findMacro(macros, "QQ_ABSENT"));
         QList<QByteArray> missing;
         for (const Macro &macro : truth) {
-            if (learned.contains(macro.name))
-                QCOMPARE(macro.name + ' ' + learned[macro.name], macro.name + ' ' + macro.value);
+            if (const Macro *known = findMacro(macros, macro.name))
+                QCOMPARE(macro.name + ' ' + known->value, macro.name + ' ' + macro.value);
             else if (!macros.undetermined.contains(macro.name.split('(').first()))
                 missing << macro.name;
         }
@@ -97,14 +94,11 @@ private slots:
             "gcc \"$@\" || exit\n"
             "case \"$*\" in *-c*) echo >probe.o ;; *-E*) ;; *) exit 1 ;; esac",
             "sh"};
-        const QStringList own {"-DQQ_SUM=(1 + 2)",
-                               "-DQQ_TEXT=\"a\"",
-                               "-DQQ_EMPTY=",
-                               "-DQQ_LEAST=(-9223372036854775807L - 1)",
-                               "-DQQ_LAST=18446744073709551615UL",
-                               "-DQQ_FLOAT=2.5",
-                               "-DQQ_CAST=((char)3)",
-                               "-DQQ_OTHERS=int *"};
+        QStringList own;
+        for (const char *define :
+             {"SUM=(1 + 2)", "TEXT=\"a\"", "EMPTY=", "LEAST=(-9223372036854775807L - 1)",
+              "LAST=18446744073709551615UL", "FLOAT=2.5", "CAST=((char)3)", "OTHERS=int *"})
+            own << QString("-DQQ_") + define;
         const Subject subject(hidden + own);
         QVERIFY(subject.questions.readsNumbers() && !subject.questions.readsTexts());
         writeTestFile(m_folder.filePath("x.c"), "\n");
@@ -115,55 +109,18 @@ private slots:
         for (const Macro &macro : truth)
             names.append({macro.name.split('(').first(), InBinary});
         const MacroFacts macros = learnMacros(subject.questions, macroCandidates(names, {}));
-        QMap<QByteArray, QByteArray> learned;
-        for (const Macro &macro : macros.known)
-            learned[macro.name] = macro.value;
         const QRegularExpression open("[.\"]|[0-9]E|^\\(\\(|\\*$");
         for (const Macro &macro : truth) {
+            const Macro *known = findMacro(macros, macro.name);
+            const QByteArray value = known ? known->value : "?";
             if (macro.name == "QQ_SUM")
-                QCOMPARE(learned["QQ_SUM"], "3");
+                QCOMPARE(value, "3");
             else if (open.match(macro.value).hasMatch())
                 QVERIFY2(macros.undetermined.contains(macro.name), macro.name);
             else
-                QCOMPARE(macro.name + ' ' + learned.value(macro.name, "?"),
-                         macro.name + ' ' + macro.value);
+                QCOMPARE(macro.name + ' ' + value, macro.name + ' ' + macro.value);
         }
         QCOMPARE(learnTypes(subject.questions), learnTypes(Subject({"gcc"}).questions));
-    }
-
-    void measuresTypes_data()
-    {
-        const Columns<QStringList, QString> row("command", "types");
-        row("gcc", {"gcc"},
-            "short2/2 int4/4 long8/8 long double16/16 void *8/8 signed enum4 bits4 order1 "
-            "unsigned long|long|int");
-        row("32 bits, other options",
-            {"gcc", "-m32", "-funsigned-char", "-fshort-wchar", "-fshort-enums", "-mlong-double-64",
-             "-mms-bitfields"},
-            "short2/2 int4/4 long4/4 long double8/8 void *4/4 unsigned enum1 bits8 order1 "
-            "unsigned int|int|unsigned short");
-        row("8 bits", {"sdcc", "-mz80"},
-            "short2/1 int2/1 long4/1 void *2/1 unsigned enum1 bits2 order1 "
-            "unsigned int|int|unsigned long");
-    }
-    void measuresTypes()
-    {
-        QFETCH(QStringList, command);
-        const Subject subject(command);
-        const TypeFacts types = learnTypes(subject.questions);
-        QString shown;
-        for (const Type &type : types.basic) {
-            if (QList<QByteArray> {"short", "int", "long", "long double", "void *"}.contains(
-                    type.name))
-                shown += QString("%1%2/%3 ").arg(type.name).arg(type.size).arg(type.alignment);
-        }
-        shown += QString("%1 enum%2 bits%3 order%4 ")
-                     .arg(types.charIsUnsigned.value() ? "unsigned" : "signed")
-                     .arg(types.smallEnumSize)
-                     .arg(types.bitFieldSize)
-                     .arg(int(types.byteOrder));
-        shown += types.sizeType + '|' + types.pointerDifferenceType + '|' + types.wideCharacterType;
-        QTEST(shown, "types");
     }
 
     void findsKeywords_data()
@@ -202,26 +159,6 @@ private slots:
         }
         for (const QString &other : missing)
             QVERIFY2(!forms.contains(other.toLatin1()), qPrintable(other));
-    }
-
-    void findsAttributes_data()
-    {
-        const Columns<QStringList, QList<QByteArray>, bool> row("command", "some", "all");
-        row("of a processor", {"avr-gcc"}, {"OS_main", "externally_visible", "progmem"}, false);
-        row("clang's own are not asked for", {"clang"}, {}, true);
-        row("unknown ones are not reported", {"tcc"}, {}, true);
-    }
-    void findsAttributes()
-    {
-        QFETCH(QStringList, command);
-        QFETCH(QList<QByteArray>, some);
-        QFETCH(bool, all);
-        const Subject subject(command);
-        const QList<QByteArray> found = learnAttributes(subject.questions);
-        for (const QByteArray &name : some)
-            QVERIFY2(found.contains(name), found.join(' '));
-        QVERIFY2(!all || found == some, found.join(' '));
-        QVERIFY(!found.contains("noinit"));
     }
 
     void findsTheSearchPath_data()

@@ -39,13 +39,7 @@ private slots:
     void readsObjectFiles_data()
     {
         const Columns<QByteArray, QByteArray> row("file", "bytes");
-        row("as it is",
-            QByteArray("\x7f"
-                       "ELF\0ab",
-                       7),
-            QByteArray("\x7f"
-                       "ELF\0ab",
-                       7));
+        row("as it is", QByteArray("\177ELF\0ab", 7), QByteArray("\177ELF\0ab", 7));
         row("relocatable text", "XL3\nH 9 areas\nT 00 00 00 61 62\nR 00 00 00\nT 02 00 00 63\n",
             "abc");
         row("relocatable text, two bytes of address", "XH2\r\nT 00 00 61\r\n", "a");

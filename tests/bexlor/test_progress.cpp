@@ -14,10 +14,8 @@ private:
     std::atomic<bool> m_isWriting = false;
     std::atomic<bool> m_overlaps = false;
     Progress m_progress {[this](const QString &text) {
-        if (m_isWriting.exchange(true)) {
+        if (m_isWriting.exchange(true))
             m_overlaps = true;
-            return;
-        }
         std::this_thread::yield();
         m_said += text;
         m_isWriting = false;

@@ -100,6 +100,9 @@ private slots:
             newOne(dialog);
             QTest::keyClick(dialog.NewCmpNameEdit, Qt::Key_End);
             QTest::keyClick(dialog.NewCmpNameEdit, Qt::Key_X);
+            QTest::keyClick(dialog.NewCmpFamEdit, Qt::Key_End);
+            for (const QComboBox *list : {dialog.NewCmpNameComboBox, dialog.NewCmpFamComboBox})
+                QCOMPARE(list->currentIndex(), 0);
         };
         row("the preselected entry", preselected, {}, "Beta/C++");
         row("another entry", another, {}, "Alpha/a - C");
@@ -166,6 +169,7 @@ private slots:
         QCOMPARE(dialog.NewCmpNameEdit->text(), "C++");
         QCOMPARE(dialog.NewCmpNameEdit->cursorPosition(), 0);
         choose(dialog.NewCmpFamComboBox, "Alpha");
+        QCOMPARE(dialog.NewCmpFamComboBox->count(), 3);
         QCOMPARE(dialog.NewCmpNameComboBox->count(), 2);
         QCOMPARE(dialog.NewCmpNameComboBox->itemText(1), "a - C");
         QCOMPARE(dialog.NewCmpNameEdit->text(), "");

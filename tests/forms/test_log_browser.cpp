@@ -69,6 +69,8 @@ private slots:
         QVERIFY(browser.verticalScrollBar()->maximum() > 0);
         QCOMPARE(browser.verticalScrollBar()->value(), 0);
 
+        const QBitmap image = QBitmap::fromPixmap(browser.viewport()->grab());
+        QVERIFY(QRegion(image).boundingRect().height() > 50);
         const int secondLine = 4 + browser.fontMetrics().lineSpacing() * 3 / 2;
         const int position = browser.cursorForPosition({4, secondLine}).position();
         QVERIFY(position > 0 && text[position - 1] == ' ');
