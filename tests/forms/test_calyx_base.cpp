@@ -6,13 +6,6 @@
 
 namespace {
 
-// A form whose texts can be set again from outside.
-class Form : public CalyxBase
-{
-public:
-    using CalyxBase::languageChange;
-};
-
 /// The size that the text of a widget needs, and the size that it has.
 using Room = std::pair<QSize, QSize>;
 
@@ -49,6 +42,39 @@ QStringList cutOff(const QList<Widget *> &widgets)
             names << widget->objectName();
     }
     return names;
+}
+
+/// Those of the widgets of \a form that its tables name.
+QList<QWidget *> named(const QWidget *form)
+{
+    QList<QWidget *> widgets = form->findChildren<QWidget *>(QRegularExpression("^[A-Za-z]"));
+    widgets.removeIf([](const QWidget *widget) { return widget->objectName().startsWith("qt_"); });
+    return widgets;
+}
+
+/// The first of \a widgets, all on the screen, that others or the edge of a form hide.
+QString hiddenOf(const QList<QWidget *> &widgets)
+{
+    for (const QWidget *widget : widgets) {
+        const QSize hidden = widget->size() - widget->visibleRegion().boundingRect().size();
+        if (std::max(hidden.width(), hidden.height()) > 8) // lines lie across edges
+            return widget->objectName();
+    }
+    return QString();
+}
+
+/// Whether \a widget, one of the forms' tables, shows what it must.
+bool isComplete(const QWidget *widget)
+{
+    const auto shows = [](const QString &text, const auto &picture) {
+        return text.isEmpty() != picture.isNull();
+    };
+    if (const auto *label = qobject_cast<const QLabel *>(widget))
+        return shows(label->text(), label->pixmap()) || label->objectName().endsWith("ErrorLabel");
+    if (const auto *button = qobject_cast<const QPushButton *>(widget))
+        return shows(button->text(), button->icon())
+            && button->palette().color(button->backgroundRole()) == Qt::white;
+    return !qobject_cast<const QLineEdit *>(widget) || !widget->toolTip().isEmpty();
 }
 
 /// How tall the dark part of \a image is.
@@ -95,15 +121,76 @@ private slots:
     {
         const WizardUser user;
         const QRect page(0, 0, 760, 380);
+        QRegion decorationOfFirst;
         for (const int id : user->pageIds()) {
             user->showPage(qobject_cast<WizardPage *>(user->page(id)));
             QTest::qWait(20);
             QCOMPARE(user->size(), QSize(768, 455));
             QCOMPARE(user->currentPage()->visibleRegion().boundingRect() & page, page);
+            QCOMPARE(hiddenOf(named(user->currentPage())), "");
+            QRegion decoration;
+            for (const QWidget *part : user->currentPage()->findChildren<QWidget *>(
+                     QRegularExpression("^(line1|pixmapLabel[35])")))
+                decoration += part->geometry();
+            if (id == 0)
+                decorationOfFirst = decoration;
+            QCOMPARE(decoration, decorationOfFirst);
         }
+        for (const QLabel *label :
+             {user->CmpCmdOrder, user->SearchCompileCmdTxt, user->DefSwitchCompileCmdTxt,
+              user->DestErrorLabel, user->CmpPathErrorLabel})
+            QCOMPARE(label->textFormat(), Qt::PlainText);
         QVERIFY(user->CmpCmdOrder->font().italic() && !user->CmpExeEdit->font().italic());
         QVERIFY(user->DestErrorLabel->font().bold());
         QCOMPARE(user->textLabel1_3->font().pointSize(), 12);
+    }
+
+    void showsAndNamesEveryWidget()
+    {
+        const ProgramFolder folder; // with pictures for the side bar
+        Forms forms;
+        forms.dialog.show();
+        QCOMPARE(hiddenOf(named(&forms.dialog)), "");
+        for (const QWidget *widget : named(forms.user.wizard()) + named(&forms.dialog)) {
+            // A property that the toolkit does not know is not shown.
+            QVERIFY2(isComplete(widget) && !widget->size().isEmpty()
+                         && widget->dynamicPropertyNames().isEmpty(),
+                     qPrintable(widget->objectName()));
+        }
+        QStringList titles {""};
+        for (const QGroupBox *box : forms.all<QGroupBox>())
+            titles << box->title();
+        for (QWidget *widget : forms.all<QWidget>()) {
+            // The list of a combo box is told of through the box.
+            if (widget->focusPolicy() == Qt::NoFocus || widget->window()->windowType() == Qt::Popup)
+                continue;
+            const QAccessibleInterface *told = QAccessible::queryAccessibleInterface(widget);
+            QVERIFY2(!titles.contains(told->text(QAccessible::Name)),
+                     qPrintable(widget->objectName()));
+        }
+        for (int button = 0; button < SideBar::steps * SideBar::steps; ++button) {
+            const int page = button / SideBar::steps, step = button % SideBar::steps;
+            QCOMPARE(forms.user->sideBar.button(page, step)->accessibleDescription(),
+                     page == step ? "Current step" : "");
+        }
+    }
+
+    void movesTheFocusDownOrToTheRight()
+    {
+        const WizardUser user;
+        for (const int id : user->pageIds()) {
+            QRect previous;
+            QWidget *page = user->page(id);
+            for (QWidget *stop = page->nextInFocusChain(); stop != page;
+                 stop = stop->nextInFocusChain()) {
+                if (!page->isAncestorOf(stop) || !(stop->focusPolicy() & Qt::TabFocus))
+                    continue;
+                const QRect place(stop->mapTo(page, QPoint()), stop->size());
+                QVERIFY2(place.top() > previous.top() || place.left() > previous.right(),
+                         qPrintable(stop->objectName()));
+                previous = place;
+            }
+        }
     }
 
     void hasRoomForEveryText_data()
@@ -170,27 +257,6 @@ private slots:
         }
     }
 
-    void namesEveryStopOfTheFocus()
-    {
-        const Forms forms;
-        QStringList titles {""};
-        for (const QGroupBox *box : forms.all<QGroupBox>())
-            titles << box->title();
-        for (QWidget *widget : forms.all<QWidget>()) {
-            // The list of a combo box is told of through the box.
-            if (widget->focusPolicy() == Qt::NoFocus || widget->window()->windowType() == Qt::Popup)
-                continue;
-            const QAccessibleInterface *told = QAccessible::queryAccessibleInterface(widget);
-            QVERIFY2(!titles.contains(told->text(QAccessible::Name)),
-                     qPrintable(widget->objectName()));
-        }
-        for (int button = 0; button < SideBar::steps * SideBar::steps; ++button) {
-            const int page = button / SideBar::steps, step = button % SideBar::steps;
-            QCOMPARE(forms.user->sideBar.button(page, step)->accessibleDescription(),
-                     page == step ? "Current step" : "");
-        }
-    }
-
     void takesOneLineOnly_data()
     {
         const Columns<QString, QString> row("pasted", "held"); // between two characters
@@ -251,11 +317,11 @@ private slots:
 
     void setsItsTextsAgain()
     {
-        Form form;
+        CalyxBase form;
         form.CmpOrderListBox->insertItem(0, form.CmpOrderListBox->takeItem(5));
         form.CmpOrderListBox->addItem("extra");
         form.DestErrorLabel->setText("wrong");
-        form.languageChange();
+        QVERIFY(QMetaObject::invokeMethod(&form, "languageChange"));
         QCOMPARE(rows(form.CmpOrderListBox), defaultOrder());
         QCOMPARE(form.DestErrorLabel->text(), "");
         QCOMPARE(form.CmpCmdOrder->text(), "          <exe> <src>");
