@@ -155,17 +155,16 @@ private slots:
         QListWidget *list = user->CmpHdrDirListBox;
         user->showPage(user->Page2);
         pick(user->CmpHdrDirAddBtn, "out");
-        pick(user->CmpHdrDirAddBtn, "out");
-        pick(user->CmpHdrDirAddBtn, "");
-        list->setCurrentRow(-1);
-        pick(user->CmpHdrDirEditBtn, "tools");
+        pick(user->CmpHdrDirAddBtn, "tools");
         QCOMPARE(pick(user->CmpHdrDirAddBtn, ""), "tools");
+        list->setCurrentRow(-1);
+        pick(user->CmpHdrDirEditBtn, "out");
+        QCOMPARE(pick(user->CmpHdrDirAddBtn, ""), "out");
         user.click(user->CmpHdrDirDeleteBtn);
-        QCOMPARE(rows(list), QStringList({out, out}));
-        list->setCurrentRow(1);
-        QCOMPARE(pick(user->CmpHdrDirEditBtn, "tools"), "out");
         QCOMPARE(rows(list), QStringList({out, tools}));
         list->setCurrentRow(0);
+        QCOMPARE(pick(user->CmpHdrDirEditBtn, "tools"), "out");
+        QCOMPARE(rows(list), QStringList({tools, tools}));
         user.click(user->CmpHdrDirDeleteBtn);
         QCOMPARE(rows(list), QStringList {tools});
     }

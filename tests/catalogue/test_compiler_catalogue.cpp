@@ -1,6 +1,5 @@
 #include "catalogue_file.h"
 #include "download.h"
-#include "files.h"
 #include "row.h"
 
 class TestCompilerCatalogue : public QObject
@@ -128,29 +127,6 @@ private slots:
         QCOMPARE(parseCatalogue(made), catalogue("result"));
         QVERIFY(made.contains("# kept\n"));
         QCOMPARE(withShipped(made, catalogue("shipped"), catalogue("shipped")), made);
-    }
-
-    void keepsWhatItCannotRead_data()
-    {
-        const Columns<QByteArray, QByteArray> row("file", "saved");
-        const QByteArray wide("\xff\xfe<\0C\0", 6);
-        row("none", "", "<CompilerFamily>F</CompilerFamily>\n\n");
-        row("text", "# text\n", "<CompilerFamily>F</CompilerFamily>\n# text\n");
-        row("UTF-16", wide, wide);
-    }
-    void keepsWhatItCannotRead()
-    {
-        QFETCH(QByteArray, file);
-        QFETCH(QByteArray, saved);
-        const QTemporaryDir folder;
-        const QString path = folder.filePath("compilers.txt");
-        if (!file.isEmpty())
-            writeTestFile(path, file);
-        CatalogueFile catalogue(path);
-        QCOMPARE(catalogue.load(), CompilerCatalogue());
-        const CatalogueFile::Result result = catalogue.save({{"F"}, {}});
-        QCOMPARE(result == CatalogueFile::Result::Saved, saved != file);
-        QCOMPARE(readTestFile(path), saved);
     }
 
     void makesAddresses_data()

@@ -76,8 +76,8 @@ private slots:
         row("Selected Compiler Name:", "N - C\n", "<Name>N - C", "", "", Reset);
         row("Template Personality File:", "t\n", "<Template>t", "p_c|",
             "p_c|-tpl|..\\TemplatePersonalities\\t|", Reset);
-        row("Force Include File:", "\\f\\f\n", "<ForceIncludeFile>\\f\\f", "p_c|",
-            "p_c|-fi|\\f\\f|", Reset);
+        row("Force Include File:", "f\n", "<ForceIncludeFile>f", "p_c|",
+            "p_c|-fi|..\\ForceIncludeFiles\\f|", Reset);
         row("Substitute Headers:", "s\n", "<SubHeaders>s", "p_c|",
             "p_c|-sub|..\\SubstituteHeaders\\s|", Reset);
         row("Compiler Family Set:*", "F\n", "", "", "", Unseen);
