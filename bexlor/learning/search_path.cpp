@@ -21,6 +21,14 @@ QSet<QString> setOf(const QStringList &names)
     return {names.begin(), names.end()};
 }
 
+/// Whether the compiler's \a answer names a file whose path ends with \a path.
+bool namesFile(const ProbeAnswer &answer, const QString &path)
+{
+    const QByteArray messages = answer.run.output + answer.run.errors;
+    return messages.contains(path.toLocal8Bit())
+        || messages.contains(QString(path).replace(u'/', u'\\').toLocal8Bit());
+}
+
 /// Which of \a names the compiler finds when they are included.
 QSet<QString> foundHeaders(const Questions &questions, const QStringList &names)
 {
@@ -39,10 +47,7 @@ QSet<QString> foundHeaders(const Questions &questions, const QStringList &names)
     QList<bool> isFound;
     for (qsizetype i = 0; i < names.size(); ++i) {
         // A header that is found and cannot be compiled alone is named with its path.
-        const QByteArray messages = answers[i].run.output + answers[i].run.errors;
-        const QByteArray name = names[i].toLocal8Bit();
-        isFound << (answers[i].compiled() || messages.contains('/' + name)
-                    || messages.contains('\\' + name));
+        isFound << (answers[i].compiled() || namesFile(answers[i], u'/' + names[i]));
     }
     return setOf(selected(names, isFound));
 }
@@ -103,6 +108,9 @@ public:
                 return false;
             isCertain &= answer.has_value();
         }
+        // One that cannot be compiled alone shows no macros, but its path.
+        if (!isCertain && definedBehind(name, {}).isEmpty())
+            isCertain = namesFile(errorsIn(name), directory + u'/' + name);
         return isCertain ? std::optional(true) : std::nullopt;
     }
 
@@ -153,26 +161,36 @@ private:
         return m_defined[key] = {defined.begin(), defined.end()};
     }
 
+    /// What the compiler says when only the header \a name is included.
+    const ProbeAnswer &errorsIn(const QString &name)
+    {
+        if (!m_errors.contains(name))
+            m_errors[name] = m_questions.eachAlone({"#include " + inBrackets(name) + '\n'}).first();
+        return m_errors[name];
+    }
+
     const Questions &m_questions;
     const HeaderDirectories &m_directories;
+    std::map<QString, ProbeAnswer> m_errors;       ///< of each header
     std::map<QString, QSet<QByteArray>> m_macros;  ///< of each file
     std::map<QString, QSet<QByteArray>> m_defined; ///< behind each header
 };
 
-/// Whether the headers \a names, which are found, are those of \a directory: one of them shows it
-/// and none the contrary. Where no file differs from the others of its name, the directory that was
-/// given first is as good as any.
+/// Whether of the headers \a names, which are found, one is that of \a directory; others may be
+/// found before it elsewhere. Where no file differs from the others of its name, the directory that
+/// was given first is as good as any.
 bool isSearched(const HeaderDirectories &directories, Comparison &comparison,
                 const QStringList &names, const QString &directory)
 {
-    bool isLikely = false;
+    bool isLikely = false, isDoubtful = false;
     for (const QString &name : names) {
         const std::optional<bool> answer = comparison.isTakenFrom(name, directory);
-        if (answer)
-            return *answer;
+        if (answer == true)
+            return true;
+        isDoubtful |= answer == false;
         isLikely |= directories.directoriesWith(name).first() == directory;
     }
-    return isLikely;
+    return isLikely && !isDoubtful;
 }
 
 } // namespace
