@@ -18,6 +18,15 @@ const char *const clangKeywords =
     "_Complex _Imaginary _Atomic _Bool _Noreturn _Static_assert _Generic _Thread_local _Alignas "
     "_Alignof";
 
+// Those that it has besides where it is to be like Microsoft's compiler (clang's "Microsoft
+// extensions", and the keywords that Microsoft documents).
+const char *const microsoftKeywords =
+    "__declspec __int8 __int16 __int32 __int64 __forceinline __ptr32 __ptr64 __sptr __uptr __w64 "
+    "__unaligned __try __except __finally __leave __if_exists __if_not_exists __uuidof __super "
+    "__interface __assume __noop __pragma __single_inheritance __multiple_inheritance "
+    "__virtual_inheritance _asm _inline _cdecl _stdcall _fastcall _declspec _int8 _int16 _int32 "
+    "_int64 _alignof";
+
 bool hasKeyword(const Facts &facts, const QByteArray &name)
 {
     return std::any_of(facts.keywords.begin(), facts.keywords.end(),
@@ -94,14 +103,17 @@ std::optional<Macro> definitionOf(const Keyword &keyword, const Facts &facts)
 
 } // namespace
 
-QList<QByteArray> keywordsOfClang()
+QList<QByteArray> keywordsOfClang(const MacroFacts &macros)
 {
-    return QByteArray(clangKeywords).split(' ');
+    QList<QByteArray> keywords = QByteArray(clangKeywords).split(' ');
+    if (findMacro(macros, "_MSC_VER"))
+        keywords << QByteArray(microsoftKeywords).split(' ');
+    return keywords;
 }
 
 QList<Macro> keywordDefinitions(const Facts &facts)
 {
-    const QList<QByteArray> known = keywordsOfClang();
+    const QList<QByteArray> known = keywordsOfClang(facts.macros);
     QList<Macro> definitions = gnuDefinitions(facts.macros);
     for (const Keyword &keyword : facts.keywords) {
         if (known.contains(keyword.name) && keyword.form != Keyword::OrdinaryName)
