@@ -66,6 +66,16 @@ QList<Macro> gnuDefinitions(const MacroFacts &macros)
                                   "__builtin_" + operation + "_overflow(a,b,&(__typeof__(c)){0})"};
         }
     }
+    // The macros of GCC's <stdatomic.h> give these functions what is _Atomic, which clang refuses.
+    if (gnuVersion && !findMacro(macros, "__clang__") && !findMacro(macros, "__cplusplus")) {
+        for (const QByteArray operation :
+             {"load", "store", "exchange", "compare_exchange", "fetch_add", "fetch_sub",
+              "fetch_and", "fetch_or", "fetch_xor"}) {
+            const QByteArray name = "__atomic_" + operation;
+            definitions << Macro {name + "(p,...)",
+                                  name + "((__typeof__((void)0,*(p))*)(p),__VA_ARGS__)"};
+        }
+    }
     // Clang's <arm_acle.h>, which takes the place of the compiler's, asks for this (Arm C Language
     // Extensions 2.0), and GCC has not got it.
     if (gnuVersion && findMacro(macros, "__ARM_ARCH") && !findMacro(macros, "__ARM_ACLE"))

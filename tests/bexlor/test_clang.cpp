@@ -300,6 +300,10 @@ private slots:
             "extern void __builtin_avr_nop(void); extern unsigned char __builtin_avr_swap(unsigned "
             "char a); unsigned f(void) { __builtin_avr_nop(); return __builtin_avr_swap(1); }");
         facts.macros.known = macros("__GNUC__=11");
+        row("functions for what is atomic", false,
+            "_Atomic int a; volatile int b; const _Atomic long c; void f(long *d) { int v = "
+            "__atomic_fetch_add(&a, 1, 5); __atomic_store(&a, &v, 5); __atomic_load(&c, d, 5); "
+            "__atomic_fetch_or(&b, 1, 0); }");
         row("overflow alone", false,
             "int f(int a) { return __builtin_mul_overflow_p(a, a, (short)0); }");
     }
