@@ -109,7 +109,7 @@ public:
             isCertain &= answer.has_value();
         }
         // One that cannot be compiled alone shows no macros, but its path.
-        if (!isCertain && definedBehind(name, {}).isEmpty())
+        if (!isCertain && definesNothing(name))
             isCertain = namesFile(errorsIn(name), directory + u'/' + name);
         return isCertain ? std::optional(true) : std::nullopt;
     }
@@ -144,9 +144,7 @@ private:
     const QSet<QByteArray> &definedBehind(const QString &name, QStringList directories)
     {
         directories << m_directories.directoriesWith(name);
-        directories.removeDuplicates();
-        directories.sort();
-        const QString key = name + u'\n' + directories.join(u'\n');
+        const QString key = keyOf(name, directories);
         if (m_defined.contains(key))
             return m_defined[key];
         QSet<QByteArray> all;
@@ -159,6 +157,20 @@ private:
         const QList<QByteArray> defined =
             selected(names, m_questions.conditions(tests, "#include " + inBrackets(name) + '\n'));
         return m_defined[key] = {defined.begin(), defined.end()};
+    }
+
+    /// Whether it has been asked what the header \a name defines, and that is nothing.
+    bool definesNothing(const QString &name) const
+    {
+        const auto defined = m_defined.find(keyOf(name, m_directories.directoriesWith(name)));
+        return defined != m_defined.end() && defined->second.isEmpty();
+    }
+
+    static QString keyOf(const QString &name, QStringList directories)
+    {
+        directories.removeDuplicates();
+        directories.sort();
+        return name + u'\n' + directories.join(u'\n');
     }
 
     /// What the compiler says when only the header \a name is included.
@@ -176,21 +188,20 @@ private:
     std::map<QString, QSet<QByteArray>> m_defined; ///< behind each header
 };
 
-/// Whether of the headers \a names, which are found, one is that of \a directory; others may be
-/// found before it elsewhere. Where no file differs from the others of its name, the directory that
-/// was given first is as good as any.
+/// Whether the headers \a names, which are found, are those of \a directory: one of them shows it
+/// and none the contrary. Where no file differs from the others of its name, the directory that was
+/// given first is as good as any.
 bool isSearched(const HeaderDirectories &directories, Comparison &comparison,
                 const QStringList &names, const QString &directory)
 {
-    bool isLikely = false, isDoubtful = false;
+    bool isLikely = false;
     for (const QString &name : names) {
         const std::optional<bool> answer = comparison.isTakenFrom(name, directory);
-        if (answer == true)
-            return true;
-        isDoubtful |= answer == false;
+        if (answer)
+            return *answer;
         isLikely |= directories.directoriesWith(name).first() == directory;
     }
-    return isLikely && !isDoubtful;
+    return isLikely;
 }
 
 } // namespace
