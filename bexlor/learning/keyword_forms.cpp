@@ -288,15 +288,15 @@ QList<QList<Keyword::Form>> keywordForms(const Questions &questions,
     return forms;
 }
 
-QList<Keyword> assemblerBlocks(const Questions &questions)
+QList<Keyword> assemblerBlocks(const Questions &questions, const QList<QByteArray> &keywords)
 {
-    const Keyword blocks[] = {{"__asm", Keyword::AssemblerBlock, "__endasm"},
-                              {"_asm", Keyword::AssemblerBlock, "_endasm"}};
+    QList<Keyword> blocks {{"__asm", Keyword::AssemblerBlock, "__endasm"},
+                           {"_asm", Keyword::AssemblerBlock, "_endasm"}};
+    blocks.removeIf([&keywords](const Keyword &block) { return !keywords.contains(block.name); });
     QList<QByteArray> functions;
     for (const Keyword &block : blocks) {
         functions << "void calyx_" + QByteArray::number(functions.size()) + "(void) { " + block.name
                          + '\n' + block.standIn + "; }\n";
     }
-    return selected(QList<Keyword>(std::begin(blocks), std::end(blocks)),
-                    questions.accepted({}, functions));
+    return selected(blocks, questions.accepted({}, functions));
 }

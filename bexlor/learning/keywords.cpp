@@ -116,7 +116,7 @@ QList<Keyword> learnKeywords(const Questions &questions, const QList<ScannedName
             keywords.append({found[i], form, {}});
     }
     addStandIns(questions, types, keywords);
-    for (const Keyword &block : assemblerBlocks(questions)) {
+    for (const Keyword &block : assemblerBlocks(questions, found)) {
         keywords.removeIf([&block](const Keyword &keyword) { return keyword.name == block.name; });
         keywords << block;
     }
