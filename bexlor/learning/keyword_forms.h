@@ -11,5 +11,6 @@ QList<QList<Keyword::Form>> keywordForms(const Questions &questions,
                                          const QList<QByteArray> &keywords,
                                          const QList<QByteArray> &settled);
 
-/// The keywords that begin a block of assembler, of which nothing is C up to another keyword.
-QList<Keyword> assemblerBlocks(const Questions &questions);
+/// Those of \a keywords that begin a block of assembler, of which nothing is C up to another
+/// keyword.
+QList<Keyword> assemblerBlocks(const Questions &questions, const QList<QByteArray> &keywords);
