@@ -28,7 +28,7 @@ private slots:
         const WizardUser user;
         user->PersonDestEdit->setText(answered ? "..\\out" : "..\\nowhere");
         user->PersonNameEdit->setText("mine");
-        user->CmpExeEdit->setText(valid ? "cc" : "no-such-compiler");
+        user->CmpExeEdit->setText(valid ? "cc" : "");
         const QList<WizardPage *> pages {user->Page0, user->Page1, user->Page2, user->Page3,
                                          user->Page4};
         QString reached;
