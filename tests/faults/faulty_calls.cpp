@@ -66,20 +66,16 @@ Function *real(Function *, const char *name)
 
 [[gnu::constructor]] void obeyTheEnvironment()
 {
-    const char *program = getenv("FAULT_PROGRAM"), *call = getenv("FAULT_CALL"),
-               *error = getenv("FAULT_ERROR"), *count = getenv("FAULT_COUNT");
-    if (!program || !call || !error || !count
-        || std::strcmp(program, program_invocation_short_name) != 0)
+    const char *program = getenv("FAULT_PROGRAM");
+    if (!program || std::strcmp(program, program_invocation_short_name) != 0)
         return;
-    const int file = open(count, O_RDWR | O_CREAT, 0600);
-    void *memory = MAP_FAILED;
-    if (ftruncate(file, sizeof(Counter)) == 0)
-        memory = mmap(nullptr, sizeof(Counter), PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
-    close(file);
-    if (memory == MAP_FAILED)
+    const int file = open(getenv("FAULT_COUNT"), O_RDWR | O_CREAT, 0600);
+    if (ftruncate(file, sizeof(Counter)) != 0)
         std::abort();
-    calls = static_cast<Counter *>(memory);
-    beginFault(std::atoi(call), std::atoi(error));
+    calls = static_cast<Counter *>(
+        mmap(nullptr, sizeof(Counter), PROT_READ | PROT_WRITE, MAP_SHARED, file, 0));
+    close(file);
+    beginFault(std::atoi(getenv("FAULT_CALL")), std::atoi(getenv("FAULT_ERROR")));
 }
 
 mode_t modeOf(int flags, va_list arguments)
@@ -144,14 +140,11 @@ extern "C" ssize_t write(int file, const void *bytes, std::size_t size)
 /// What waits in the buffer is written by the system's library itself.
 extern "C" int fclose(FILE *stream)
 {
-    const bool isLost = __fwriting(stream) && isFile(fileno(stream)) && fails(Change::OfDisk);
-    const int error = errno;
-    if (isLost)
-        __fpurge(stream);
-    const int result = real(&fclose, "fclose")(stream);
-    if (!isLost)
-        return result;
-    errno = error;
+    if (!__fwriting(stream) || !isFile(fileno(stream)) || !fails(Change::OfDisk))
+        return real(&fclose, "fclose")(stream);
+    __fpurge(stream);
+    real(&fclose, "fclose")(stream);
+    errno = faultyError;
     return EOF;
 }
 

@@ -216,7 +216,6 @@ private slots:
         row("runs that are killed", generator, killHere);
         // Not on a broken disk: tcc takes what it cannot read for the end of the source.
         row("compilers that may not", compiler, EACCES);
-        row("compilers on a disk to be read", compiler, EROFS);
         row("compilers that are killed", compiler, killHere);
     }
     void endsRunsRightOrWithAnError()
