@@ -50,8 +50,9 @@ QList<QByteArray> macrosOfClang();
 /// Whether clang can be told the definition of \a macro in a file of options.
 bool canBeDefined(const Macro &macro);
 
-/// The extension keywords that clang has as well, for which nothing has to be defined.
-QList<QByteArray> keywordsOfClang();
+/// The extension keywords of a compiler with \a macros that clang has as well, for which nothing
+/// has to be defined.
+QList<QByteArray> keywordsOfClang(const MacroFacts &macros);
 
 /// Definitions under which clang reads what the keywords that it lacks are used in.
 QList<Macro> keywordDefinitions(const Facts &facts);

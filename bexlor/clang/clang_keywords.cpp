@@ -18,6 +18,15 @@ const char *const clangKeywords =
     "_Complex _Imaginary _Atomic _Bool _Noreturn _Static_assert _Generic _Thread_local _Alignas "
     "_Alignof";
 
+// Those that it has besides where it is to be like Microsoft's compiler (clang's "Microsoft
+// extensions", and the keywords that Microsoft documents).
+const char *const microsoftKeywords =
+    "__declspec __int8 __int16 __int32 __int64 __forceinline __ptr32 __ptr64 __sptr __uptr __w64 "
+    "__unaligned __try __except __finally __leave __if_exists __if_not_exists __uuidof __super "
+    "__interface __assume __noop __pragma __single_inheritance __multiple_inheritance "
+    "__virtual_inheritance _asm _inline _cdecl _stdcall _fastcall _declspec _int8 _int16 _int32 "
+    "_int64 _alignof";
+
 bool hasKeyword(const Facts &facts, const QByteArray &name)
 {
     return std::any_of(facts.keywords.begin(), facts.keywords.end(),
@@ -57,6 +66,16 @@ QList<Macro> gnuDefinitions(const MacroFacts &macros)
                                   "__builtin_" + operation + "_overflow(a,b,&(__typeof__(c)){0})"};
         }
     }
+    // The macros of GCC's <stdatomic.h> give these functions what is _Atomic, which clang refuses.
+    if (gnuVersion && !findMacro(macros, "__clang__") && !findMacro(macros, "__cplusplus")) {
+        for (const QByteArray operation :
+             {"load", "store", "exchange", "compare_exchange", "fetch_add", "fetch_sub",
+              "fetch_and", "fetch_or", "fetch_xor"}) {
+            const QByteArray name = "__atomic_" + operation;
+            definitions << Macro {name + "(p,...)",
+                                  name + "((__typeof__((void)0,*(p))*)(p),__VA_ARGS__)"};
+        }
+    }
     // Clang's <arm_acle.h>, which takes the place of the compiler's, asks for this (Arm C Language
     // Extensions 2.0), and GCC has not got it.
     if (gnuVersion && findMacro(macros, "__ARM_ARCH") && !findMacro(macros, "__ARM_ACLE"))
@@ -94,14 +113,17 @@ std::optional<Macro> definitionOf(const Keyword &keyword, const Facts &facts)
 
 } // namespace
 
-QList<QByteArray> keywordsOfClang()
+QList<QByteArray> keywordsOfClang(const MacroFacts &macros)
 {
-    return QByteArray(clangKeywords).split(' ');
+    QList<QByteArray> keywords = QByteArray(clangKeywords).split(' ');
+    if (findMacro(macros, "_MSC_VER"))
+        keywords << QByteArray(microsoftKeywords).split(' ');
+    return keywords;
 }
 
 QList<Macro> keywordDefinitions(const Facts &facts)
 {
-    const QList<QByteArray> known = keywordsOfClang();
+    const QList<QByteArray> known = keywordsOfClang(facts.macros);
     QList<Macro> definitions = gnuDefinitions(facts.macros);
     for (const Keyword &keyword : facts.keywords) {
         if (known.contains(keyword.name) && keyword.form != Keyword::OrdinaryName)

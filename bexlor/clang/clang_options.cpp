@@ -29,7 +29,7 @@ const Standard cppStandards[] = {{199711, "98"}, {201103, "11"}, {201402, "14"},
 /// The language version that \a macro tells, the newest one of \a table that is not newer than its
 /// value; none when nothing is known of the macro. \a isoPrefix and \a gnuPrefix stand before it.
 template <std::size_t Size>
-QList<QByteArray> standardOption(const MacroFacts &macros, const char *macro,
+QList<QByteArray> standardOption(const MacroFacts &macros, const QByteArray &macro,
                                  const Standard (&table)[Size], const char *isoPrefix,
                                  const char *gnuPrefix)
 {
@@ -50,30 +50,39 @@ QList<QByteArray> standardOption(const MacroFacts &macros, const char *macro,
     return {"-std=" + name};
 }
 
-/// Language features that a compiler announces by a macro and clang takes by an option: the options
-/// where there is the macro, and where there is none.
+/// Language features that a compiler announces by one of some macros and clang takes by an option:
+/// the options where there is such a macro, and where there is none.
 struct Feature
 {
-    const char *macro;
+    QList<QByteArray> macros;
     QList<QByteArray> options;
     QList<QByteArray> opposite;
 };
 
 const Feature cppFeatures[] = {
-    {"__EXCEPTIONS", {"-fexceptions", "-fcxx-exceptions"}, {"-fno-exceptions"}},
-    {"__GXX_RTTI", {"-frtti"}, {"-fno-rtti"}},
-    {"__cpp_sized_deallocation", {"-fsized-deallocation"}, {"-fno-sized-deallocation"}},
-    {"__cpp_aligned_new", {"-faligned-allocation"}, {"-fno-aligned-allocation"}},
-    {"__cpp_char8_t", {"-fchar8_t"}, {"-fno-char8_t"}},
+    {{"__EXCEPTIONS", "_CPPUNWIND"}, {"-fexceptions", "-fcxx-exceptions"}, {"-fno-exceptions"}},
+    {{"__GXX_RTTI", "_CPPRTTI"}, {"-frtti"}, {"-fno-rtti"}},
+    {{"__cpp_sized_deallocation"}, {"-fsized-deallocation"}, {"-fno-sized-deallocation"}},
+    {{"__cpp_aligned_new"}, {"-faligned-allocation"}, {"-fno-aligned-allocation"}},
+    {{"__cpp_char8_t"}, {"-fchar8_t"}, {"-fno-char8_t"}},
 };
 
 // Instructions for which headers of clang's own have to be told. Names: the manuals of GCC ("Arm
 // Options", "PowerPC Options", "MIPS Options") and of the Arm C Language Extensions.
 const Feature instructions[] = {
-    {"__ALTIVEC__", {"-maltivec"}, {}},
-    {"__VSX__", {"-mvsx"}, {}},
-    {"__mips_msa", {"-mmsa"}, {}},
+    {{"__ALTIVEC__"}, {"-maltivec"}, {}},
+    {{"__VSX__"}, {"-mvsx"}, {}},
+    {{"__mips_msa"}, {"-mmsa"}, {}},
 };
+
+/// The options of \a feature for a compiler with \a macros.
+QList<QByteArray> optionsOf(const Feature &feature, const MacroFacts &macros)
+{
+    const bool isThere =
+        std::any_of(feature.macros.begin(), feature.macros.end(),
+                    [&macros](const QByteArray &name) { return findMacro(macros, name); });
+    return isThere ? feature.options : feature.opposite;
+}
 
 // The macro that a GNU compiler has for an Arm architecture, and what clang calls it.
 const struct
@@ -172,7 +181,7 @@ QList<QByteArray> processorOptions(const MacroFacts &macros, const QByteArray &t
     if (target.startsWith("arm"))
         options << armOptions(macros);
     for (const Feature &feature : instructions)
-        options << (findMacro(macros, feature.macro) ? feature.options : feature.opposite);
+        options << optionsOf(feature, macros);
     // Without these clang warns, though it is not to link, that it cannot; and it does so before it
     // reads in a file that it should not. The processor is the one that avr-gcc assumes.
     if (target.startsWith("avr-"))
@@ -186,10 +195,22 @@ QList<QByteArray> versionOptions(const MacroFacts &macros, bool isCpp)
 {
     if (!isCpp)
         return standardOption(macros, "__STDC_VERSION__", cStandards, "c", "gnu");
-    QList<QByteArray> options = standardOption(macros, "__cplusplus", cppStandards, "c++", "gnu++");
+    // Microsoft's compiler says 1998 of each, unless it is asked to, and has this besides.
+    const QByteArray version = findMacro(macros, "_MSVC_LANG") ? "_MSVC_LANG" : "__cplusplus";
+    QList<QByteArray> options = standardOption(macros, version, cppStandards, "c++", "gnu++");
     for (const Feature &feature : cppFeatures)
-        options << (findMacro(macros, feature.macro) ? feature.options : feature.opposite);
+        options << optionsOf(feature, macros);
     return options;
+}
+
+/// The version of Microsoft's compiler that clang is to be like, which _MSC_VER tells: 1929
+/// is 19.29.
+QList<QByteArray> microsoftOptions(const MacroFacts &macros)
+{
+    const Macro *version = findMacro(macros, "_MSC_VER");
+    if (!version || version->value.size() < 3)
+        return {};
+    return {"-fms-compatibility-version=" + version->value.first(2) + '.' + version->value.mid(2)};
 }
 
 /// Settles what \a language says of wchar_t, if that is like the one of clang, \a ofClang.
@@ -215,7 +236,8 @@ Language languageOf(const Facts &facts, const QList<QByteArray> &passed, bool is
     const TargetChoice target = chooseTarget(facts, passed);
     if (!target.name.isEmpty())
         options << "--target=" + target.name;
-    options << processorOptions(facts.macros, target.name) << versionOptions(facts.macros, isCpp);
+    options << processorOptions(facts.macros, target.name) << versionOptions(facts.macros, isCpp)
+            << microsoftOptions(facts.macros);
     // What has been measured comes last, so that it counts.
     for (const QByteArray &option : passed + target.options + typeOptions(facts, target.name)) {
         options.removeAll(option);

@@ -66,9 +66,8 @@ const struct
 };
 
 const Named systems[] = {
-    {"_WIN32", "w64-windows-gnu"},
-    {"__linux__", "unknown-linux-gnu"},
-    {"_AIX", "ibm-aix"},
+    {"_MSC_VER", "pc-windows-msvc"},    {"_WIN32", "w64-windows-gnu"},
+    {"__linux__", "unknown-linux-gnu"}, {"_AIX", "ibm-aix"},
     {"__ELF__", "unknown-none-elf"},
 };
 
@@ -113,7 +112,7 @@ QByteArray systemOf(const MacroFacts &macros, const QByteArray &architecture)
         system = "unknown-none";
     if (architecture == "x86_64" && findMacro(macros, "__ILP32__") && system.endsWith("-gnu"))
         system += "x32";
-    if (architecture != "arm")
+    if (architecture != "arm" || system.endsWith("-msvc"))
         return system;
     // Without its binary interface clang warns each time that it has to assume one.
     if (system.endsWith("-elf"))
@@ -134,19 +133,21 @@ QByteArray targetByMacros(const Facts &facts)
 
 /// The targets that a compiler's code may be read for, if its macros tell \a named: that one, and
 /// those of the same architecture for other systems; or all. Windows is neither taken for another
-/// system nor another system for it, since it has rules of its own for what is exported; and
-/// Apple's systems, where sections have names of their own, only if they are named.
+/// system nor another system for it, since it has rules of its own for what is exported;
+/// Microsoft's compiler for no other, since clang reads another language then; and Apple's systems,
+/// where sections have names of their own, only if they are named.
 QList<QByteArray> candidates(const QByteArray &named)
 {
     const QByteArray architecture = named.first(named.indexOf('-') + 1);
-    const QByteArray windows = "-windows-";
+    const auto isAlike = [&named](const QByteArray &target, const QByteArray &part) {
+        return target.contains(part) == named.contains(part);
+    };
     QList<QByteArray> targets;
     for (const QByteArray &target : targetNames()) {
         const bool isSuitable = named.isEmpty()
                                   ? !target.contains("-apple-")
-                                  : target.startsWith(architecture)
-                                        && target.contains(windows) == named.contains(windows);
-        if (isSuitable)
+                                  : target.startsWith(architecture) && isAlike(target, "-windows-");
+        if (isSuitable && isAlike(target, "-msvc"))
             targets << target;
     }
     if (!named.isEmpty())

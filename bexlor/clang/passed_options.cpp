@@ -46,6 +46,8 @@ const PassedOption passedOptionTable[] = {
     {u"[-/]Zp(\\d+)"_s, u"-fpack-struct=\\1"_s},
     {u"[-/]Zc:wchar_t-"_s, u"-Xclang -fno-wchar"_s},
     {u"[-/]Zc:twoPhase-"_s, u"-fdelayed-template-parsing"_s},
+    {u"[-/]permissive-"_s, u"-fno-delayed-template-parsing"_s},
+    {u"[-/]Za"_s, u"-fno-ms-extensions"_s},
     {u"/J"_s, u"-funsigned-char"_s},
     {u"/openmp(:.+)?"_s, u"-fopenmp"_s},
     // Clang takes -fpermissive without obeying it, and reads and writes UTF-8 alone.

@@ -69,6 +69,10 @@ const struct Row
     {"aarch64-w64-windows-gnu", "windows", llp64, little, "unsigned long long", "unsigned short"},
     {"arm-w64-windows-gnu", "windows", ilp32, little, "unsigned int", "unsigned short"},
     {"i386-w64-windows-gnu", "windows", i386Windows, little, "unsigned int", "unsigned short"},
+    {"x86_64-pc-windows-msvc", "msvc", llp64, little, "unsigned long long", "unsigned short"},
+    {"aarch64-pc-windows-msvc", "msvc", llp64, little, "unsigned long long", "unsigned short"},
+    {"arm-pc-windows-msvc", "msvc", ilp32, little, "unsigned int", "unsigned short"},
+    {"i386-pc-windows-msvc", "msvc", ilp32, little, "unsigned int", "unsigned short"},
     {"x86_64-unknown-linux-gnux32", "gnux32", ilp32Quad, little, "unsigned int", "int"},
     {"powerpc-unknown-linux-gnu", "linux", ilp32Quad, big, "unsigned int", "int"},
     {"powerpc-ibm-aix", "aix", powerpcAix, big, "unsigned long", "unsigned short"},
@@ -145,7 +149,7 @@ const struct LayoutOption
                  layout[type].alignment = layout[type].size;
          }
      }},
-    {"-mno-ms-bitfields", {"-windows-"}, [](Layout &) {}}, // which is about nothing else
+    {"-mno-ms-bitfields", {"-windows-gnu"}, [](Layout &) {}}, // which is about nothing else
     {"-fpack-struct=8", {}, &pack<8>},
     {"-fpack-struct=4", {}, &pack<4>},
     {"-fpack-struct=2", {}, &pack<2>},
@@ -164,6 +168,8 @@ bool hasOwnBitFields(const QByteArray &target, const QList<QByteArray> &options)
 {
     const qsizetype own = options.lastIndexOf("-mms-bitfields");
     const qsizetype shared = options.lastIndexOf("-mno-ms-bitfields");
+    if (target.contains("-msvc"))
+        return true;
     return own == shared ? target.contains("-windows-") : own > shared;
 }
 

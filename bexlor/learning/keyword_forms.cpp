@@ -61,6 +61,44 @@ const Use usesElsewhere[] = {
     {"extern void %(@(1) char *);", Keyword::QualifierWithArgument},
 };
 
+/// What well-known keywords are usually used for; those with Undetermined in none of these places.
+/// One whose uses are all accepted is not asked for others, of which many a compiler rejects each
+/// in a probe of its own.
+const struct
+{
+    Use use;
+    const char *keywords;
+} usualUses[] = {
+    {{"void %f(void) { extern char @ %; }", Keyword::Qualifier},
+     "__const __const__ __volatile __volatile__ __signed __signed__ __code __data "
+     "__far __idata __near __pdata __xdata far near"},
+    {{"void %f(void) { extern char * @ %; }", Keyword::Qualifier}, "__restrict __restrict__"},
+    {{"static @ char %(void) { return 0; }", Keyword::Qualifier}, "__inline __inline__"},
+    {{"extern void @ %(int);", Keyword::Qualifier},
+     "__cdecl __cdecl__ __fastcall __fastcall__ __stdcall cdecl fastcall"},
+    {{"extern void %(void) @;", Keyword::Qualifier},
+     "__banked __critical __interrupt __naked __nonbanked __overlay __reentrant __smallc "
+     "__z88dk_callee __z88dk_fastcall"},
+    {{"extern void %(void) @(1);", Keyword::QualifierWithArgument},
+     "__interrupt __sdcccall __using __z88dk_params_offset"},
+    {{"extern void %(void) @ 2;", Keyword::QualifierWithBareArgument}, "__interrupt __using"},
+    {{"extern void %(void) @(a, b);", Keyword::QualifierWithArgument}, "__preserves_regs"},
+    {{"extern void %(void) @(8, 1);", Keyword::QualifierWithArgument}, "__z88dk_shortcall"},
+    {{"@ char %;", Keyword::Qualifier}, "__extension__"},
+    {{"@(1) char %;", Keyword::QualifierWithArgument}, "__at"},
+    {{"@ 1 char %;", Keyword::QualifierWithBareArgument}, "__at"},
+    {{"void %f(void) { extern @((unused)) int %; }", Keyword::QualifierWithArgument},
+     "__attribute __attribute__"},
+    // What qualifies an int that nobody names is no type.
+    {{"extern char %[1-2*(sizeof(@)==sizeof(int))];", Keyword::TypeName}, "__builtin_va_list"},
+    {{"extern char %[1-2*(sizeof(@)==sizeof(int)&&(@)-1<0)];", Keyword::TypeName},
+     "__bit __sbit __sfr __sfr16 __sfr32"},
+    {{nullptr, Keyword::Undetermined},
+     "asm __asm __asm__ _asm typeof __typeof __typeof__ __alignof __alignof__ __real __real__ "
+     "__imag __imag__ __label__ __builtin_choose_expr __builtin_offsetof "
+     "__builtin_types_compatible_p __builtin_va_arg __addressmod __A__ __AX__ __EAX__ __X__ __Y__"},
+};
+
 // In the order in which they stand behind one another.
 const Keyword::Form qualifiers[] = {Keyword::QualifierWithArgument,
                                     Keyword::QualifierWithBareArgument, Keyword::Qualifier};
@@ -81,6 +119,10 @@ public:
 
     QList<QSet<int>> forms; ///< of each keyword
 
+    /// Adds the usual uses that the compiler accepts, and returns the keywords that these are all
+    /// of.
+    QList<QByteArray> tryUsualUses();
+
     enum Ways { Together, Apart };
     /// Adds those of \a uses that the compiler accepts of the keywords \a indices.
     void tryUses(std::span<const Use> uses, const QList<qsizetype> &indices, Ways ways);
@@ -93,7 +135,15 @@ public:
     QList<qsizetype> keywordsWith(Keyword::Form form, const QList<QByteArray> &settled) const;
 
 private:
+    struct Trial
+    {
+        qsizetype keyword;
+        const Use *use;
+    };
+
     void tryAtOnce(std::span<const Use> uses, const QList<qsizetype> &indices, Ways ways);
+    /// Adds the forms of those of \a trials that the compiler accepts, and returns which.
+    QList<bool> addAccepted(const QList<Trial> &trials, Ways ways);
     bool isNeeded(const Use &use, qsizetype keyword) const;
 
     const Questions &m_questions;
@@ -114,21 +164,48 @@ void FormSearch::tryUses(std::span<const Use> uses, const QList<qsizetype> &indi
 
 void FormSearch::tryAtOnce(std::span<const Use> uses, const QList<qsizetype> &indices, Ways ways)
 {
-    QList<QByteArray> lines;
-    QList<std::pair<qsizetype, int>> asked; // keyword and form
+    QList<Trial> trials;
     for (const qsizetype index : indices) {
         for (const Use &use : uses) {
-            if (!isNeeded(use, index))
-                continue;
-            lines << lineOf(use, m_keywords[index], lines.size());
-            asked << std::pair(index, int(use.form));
+            if (isNeeded(use, index))
+                trials.append({index, &use});
         }
     }
+    addAccepted(trials, ways);
+}
+
+QList<bool> FormSearch::addAccepted(const QList<Trial> &trials, Ways ways)
+{
+    QList<QByteArray> lines;
+    for (const auto &[keyword, use] : trials)
+        lines << lineOf(*use, m_keywords[keyword], lines.size());
     const QList<bool> isAccepted =
         ways == Apart ? m_questions.acceptedApart(lines)
                       : m_questions.accepted({}, lines, m_questions.stopsAtFirstError());
-    for (const auto &[index, form] : selected(asked, isAccepted))
-        forms[index] << form;
+    for (const auto &[keyword, use] : selected(trials, isAccepted))
+        forms[keyword] << use->form;
+    return isAccepted;
+}
+
+QList<QByteArray> FormSearch::tryUsualUses()
+{
+    QList<Trial> trials;
+    QList<QByteArray> settled;
+    for (const auto &[use, keywords] : usualUses) {
+        for (const QByteArray &name : QByteArray(keywords).split(' ')) {
+            const qsizetype index = m_keywords.indexOf(name);
+            if (index >= 0)
+                settled << name;
+            if (index >= 0 && use.line)
+                trials.append({index, &use});
+        }
+    }
+    const QList<bool> isAccepted = addAccepted(trials, Together);
+    for (qsizetype i = 0; i < trials.size(); ++i) {
+        if (!isAccepted[i])
+            settled.removeAll(m_keywords[trials[i].keyword]);
+    }
+    return settled;
 }
 
 /// Whether it makes a difference to the form of a keyword how \a use is taken.
@@ -194,14 +271,14 @@ QList<QList<Keyword::Form>> keywordForms(const Questions &questions,
                                          const QList<QByteArray> &settled)
 {
     FormSearch search(questions, keywords);
-    search.tryUses(usesWithinFunctions, search.keywordsWith(Keyword::Undetermined, {}),
+    const QList<QByteArray> usual = search.tryUsualUses(), known = usual + settled;
+    search.tryUses(usesWithinFunctions, search.keywordsWith(Keyword::Undetermined, usual),
                    FormSearch::Together);
-    search.tryUses(usesWithBareArgument,
-                   search.keywordsWith(Keyword::QualifierWithArgument, settled),
+    search.tryUses(usesWithBareArgument, search.keywordsWith(Keyword::QualifierWithArgument, known),
                    FormSearch::Together);
-    search.tryUses(usesBehindFunctions, search.keywordsWith(Keyword::Undetermined, settled),
+    search.tryUses(usesBehindFunctions, search.keywordsWith(Keyword::Undetermined, known),
                    FormSearch::Apart);
-    search.tryUses(usesElsewhere, search.keywordsWith(Keyword::Undetermined, settled),
+    search.tryUses(usesElsewhere, search.keywordsWith(Keyword::Undetermined, known),
                    FormSearch::Together);
     if (!questions.rejects(ErrorKind::ConflictingDeclaration))
         search.keepTypesApart();

@@ -25,12 +25,18 @@ bool isReservedFunction(const QByteArray &name)
         || name.startsWith("__atomic_");
 }
 
+/// Whether \a name may begin an assembler's text. A compiler may take all that follows for it.
+bool mayBeginAssembler(const QByteArray &name)
+{
+    return name.contains("asm");
+}
+
 /// The order in which names are asked for: alphabetical, but what may begin an assembler's text
-/// comes last, since a compiler may take all that follows for it.
+/// comes last.
 bool isAskedBefore(const QByteArray &a, const QByteArray &b)
 {
-    const bool isAssembler = a.contains("asm");
-    return isAssembler == b.contains("asm") ? a < b : !isAssembler;
+    const bool isAssembler = mayBeginAssembler(a);
+    return isAssembler == mayBeginAssembler(b) ? a < b : !isAssembler;
 }
 
 /// The names that may be keywords: those used in headers and the well-known ones.
@@ -72,7 +78,13 @@ QList<QByteArray> undeclarable(const Questions &questions, const QByteArray &dec
 /// that may be members' names, as an object.
 QList<QByteArray> undeclarableNames(const Questions &questions, const QList<QByteArray> &names)
 {
-    QList<QByteArray> rejected = undeclarable(questions, "struct calyx_% { char @[1]; };\n", names);
+    const QByteArray member = "struct calyx_% { char @[1]; };\n";
+    // One that stops in an assembler's text does not tell what it has accepted before.
+    const auto firstAsm = questions.stopsAtFirstError()
+                            ? std::find_if(names.begin(), names.end(), &mayBeginAssembler)
+                            : names.end();
+    QList<QByteArray> rejected = undeclarable(questions, member, {names.begin(), firstAsm})
+                               + undeclarable(questions, member, {firstAsm, names.end()});
     QList<QByteArray> types;
     for (const QByteArray &name : wellKnownKeywords(questions.isCpp())) {
         if (names.contains(name) && !rejected.contains(name))

@@ -21,6 +21,14 @@ QSet<QString> setOf(const QStringList &names)
     return {names.begin(), names.end()};
 }
 
+/// Whether the compiler's \a answer names a file whose path ends with \a path.
+bool namesFile(const ProbeAnswer &answer, const QString &path)
+{
+    const QByteArray messages = answer.run.output + answer.run.errors;
+    return messages.contains(path.toLocal8Bit())
+        || messages.contains(QString(path).replace(u'/', u'\\').toLocal8Bit());
+}
+
 /// Which of \a names the compiler finds when they are included.
 QSet<QString> foundHeaders(const Questions &questions, const QStringList &names)
 {
@@ -39,10 +47,7 @@ QSet<QString> foundHeaders(const Questions &questions, const QStringList &names)
     QList<bool> isFound;
     for (qsizetype i = 0; i < names.size(); ++i) {
         // A header that is found and cannot be compiled alone is named with its path.
-        const QByteArray messages = answers[i].run.output + answers[i].run.errors;
-        const QByteArray name = names[i].toLocal8Bit();
-        isFound << (answers[i].compiled() || messages.contains('/' + name)
-                    || messages.contains('\\' + name));
+        isFound << (answers[i].compiled() || namesFile(answers[i], u'/' + names[i]));
     }
     return setOf(selected(names, isFound));
 }
@@ -103,6 +108,9 @@ public:
                 return false;
             isCertain &= answer.has_value();
         }
+        // One that cannot be compiled alone shows no macros, but its path.
+        if (!isCertain && definesNothing(name))
+            isCertain = namesFile(errorsIn(name), directory + u'/' + name);
         return isCertain ? std::optional(true) : std::nullopt;
     }
 
@@ -136,9 +144,7 @@ private:
     const QSet<QByteArray> &definedBehind(const QString &name, QStringList directories)
     {
         directories << m_directories.directoriesWith(name);
-        directories.removeDuplicates();
-        directories.sort();
-        const QString key = name + u'\n' + directories.join(u'\n');
+        const QString key = keyOf(name, directories);
         if (m_defined.contains(key))
             return m_defined[key];
         QSet<QByteArray> all;
@@ -153,8 +159,31 @@ private:
         return m_defined[key] = {defined.begin(), defined.end()};
     }
 
+    /// Whether it has been asked what the header \a name defines, and that is nothing.
+    bool definesNothing(const QString &name) const
+    {
+        const auto defined = m_defined.find(keyOf(name, m_directories.directoriesWith(name)));
+        return defined != m_defined.end() && defined->second.isEmpty();
+    }
+
+    static QString keyOf(const QString &name, QStringList directories)
+    {
+        directories.removeDuplicates();
+        directories.sort();
+        return name + u'\n' + directories.join(u'\n');
+    }
+
+    /// What the compiler says when only the header \a name is included.
+    const ProbeAnswer &errorsIn(const QString &name)
+    {
+        if (!m_errors.contains(name))
+            m_errors[name] = m_questions.eachAlone({"#include " + inBrackets(name) + '\n'}).first();
+        return m_errors[name];
+    }
+
     const Questions &m_questions;
     const HeaderDirectories &m_directories;
+    std::map<QString, ProbeAnswer> m_errors;       ///< of each header
     std::map<QString, QSet<QByteArray>> m_macros;  ///< of each file
     std::map<QString, QSet<QByteArray>> m_defined; ///< behind each header
 };

@@ -325,8 +325,8 @@ QList<Keyword> findKeywords(Progress &progress, const Questions &questions, cons
                             const Facts &known)
 {
     const ProgressStep step(progress, u"Looking for keywords ..."_s, probesOf(questions.runner()));
-    const QList<Keyword> keywords =
-        learnKeywords(questions, scan.names, known.macros, known.types, keywordsOfClang());
+    const QList<Keyword> keywords = learnKeywords(questions, scan.names, known.macros, known.types,
+                                                  keywordsOfClang(known.macros));
     progress.say(u"Found %1."_s.arg(counted(keywords.size(), "keyword"_L1, "keywords"_L1)));
     for (const QString &remark : whatNoOptionExpresses(keywords))
         progress.say(remark);

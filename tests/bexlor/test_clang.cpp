@@ -60,6 +60,8 @@ private slots:
         row("Linux", "__x86_64__ __linux__", {}, little, "x86_64-unknown-linux-gnu");
         row("x32", "__x86_64__ __ILP32__ __linux__", {}, little, "x86_64-unknown-linux-gnux32");
         row("MinGW", "__x86_64__ _WIN32", {}, little, "x86_64-w64-windows-gnu");
+        row("Microsoft", "_M_X64 _WIN32 _MSC_VER=1929", types({4, 4, 8, 8, 8}), little,
+            "x86_64-pc-windows-msvc");
         row("bare Arm", "__arm__ __ELF__", {}, little, "arm-unknown-none-eabi");
         row("hard float", "__arm__ __linux__ __ARM_PCS_VFP", {}, little,
             "arm-unknown-linux-gnueabihf");
@@ -280,6 +282,16 @@ private slots:
             "__data int b; __at(0x80) __sfr c; static __inline int d(void) { return 1; }"
             "int __bit; void e(void) __interrupt(2); typedef unsigned char _Bool;"
             "char f[(_Bool)2==2?1:-1];");
+        facts.keywords = {{"__declspec", Keyword::QualifierWithArgument, {}},
+                          {"__try", Keyword::Undetermined, {}}};
+        facts.types = types({4, 4, 8, 8, 8});
+        facts.macros.known = macros("_M_X64 _WIN32 _MSC_VER=1929 _MSVC_LANG=201703L _CPPUNWIND");
+        row("Microsoft's", true,
+            "struct __declspec(uuid(\"00000000-0000-0000-C000-000000000046\")) A { };\n"
+            "void f(bool a) { __try { if (a) throw 1; } __finally { } }\n"
+            "template <class T> struct B { int b; };\n"
+            "template <class T> struct C : B<T> { int c() { return b; } };\n"
+            "static_assert(sizeof(long double) == 8); __interface D { int d(); };\n");
         facts.macros.known = macros("__GNUC__=11");
         row("an attribute with arguments", false,
             "void f(void *); __attribute__((__malloc__(f, 1))) void *g(void);");
@@ -288,6 +300,10 @@ private slots:
             "extern void __builtin_avr_nop(void); extern unsigned char __builtin_avr_swap(unsigned "
             "char a); unsigned f(void) { __builtin_avr_nop(); return __builtin_avr_swap(1); }");
         facts.macros.known = macros("__GNUC__=11");
+        row("functions for what is atomic", false,
+            "_Atomic int a; volatile int b; const _Atomic long c; void f(long *d) { int v = "
+            "__atomic_fetch_add(&a, 1, 5); __atomic_store(&a, &v, 5); __atomic_load(&c, d, 5); "
+            "__atomic_fetch_or(&b, 1, 0); }");
         row("overflow alone", false,
             "int f(int a) { return __builtin_mul_overflow_p(a, a, (short)0); }");
     }
