@@ -18,13 +18,13 @@
     <message>
         <source>You have selected KOV for a currently selected C++ execution command.
 Please reselect the Exe Command below.</source>
-        <translation>Sie haben KOV gewählt, der gewählte Exe-Befehl ist aber einer für C++.
+        <translation>Sie haben KOV gewählt, der gewählte Exe-Befehl ist aber für C++.
 Bitte wählen Sie unten den Exe-Befehl neu.</translation>
     </message>
     <message>
         <source>You have selected KOV++ for a currently selected C execution command.
 Please reselect the Exe Command below.</source>
-        <translation>Sie haben KOV++ gewählt, der gewählte Exe-Befehl ist aber einer für C.
+        <translation>Sie haben KOV++ gewählt, der gewählte Exe-Befehl ist aber für C.
 Bitte wählen Sie unten den Exe-Befehl neu.</translation>
     </message>
     <message>
@@ -121,25 +121,25 @@ Der Name sollte die Sprache wiedergeben. Möchten Sie diesen Namen wirklich verw
         <source>Output Flag
 (e.g. -o | -e)</source>
         <translation>Ausgabe-Flag
-(z. B. -o | -e)</translation>
+(z.&#xa0;B. -o | -e)</translation>
     </message>
     <message>
         <source>Define Flag
 (e.g. -d)</source>
         <translation>Define-Flag
-(z. B. -d)</translation>
+(z.&#xa0;B. -d)</translation>
     </message>
     <message>
         <source>Object Flag
 (e.g. -c)</source>
         <translation>Objekt-Flag
-(z. B. -c)</translation>
+(z.&#xa0;B. -c)</translation>
     </message>
     <message>
         <source>Object File Ext
 (e.g. .obj)</source>
         <translation>Objekt-Endung
-(z. B. .obj)</translation>
+(z.&#xa0;B. .obj)</translation>
     </message>
     <message>
         <source>Reduce file size</source>
@@ -208,7 +208,7 @@ Der Name sollte die Sprache wiedergeben. Möchten Sie diesen Namen wirklich verw
     </message>
     <message>
         <source>Please specify the starting level directories that contain compiler include files and compiler binary files. The generator will recurse into these directories checking for whether they are on the compile path, and extracting defines and keywords. Please note that because the generator recurses, do not specify &quot;&lt;font face=&quot;Courier New&quot;&gt;C:/&lt;/font&gt;&quot; or &quot;&lt;font face=&quot;Courier New&quot;&gt;/usr&lt;/font&gt;&quot; as a directory.</source>
-        <translation>Geben Sie die Verzeichnisse an, unter denen die Header und Programme des Compilers liegen. Der Generator durchsucht auch alle Unterverzeichnisse, prüft, ob der Compiler dort sucht, und liest Defines und Schlüsselwörter heraus. Geben Sie deshalb nicht &quot;&lt;font face=&quot;Courier New&quot;&gt;C:/&lt;/font&gt;&quot; oder &quot;&lt;font face=&quot;Courier New&quot;&gt;/usr&lt;/font&gt;&quot; an.</translation>
+        <translation>Geben Sie die Verzeichnisse an, unter denen die Header und Programme des Compilers liegen. Der Generator durchsucht auch alle Unterverzeichnisse, prüft, ob der Compiler dort sucht, und liest Defines und Schlüsselwörter heraus. Geben Sie deshalb nicht „&lt;font face=&quot;Courier New&quot;&gt;C:/&lt;/font&gt;“ oder „&lt;font face=&quot;Courier New&quot;&gt;/usr&lt;/font&gt;“ an.</translation>
     </message>
     <message>
         <source>Specify the starting level directories for all system includes (note sub directories are not required to be listed).</source>
@@ -216,7 +216,7 @@ Der Name sollte die Sprache wiedergeben. Möchten Sie diesen Namen wirklich verw
     </message>
     <message>
         <source>Please specify any compiler switches or implicit defines that would effect the nature of the compilation and/or pre-processing of the system header files. Enter these values as comma or line delimted (eg ONE,TWO=2, THREE=3).</source>
-        <translation>Geben Sie die Compilerschalter und impliziten Defines an, die beeinflussen, wie die System-Header übersetzt oder vom Präprozessor verarbeitet werden. Trennen Sie die Werte durch Kommas oder Zeilenumbrüche (z. B. ONE,TWO=2, THREE=3).</translation>
+        <translation>Geben Sie die Compilerschalter und impliziten Defines an, die beeinflussen, wie die System-Header übersetzt oder vom Präprozessor verarbeitet werden. Trennen Sie die Werte durch Kommas oder Zeilenumbrüche (z.&#xa0;B. ONE,TWO=2, THREE=3).</translation>
     </message>
     <message>
         <source>External Compiler Switches</source>
@@ -370,7 +370,7 @@ Der Name sollte die Sprache wiedergeben. Möchten Sie diesen Namen wirklich verw
     </message>
     <message>
         <source>You can either overwirte the existing compiler selected from the list with any changes you have made to the options, defines or switches; or simply create a new entry in the compiler list. Note that if you select &quot;Save As New&quot; and leave the Compiler Name blank it will use the name &quot;C&quot; or &quot;C++&quot; depending on the language specified. You cannot leave the Compiler Name blank if you select Both. Any changes made to an existing compiler entry cannot be undone.</source>
-        <translation>Sie können den Compiler, der in der Liste gewählt ist, mit Ihren Änderungen an Optionen, Defines und Schaltern überschreiben oder einen neuen Eintrag in der Compilerliste anlegen. Bleibt bei &quot;Als neuen Eintrag&quot; der Compilername leer, heißt der Eintrag je nach Sprache &quot;C&quot; oder &quot;C++&quot;; bei &quot;Beide&quot; darf er nicht leer sein. Änderungen an einem bestehenden Eintrag lassen sich nicht rückgängig machen.</translation>
+        <translation>Sie können den Compiler, der in der Liste gewählt ist, mit Ihren Änderungen an Optionen, Defines und Schaltern überschreiben oder einen neuen Eintrag in der Compilerliste anlegen. Bleibt bei „Als neuen Eintrag“ der Compilername leer, heißt der Eintrag je nach Sprache „C“ oder „C++“; bei „Beide“ darf er nicht leer sein. Änderungen an einem bestehenden Eintrag lassen sich nicht rückgängig machen.</translation>
     </message>
     <message>
         <source>Save Compiler Details</source>

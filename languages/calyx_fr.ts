@@ -33,11 +33,11 @@ Veuillez choisir à nouveau la commande ci-dessous.</translation>
     </message>
     <message>
         <source>Compiler Family and Compiler Name match an existing compiler, do you want to overwrite this?</source>
-        <translation>Il existe déjà un compilateur de cette famille et de ce nom. Voulez-vous le remplacer ?</translation>
+        <translation>Il existe déjà un compilateur de cette famille et de ce nom. Voulez-vous le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>Compiler Name cannot be empty if language: Both is selected.</source>
-        <translation>Le nom du compilateur est obligatoire si la langue « Tous » est choisie.</translation>
+        <translation>Le nom du compilateur est obligatoire si le langage «&#xa0;Tous&#xa0;» est choisi.</translation>
     </message>
     <message>
         <source>Compiler Name provided does not match the language selected,
@@ -45,13 +45,13 @@ or describes a specific language when &apos;Both&apos; is selected.
 
 It is advisabe to ensure that the compiler name reflects the language. Are you sure you wish to continue with this name?</source>
         <translation>Le nom du compilateur ne correspond pas au langage choisi,
-ou désigne un langage précis alors que « Tous » est choisi.
+ou désigne un langage précis alors que «&#xa0;Tous&#xa0;» est choisi.
 
-Le nom devrait indiquer le langage. Voulez-vous vraiment garder ce nom ?</translation>
+Le nom devrait indiquer le langage. Voulez-vous vraiment garder ce nom&#xa0;?</translation>
     </message>
     <message>
         <source>The compiler has not been saved: the catalogue compilers.txt cannot be read whole, and saving would lose what it holds.</source>
-        <translation>Le compilateur n’a pas été enregistré : le catalogue compilers.txt ne peut pas être lu en entier, et l’enregistrement en perdrait le contenu.</translation>
+        <translation>Le compilateur n’a pas été enregistré&#xa0;: le catalogue compilers.txt ne peut pas être lu en entier, et l’enregistrement en perdrait le contenu.</translation>
     </message>
 </context>
 <context>
@@ -83,7 +83,7 @@ Le nom devrait indiquer le langage. Voulez-vous vraiment garder ce nom ?</transl
     </message>
     <message>
         <source>Name of the Personality; the extension .p_c is added to it.</source>
-        <translation>Nom de la personnalité ; l’extension .p_c est ajoutée.</translation>
+        <translation>Nom de la personnalité&#xa0;; l’extension .p_c est ajoutée.</translation>
     </message>
     <message>
         <source>Select Product</source>
@@ -107,7 +107,7 @@ Le nom devrait indiquer le langage. Voulez-vous vraiment garder ce nom ?</transl
     </message>
     <message>
         <source>Please select your compiler from the drop down menu (Exe Command button), or if the compiler is not in the list, complete the options including the command to invoke the compiler. Please note, it is important to specify whether your compiler will produce an executable binary on this host or not (cross compiler). Reduce File Size avoids compiler buffer overruns on small embedded compilers.</source>
-        <translation>Choisissez votre compilateur dans le menu (bouton « Commande »). S’il n’y figure pas, remplissez les champs, dont la commande qui lance le compilateur. Il importe d’indiquer si le compilateur produit des programmes exécutables sur cette machine ou non (compilateur croisé). « Petits fichiers » évite les débordements de tampon des petits compilateurs embarqués.</translation>
+        <translation>Choisissez votre compilateur dans le menu (bouton «&#xa0;Commande&#xa0;»). S’il n’y figure pas, remplissez les champs, dont la commande qui lance le compilateur. Il importe d’indiquer si le compilateur produit des programmes exécutables sur cette machine ou non (compilateur croisé). «&#xa0;Petits fichiers&#xa0;» évite les débordements de tampon des petits compilateurs embarqués.</translation>
     </message>
     <message>
         <source>Trailing Space</source>
@@ -121,25 +121,25 @@ Le nom devrait indiquer le langage. Voulez-vous vraiment garder ce nom ?</transl
         <source>Output Flag
 (e.g. -o | -e)</source>
         <translation>Option de sortie
-(p. ex. -o | -e)</translation>
+(p.&#xa0;ex. -o | -e)</translation>
     </message>
     <message>
         <source>Define Flag
 (e.g. -d)</source>
         <translation>Option de macro
-(p. ex. -d)</translation>
+(p.&#xa0;ex. -d)</translation>
     </message>
     <message>
         <source>Object Flag
 (e.g. -c)</source>
         <translation>Option d’objet
-(p. ex. -c)</translation>
+(p.&#xa0;ex. -c)</translation>
     </message>
     <message>
         <source>Object File Ext
 (e.g. .obj)</source>
         <translation>Extension objet
-(p. ex. .obj)</translation>
+(p.&#xa0;ex. .obj)</translation>
     </message>
     <message>
         <source>Reduce file size</source>
@@ -208,7 +208,7 @@ Le nom devrait indiquer le langage. Voulez-vous vraiment garder ce nom ?</transl
     </message>
     <message>
         <source>Please specify the starting level directories that contain compiler include files and compiler binary files. The generator will recurse into these directories checking for whether they are on the compile path, and extracting defines and keywords. Please note that because the generator recurses, do not specify &quot;&lt;font face=&quot;Courier New&quot;&gt;C:/&lt;/font&gt;&quot; or &quot;&lt;font face=&quot;Courier New&quot;&gt;/usr&lt;/font&gt;&quot; as a directory.</source>
-        <translation>Indiquez les dossiers sous lesquels se trouvent les en-têtes et les programmes du compilateur. Le générateur parcourt aussi leurs sous-dossiers, vérifie si le compilateur y cherche, et en extrait les macros et les mots-clés. N’indiquez donc pas &quot;&lt;font face=&quot;Courier New&quot;&gt;C:/&lt;/font&gt;&quot; ni &quot;&lt;font face=&quot;Courier New&quot;&gt;/usr&lt;/font&gt;&quot;.</translation>
+        <translation>Indiquez les dossiers sous lesquels se trouvent les en-têtes et les programmes du compilateur. Le générateur parcourt aussi leurs sous-dossiers, vérifie si le compilateur y cherche, et en extrait les macros et les mots-clés. N’indiquez donc pas «&#xa0;&lt;font face=&quot;Courier New&quot;&gt;C:/&lt;/font&gt;&#xa0;» ni «&#xa0;&lt;font face=&quot;Courier New&quot;&gt;/usr&lt;/font&gt;&#xa0;».</translation>
     </message>
     <message>
         <source>Specify the starting level directories for all system includes (note sub directories are not required to be listed).</source>
@@ -216,7 +216,7 @@ Le nom devrait indiquer le langage. Voulez-vous vraiment garder ce nom ?</transl
     </message>
     <message>
         <source>Please specify any compiler switches or implicit defines that would effect the nature of the compilation and/or pre-processing of the system header files. Enter these values as comma or line delimted (eg ONE,TWO=2, THREE=3).</source>
-        <translation>Indiquez les options du compilateur et les macros implicites qui influent sur la compilation ou le prétraitement des en-têtes système. Séparez les valeurs par des virgules ou des sauts de ligne (p. ex. ONE,TWO=2, THREE=3).</translation>
+        <translation>Indiquez les options du compilateur et les macros implicites qui influent sur la compilation ou le prétraitement des en-têtes système. Séparez les valeurs par des virgules ou des sauts de ligne (p.&#xa0;ex. ONE,TWO=2, THREE=3).</translation>
     </message>
     <message>
         <source>External Compiler Switches</source>
@@ -338,7 +338,7 @@ Le nom devrait indiquer le langage. Voulez-vous vraiment garder ce nom ?</transl
     </message>
     <message>
         <source>Family of the compiler: one of the list, or a new one.</source>
-        <translation>Famille du compilateur : de la liste, ou une nouvelle.</translation>
+        <translation>Famille du compilateur&#xa0;: de la liste, ou une nouvelle.</translation>
     </message>
     <message>
         <source>Name of the compiler without its language, which is added to it.</source>
@@ -370,7 +370,7 @@ Le nom devrait indiquer le langage. Voulez-vous vraiment garder ce nom ?</transl
     </message>
     <message>
         <source>You can either overwirte the existing compiler selected from the list with any changes you have made to the options, defines or switches; or simply create a new entry in the compiler list. Note that if you select &quot;Save As New&quot; and leave the Compiler Name blank it will use the name &quot;C&quot; or &quot;C++&quot; depending on the language specified. You cannot leave the Compiler Name blank if you select Both. Any changes made to an existing compiler entry cannot be undone.</source>
-        <translation>Vous pouvez remplacer le compilateur choisi dans la liste, avec vos changements d’options et de macros, ou créer une nouvelle entrée. Avec &quot;Nouvelle entrée&quot; et un nom vide, l’entrée s’appelle &quot;C&quot; ou &quot;C++&quot; selon le langage ; avec &quot;Tous&quot;, le nom est obligatoire. Le remplacement d’une entrée existante est définitif.</translation>
+        <translation>Vous pouvez remplacer le compilateur choisi dans la liste, avec vos changements d’options et de macros, ou créer une nouvelle entrée. Avec «&#xa0;Nouvelle entrée&#xa0;» et un nom vide, l’entrée s’appelle «&#xa0;C&#xa0;» ou «&#xa0;C++&#xa0;» selon le langage&#xa0;; avec «&#xa0;Tous&#xa0;», le nom est obligatoire. Le remplacement d’une entrée existante est définitif.</translation>
     </message>
     <message>
         <source>Save Compiler Details</source>

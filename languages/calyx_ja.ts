@@ -107,7 +107,7 @@ It is advisabe to ensure that the compiler name reflects the language. Are you s
     </message>
     <message>
         <source>Please select your compiler from the drop down menu (Exe Command button), or if the compiler is not in the list, complete the options including the command to invoke the compiler. Please note, it is important to specify whether your compiler will produce an executable binary on this host or not (cross compiler). Reduce File Size avoids compiler buffer overruns on small embedded compilers.</source>
-        <translation>「実行コマンド」のメニューからコンパイラーを選択するか、一覧にない場合は各項目を入力します。このホストで動かないバイナリーを生成するものはクロス開発です。「ファイルを縮小」は、小規模な組み込みコンパイラーのバッファーあふれを防ぎます。</translation>
+        <translation>「実行コマンド」のメニューからコンパイラーを選択するか、一覧になければ各項目を入力します。このホストで動かないバイナリーを生成するなら「クロス開発」を選びます。「ファイルを縮小」は小さな組み込みコンパイラーのバッファーあふれを防ぎます。</translation>
     </message>
     <message>
         <source>Trailing Space</source>
@@ -208,7 +208,7 @@ It is advisabe to ensure that the compiler name reflects the language. Are you s
     </message>
     <message>
         <source>Please specify the starting level directories that contain compiler include files and compiler binary files. The generator will recurse into these directories checking for whether they are on the compile path, and extracting defines and keywords. Please note that because the generator recurses, do not specify &quot;&lt;font face=&quot;Courier New&quot;&gt;C:/&lt;/font&gt;&quot; or &quot;&lt;font face=&quot;Courier New&quot;&gt;/usr&lt;/font&gt;&quot; as a directory.</source>
-        <translation>コンパイラーのヘッダーとプログラムを含む最上位のディレクトリを指定してください。下位のディレクトリもたどり、マクロとキーワードを抽出するので、&quot;&lt;font face=&quot;Courier New&quot;&gt;C:/&lt;/font&gt;&quot; や &quot;&lt;font face=&quot;Courier New&quot;&gt;/usr&lt;/font&gt;&quot; は指定しないでください。</translation>
+        <translation>コンパイラーのヘッダーとプログラムを含む最上位のディレクトリを指定してください。下位のディレクトリもたどり、マクロとキーワードを抽出するので、「&lt;font face=&quot;Courier New&quot;&gt;C:/&lt;/font&gt;」や「&lt;font face=&quot;Courier New&quot;&gt;/usr&lt;/font&gt;」は指定しないでください。</translation>
     </message>
     <message>
         <source>Specify the starting level directories for all system includes (note sub directories are not required to be listed).</source>
@@ -224,7 +224,7 @@ It is advisabe to ensure that the compiler name reflects the language. Are you s
     </message>
     <message>
         <source>Implicit Compiler Defines</source>
-        <translation>暗黙のコンパイラー定義</translation>
+        <translation>暗黙のマクロ定義</translation>
     </message>
     <message>
         <source>Specify all compiler switches that could affect/determine compilation of test files.</source>
@@ -370,7 +370,7 @@ It is advisabe to ensure that the compiler name reflects the language. Are you s
     </message>
     <message>
         <source>You can either overwirte the existing compiler selected from the list with any changes you have made to the options, defines or switches; or simply create a new entry in the compiler list. Note that if you select &quot;Save As New&quot; and leave the Compiler Name blank it will use the name &quot;C&quot; or &quot;C++&quot; depending on the language specified. You cannot leave the Compiler Name blank if you select Both. Any changes made to an existing compiler entry cannot be undone.</source>
-        <translation>一覧で選択した既存のコンパイラーを、オプション、マクロ、スイッチの変更内容で上書きするか、コンパイラー一覧に新しい項目を作成できます。&quot;新規保存&quot; を選び、コンパイラー名を空にすると、言語に応じて &quot;C&quot; または &quot;C++&quot; が名前になります。&quot;両方&quot; の場合は空にできません。既存の項目への変更は元に戻せません。</translation>
+        <translation>一覧で選択した既存のコンパイラーを、オプション、マクロ、スイッチの変更内容で上書きするか、コンパイラー一覧に新しい項目を作成できます。「新規保存」を選び、コンパイラー名を空にすると、言語に応じて 「C」または「C++」が名前になります。「両方」の場合は空にできません。既存の項目への変更は元に戻せません。</translation>
     </message>
     <message>
         <source>Save Compiler Details</source>

@@ -51,7 +51,7 @@ It is advisabe to ensure that the compiler name reflects the language. Are you s
     </message>
     <message>
         <source>The compiler has not been saved: the catalogue compilers.txt cannot be read whole, and saving would lose what it holds.</source>
-        <translation>编译器未保存：无法完整读取目录文件 compilers.txt，保存会丢失其中的内容。</translation>
+        <translation>编译器未保存：无法完整读取编译器列表文件 compilers.txt，保存会丢失其中的内容。</translation>
     </message>
 </context>
 <context>
@@ -107,7 +107,7 @@ It is advisabe to ensure that the compiler name reflects the language. Are you s
     </message>
     <message>
         <source>Please select your compiler from the drop down menu (Exe Command button), or if the compiler is not in the list, complete the options including the command to invoke the compiler. Please note, it is important to specify whether your compiler will produce an executable binary on this host or not (cross compiler). Reduce File Size avoids compiler buffer overruns on small embedded compilers.</source>
-        <translation>请从下拉菜单（“执行命令”按钮）中选择编译器；如果不在列表中，请填写各项，包括调用编译器的命令。请注意，务必说明编译器生成的可执行文件能否在本机运行（交叉编译器则不能）。“减小文件”可避免小型嵌入式编译器的缓冲区溢出。</translation>
+        <translation>请从下拉菜单（“执行命令”按钮）中选择编译器；如果不在列表中，请填写各项，包括调用编译器的命令。请注意，务必说明编译器生成的可执行文件能否在本机运行（交叉编译器则不能）。“减小文件大小”可避免小型嵌入式编译器的缓冲区溢出。</translation>
     </message>
     <message>
         <source>Trailing Space</source>
@@ -138,12 +138,12 @@ It is advisabe to ensure that the compiler name reflects the language. Are you s
     <message>
         <source>Object File Ext
 (e.g. .obj)</source>
-        <translation>目标扩展名
+        <translation>目标文件扩展名
 (如 .obj)</translation>
     </message>
     <message>
         <source>Reduce file size</source>
-        <translation>减小文件</translation>
+        <translation>减小文件大小</translation>
     </message>
     <message>
         <source>          &lt;exe&gt; &lt;src&gt;</source>
@@ -208,7 +208,7 @@ It is advisabe to ensure that the compiler name reflects the language. Are you s
     </message>
     <message>
         <source>Please specify the starting level directories that contain compiler include files and compiler binary files. The generator will recurse into these directories checking for whether they are on the compile path, and extracting defines and keywords. Please note that because the generator recurses, do not specify &quot;&lt;font face=&quot;Courier New&quot;&gt;C:/&lt;/font&gt;&quot; or &quot;&lt;font face=&quot;Courier New&quot;&gt;/usr&lt;/font&gt;&quot; as a directory.</source>
-        <translation>请指定包含编译器头文件和程序的顶层目录。生成器会递归进入这些目录，检查它们是否在编译器的搜索路径中，并提取宏和关键字。由于会递归搜索，请不要指定 &quot;&lt;font face=&quot;Courier New&quot;&gt;C:/&lt;/font&gt;&quot; 或 &quot;&lt;font face=&quot;Courier New&quot;&gt;/usr&lt;/font&gt;&quot;。</translation>
+        <translation>请指定包含编译器头文件和程序的顶层目录。生成器会递归进入这些目录，检查它们是否在编译器的搜索路径中，并提取宏和关键字。由于会递归搜索，请不要指定“&lt;font face=&quot;Courier New&quot;&gt;C:/&lt;/font&gt;”或“&lt;font face=&quot;Courier New&quot;&gt;/usr&lt;/font&gt;”。</translation>
     </message>
     <message>
         <source>Specify the starting level directories for all system includes (note sub directories are not required to be listed).</source>
@@ -370,7 +370,7 @@ It is advisabe to ensure that the compiler name reflects the language. Are you s
     </message>
     <message>
         <source>You can either overwirte the existing compiler selected from the list with any changes you have made to the options, defines or switches; or simply create a new entry in the compiler list. Note that if you select &quot;Save As New&quot; and leave the Compiler Name blank it will use the name &quot;C&quot; or &quot;C++&quot; depending on the language specified. You cannot leave the Compiler Name blank if you select Both. Any changes made to an existing compiler entry cannot be undone.</source>
-        <translation>您可以用对选项、宏或开关所做的更改覆盖列表中选定的现有编译器，也可以在编译器列表中新建条目。选择&quot;另存为新条目&quot;而编译器名称留空时，将按所选语言使用名称&quot;C&quot;或&quot;C++&quot;；选择&quot;两者&quot;时名称不能留空。对现有条目所做的更改无法撤消。</translation>
+        <translation>您可以用对选项、宏或开关所做的更改覆盖列表中选定的现有编译器，也可以在编译器列表中新建条目。选择“另存为新条目”而编译器名称留空时，将按所选语言使用名称“C”或“C++”；选择“两者”时名称不能留空。对现有条目所做的更改无法撤消。</translation>
     </message>
     <message>
         <source>Save Compiler Details</source>

@@ -2,16 +2,25 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <io.h>
 #include <qt_windows.h>
+
+using namespace Qt::StringLiterals;
 
 namespace platform {
 
 namespace {
 
+/// \a path as the system takes it at any length. Without the prefix it would be limited to 260
+/// characters: Microsoft's "Naming Files, Paths, and Namespaces".
 std::wstring nativePath(const QString &path)
 {
-    return QDir::toNativeSeparators(path).toStdWString();
+    const QString absolute = QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath());
+    const QLatin1StringView share("\\\\");
+    if (!absolute.startsWith(share))
+        return ("\\\\?\\"_L1 + absolute).toStdWString();
+    return ("\\\\?\\UNC\\"_L1 + absolute.mid(share.size())).toStdWString();
 }
 
 } // namespace

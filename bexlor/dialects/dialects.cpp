@@ -75,6 +75,14 @@ SearchPath searchPathIn(const ProgramRun &answer, const DialectQuestion &questio
     return {directories, {}};
 }
 
+/// The answer to \a words. One who fails is asked once more: that may have been a disturbance, and
+/// what is not listed is learned less completely.
+ProgramRun askUntilAnswered(const RunCommand &run, const QStringList &words)
+{
+    const ProgramRun answer = run(words);
+    return answer.succeeded() || answer.ending == ProgramRun::TimedOut ? answer : run(words);
+}
+
 void read(const ProgramRun &answer, const DialectQuestion &question, const QStringList &command,
           DialectAnswers &answers)
 {
@@ -106,7 +114,7 @@ DialectAnswers askInDialects(const RunCommand &run, const QStringList &command,
         words << question.options;
         if (question.takesSource)
             words << source;
-        const ProgramRun answer = run(words);
+        const ProgramRun answer = askUntilAnswered(run, words);
         if (answer.succeeded() || question.topic == Topic::Version)
             read(answer, question, command, answers);
     }

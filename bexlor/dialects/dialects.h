@@ -17,7 +17,8 @@ struct DialectAnswers
 };
 
 /// Asks the compiler that \a command starts in the ways of several families, until it has answered
-/// or none is left. \a known is not asked for again. \a source is an empty source file.
+/// or none is left; one that fails is asked the same once more. \a known is not asked for.
+/// \a source is an empty source file.
 DialectAnswers askInDialects(const RunCommand &run, const QStringList &command,
                              const QString &source, const DialectAnswers &known = {});
 

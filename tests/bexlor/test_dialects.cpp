@@ -70,7 +70,8 @@ private slots:
         const QStringList command {"cc", "-I", top + "/inc", "-I" + top + "/none", "-I"};
         const RunCommand run = [&](const QStringList &words) {
             asked << words.join(' ').replace(command.join(' '), "*");
-            if (asked.last() != question)
+            // At first something goes wrong.
+            if (asked.last() != question || asked.count(question) == 1)
                 return answer({}, "include:\n/usr\n", 1);
             return onErrors ? answer({}, output) : answer(output);
         };
@@ -78,7 +79,8 @@ private slots:
         QTEST(answers.searchPath.directories.join('|').replace(top, "$"), "directories");
         QTEST(answers.searchPath.forQuotedNames.join('|').replace(top, "$"), "quoted");
         QVERIFY(asked.contains("* -dM -E probe.c") && asked.contains("* --version"));
-        QCOMPARE(asked.removeDuplicates(), 0);
+        const qsizetype again = asked.removeDuplicates();
+        QCOMPARE(again, asked.size());
     }
 
     void asksForNothingTwice()

@@ -1,26 +1,30 @@
 // A library that stands before that of the system. It is linked to the program that tries saves,
-// and loaded before the generator: there the variables FAULT_CALL and FAULT_ERROR say what
-// beginFault() is told, FAULT_PROGRAM in which program, and FAULT_MARK names a file that is made
-// when the call fails.
+// and loaded before the generator and the compilers that it starts: there the variables FAULT_CALL
+// and FAULT_ERROR say what beginFault() is told, FAULT_PROGRAM in which program, and FAULT_COUNT
+// names the file that holds the number of calls of all its processes so far, as an int.
 #include "faulty_calls.h"
 
 #include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <stdio_ext.h>
+#include <sys/mman.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace {
 
+using Counter = std::atomic<int>;
+
 int faultyCall = 0, faultyError = 0;
-std::atomic<bool> failed = false;
-std::atomic<int> calls = 0;
+Counter ownCalls = 0;
+Counter *calls = &ownCalls;
 pid_t owner = 0; // a process that it forks has calls of its own
 
 enum class Change { None, OfDisk };
@@ -30,23 +34,15 @@ bool lasts(int error)
     return error == ENOSPC || error == EDQUOT || error == EROFS;
 }
 
-void leaveMark()
-{
-    if (const char *mark = getenv("FAULT_MARK"))
-        syscall(SYS_close, syscall(SYS_openat, AT_FDCWD, mark, O_CREAT | O_WRONLY, 0600));
-}
-
 /// Whether the call that begins here is to fail; errno is set then.
 bool fails(Change change)
 {
     if (getpid() != owner)
         return false;
-    const bool isMeant = ++calls == faultyCall;
-    const bool isAfter = failed && lasts(faultyError) && change == Change::OfDisk;
-    if (!isMeant && !isAfter)
+    const int call = ++*calls;
+    const bool isAfter = call > faultyCall && lasts(faultyError) && change == Change::OfDisk;
+    if (call != faultyCall && !isAfter)
         return false;
-    if (!failed.exchange(true))
-        leaveMark();
     if (faultyError == killHere)
         kill(getpid(), SIGKILL);
     errno = faultyError;
@@ -70,10 +66,16 @@ Function *real(Function *, const char *name)
 
 [[gnu::constructor]] void obeyTheEnvironment()
 {
-    const char *program = getenv("FAULT_PROGRAM"), *call = getenv("FAULT_CALL"),
-               *error = getenv("FAULT_ERROR");
-    if (program && call && error && std::strcmp(program, program_invocation_short_name) == 0)
-        beginFault(std::atoi(call), std::atoi(error));
+    const char *program = getenv("FAULT_PROGRAM");
+    if (!program || std::strcmp(program, program_invocation_short_name) != 0)
+        return;
+    const int file = open(getenv("FAULT_COUNT"), O_RDWR | O_CREAT, 0600);
+    if (ftruncate(file, sizeof(Counter)) != 0)
+        std::abort();
+    calls = static_cast<Counter *>(
+        mmap(nullptr, sizeof(Counter), PROT_READ | PROT_WRITE, MAP_SHARED, file, 0));
+    close(file);
+    beginFault(std::atoi(getenv("FAULT_CALL")), std::atoi(getenv("FAULT_ERROR")));
 }
 
 mode_t modeOf(int flags, va_list arguments)
@@ -121,28 +123,39 @@ FAULTY_OPEN(openat, (int folder, const char *path, int flags, ...), folder, path
 
 extern "C" ssize_t read(int file, void *bytes, std::size_t size)
 {
-    return isFile(file) && fails(Change::None) ? -1 : real(&read, "read")(file, bytes, size);
+    // Whether a file may be read is asked when it is opened.
+    const bool canFail = isFile(file) && faultyError != EACCES;
+    return canFail && fails(Change::None) ? -1 : real(&read, "read")(file, bytes, size);
 }
 
 extern "C" ssize_t write(int file, const void *bytes, std::size_t size)
 {
-    const bool isBefore = calls < faultyCall;
+    const bool isBefore = *calls < faultyCall;
     if (isFile(file) && fails(Change::OfDisk))
         return -1;
-    const bool isShort = faultyError == writeLess && isBefore && calls >= faultyCall;
+    const bool isShort = faultyError == writeLess && isBefore && *calls >= faultyCall;
     return real(&write, "write")(file, bytes, isShort && size > 1 ? size / 2 : size);
+}
+
+/// What waits in the buffer is written by the system's library itself.
+extern "C" int fclose(FILE *stream)
+{
+    if (!__fwriting(stream) || !isFile(fileno(stream)) || !fails(Change::OfDisk))
+        return real(&fclose, "fclose")(stream);
+    __fpurge(stream);
+    real(&fclose, "fclose")(stream);
+    errno = faultyError;
+    return EOF;
 }
 
 void beginFault(int call, int error)
 {
     faultyCall = call;
     faultyError = error;
-    calls = 0;
-    failed = false;
     owner = getpid();
 }
 
 bool hasFaulted()
 {
-    return failed;
+    return *calls >= faultyCall;
 }
