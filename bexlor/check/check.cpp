@@ -125,8 +125,15 @@ std::optional<Comparison> compare(const Checking &checking, const CheckedSource 
         return {};
     const QStringList ownHeaders = ownHeadersOf(checking.content);
     // A header of clang's may include the compiler's of the same name.
-    return Comparison {firstDifference(
-        {own, ownHeaders}, {clang.output, QStringList {checking.clang.headers} + ownHeaders})};
+    const QStringList ownHeadersOfClang = QStringList {checking.clang.headers} + ownHeaders;
+    Comparison comparison {firstDifference({own, ownHeaders}, {clang.output, ownHeadersOfClang})};
+    // Where clang has headers of its own, those of the C library may come in another order. What
+    // they are for shows in the code behind them.
+    if (comparison.difference && !ownHeaders.isEmpty()) {
+        comparison.difference =
+            firstDifference({own, ownHeaders, true}, {clang.output, ownHeadersOfClang, true});
+    }
+    return comparison;
 }
 
 /// Compares the code that both see in a source that both accept.

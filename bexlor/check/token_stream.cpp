@@ -1,5 +1,6 @@
 #include "token_stream.h"
 
+#include <QSet>
 #include <algorithm>
 #include <cctype>
 
@@ -47,7 +48,8 @@ class TokenStream
 {
 public:
     explicit TokenStream(const PreprocessedSource &source)
-        : m_text(source.text), m_ownHeaders(source.ownHeaders)
+        : m_text(source.text), m_ownHeaders(source.ownHeaders),
+          m_passesSystemHeaders(source.passesSystemHeaders)
     { }
 
     /// The next token that counts, empty at the end.
@@ -76,9 +78,11 @@ private:
 
     QByteArrayView m_text;
     QStringList m_ownHeaders;
+    bool m_passesSystemHeaders;
     qsizetype m_place = 0;
     bool m_atLineStart = true;
-    bool m_isOwnHeader = false;
+    bool m_isPassedOver = false;
+    QSet<QString> m_projectFiles; ///< those that are no system headers
     QString m_file;
     int m_line = 1;
 };
@@ -116,7 +120,7 @@ QByteArrayView TokenStream::takeToken()
         m_line += int(token.count('\n'));
         m_place += token.size();
         m_atLineStart = false;
-    } while (m_isOwnHeader && !token.isEmpty());
+    } while (m_isPassedOver && !token.isEmpty());
     return token;
 }
 
@@ -169,10 +173,16 @@ void TokenStream::readMarker(QByteArrayView directive)
     QByteArray name =
         directive.sliced(quote + 1, std::max<qsizetype>(end - quote - 1, 0)).toByteArray();
     m_file = QString::fromLocal8Bit(name.replace("\\\\", "\\"));
-    m_isOwnHeader =
-        std::any_of(m_ownHeaders.begin(), m_ownHeaders.end(), [this](const QString &folder) {
-            return m_file.startsWith(folder + QLatin1Char('/'));
-        });
+    // Behind the name stand flags, of which 3 is that of a system header. What such a header's
+    // macro stands for in another file has the flag, too.
+    const bool isSystem = directive.sliced(end + 1).contains('3');
+    if (!isSystem)
+        m_projectFiles << m_file;
+    m_isPassedOver =
+        (m_passesSystemHeaders && isSystem && !m_projectFiles.contains(m_file))
+        || std::any_of(m_ownHeaders.begin(), m_ownHeaders.end(), [this](const QString &folder) {
+               return m_file.startsWith(folder + QLatin1Char('/'));
+           });
 }
 
 qsizetype TokenStream::tokenSize() const

@@ -11,6 +11,8 @@ struct PreprocessedSource
     /// Folders with headers that belong to one compiler and that another has its own of. What
     /// comes from there is passed over.
     QStringList ownHeaders;
+    /// What the markers say to be of system headers is passed over, too.
+    bool passesSystemHeaders = false;
 };
 
 /// Where two compilers begin to see different code.

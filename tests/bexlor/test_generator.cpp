@@ -291,6 +291,13 @@ private slots:
         const ProgramRun blind = check({"other.c", "--preprocess", "--no-such"});
         QVERIFY2(blind.succeeded() && blind.output.contains("not compared\n"), blind.output);
         QCOMPARE(check({"nowhere.json"}).exitCode, 3);
+        // Its <stddef.h>, which clang has its own instead of, includes others.
+        workshop.generate("kov", "x86_64-w64-mingw32-gcc");
+        workshop.write("order.c",
+                       "#include <stddef.h>\n#include <stdlib.h>\nsize_t a = RAND_MAX;\n");
+        const ProgramRun cross = check({"order.c", "other.c"});
+        QVERIFY2(cross.output.contains("order.c: same\n") && cross.output.contains("other.c:4, "),
+                 cross.output);
         QCOMPARE(workshop.run({"env", "PATH=", GENERATOR, "check", workshop.personality, "same.c"})
                      .exitCode,
                  3);
