@@ -24,9 +24,8 @@ struct OtherPurpose
 };
 
 const OtherPurpose otherPurposes[] = {
-    // Files beside the object file, named in the next word or in the same. For Microsoft's
-    // compilers
-    // -MT and -MD choose a library, and with it macros.
+    // Files beside the object file, named in the next word or in the same. -MT and -MD choose a
+    // library for Microsoft's compilers, and with it macros.
     {u"-o|--output|-MF|-MQ|-MJ|-aux-info|-Map|-dumpbase|-dumpbase-ext|-dumpdir|-Xlinker|"
      "-serialize-diagnostics|--serialize-diagnostics|-l|--listing|-m|--mapfile|-Ln|--create-dep|"
      "--create-full-dep|--depend|--depend_target|--predef_macros"_s,

@@ -195,7 +195,8 @@ QList<QByteArray> versionOptions(const MacroFacts &macros, bool isCpp)
 {
     if (!isCpp)
         return standardOption(macros, "__STDC_VERSION__", cStandards, "c", "gnu");
-    // Microsoft's compiler says 1998 of each, unless it is asked to, and has this besides.
+    // Microsoft's compiler tells its version in this, and 1998 in the other unless /Zc:__cplusplus
+    // is given.
     const QByteArray version = findMacro(macros, "_MSVC_LANG") ? "_MSVC_LANG" : "__cplusplus";
     QList<QByteArray> options = standardOption(macros, version, cppStandards, "c++", "gnu++");
     for (const Feature &feature : cppFeatures)

@@ -1,5 +1,7 @@
 #include "learning.h"
 
+#include "probe_line.h"
+
 #include <algorithm>
 
 namespace {
@@ -20,11 +22,6 @@ const char *const attributeUses[] = {
     "extern const char %[2] __attribute__((@));\n",
 };
 
-QByteArray lineOf(QByteArray use, const QByteArray &attribute, qsizetype number)
-{
-    return use.replace('%', "calyx_" + QByteArray::number(number)).replace('@', attribute);
-}
-
 } // namespace
 
 QList<QByteArray> learnAttributes(const Questions &questions)
@@ -32,13 +29,13 @@ QList<QByteArray> learnAttributes(const Questions &questions)
     QList<QByteArray> lines, names;
     for (const char *attribute : attributesTried) {
         for (const char *use : attributeUses) {
-            lines << lineOf(use, attribute, lines.size());
+            lines << probeLine(use, attribute, lines.size());
             names << QByteArray(attribute).split('(').first();
         }
     }
     // In the one use that holds nothing else that a compiler may not know.
     const auto isSilent = questions.withoutMessage(
-        {}, lines, lineOf(attributeUses[1], "calyx_unknown", lines.size()));
+        {}, lines, probeLine(attributeUses[1], "calyx_unknown", lines.size()));
     if (!isSilent)
         return {};
     QList<QByteArray> accepted = selected(names, *isSilent);

@@ -1,5 +1,7 @@
 #include "keyword_forms.h"
 
+#include "probe_line.h"
+
 #include <QSet>
 #include <span>
 
@@ -103,12 +105,6 @@ const struct
 const Keyword::Form qualifiers[] = {Keyword::QualifierWithArgument,
                                     Keyword::QualifierWithBareArgument, Keyword::Qualifier};
 
-QByteArray lineOf(const Use &use, const QByteArray &keyword, qsizetype number)
-{
-    const QByteArray name = "calyx_" + QByteArray::number(number);
-    return QByteArray(use.line).replace('@', keyword).replace('%', name) + '\n';
-}
-
 /// Looks for the forms of keywords.
 class FormSearch
 {
@@ -178,7 +174,7 @@ QList<bool> FormSearch::addAccepted(const QList<Trial> &trials, Ways ways)
 {
     QList<QByteArray> lines;
     for (const auto &[keyword, use] : trials)
-        lines << lineOf(*use, m_keywords[keyword], lines.size());
+        lines << probeLine(use->line, m_keywords[keyword], lines.size()) + '\n';
     const QList<bool> isAccepted =
         ways == Apart ? m_questions.acceptedApart(lines)
                       : m_questions.accepted({}, lines, m_questions.stopsAtFirstError());

@@ -2,6 +2,7 @@
 
 #include "keyword_forms.h"
 #include "keyword_types.h"
+#include "probe_line.h"
 #include "well_known_names.h"
 
 #include <QSet>
@@ -58,16 +59,14 @@ QList<QByteArray> candidates(const QList<ScannedName> &names, bool isCpp, const 
     return sorted;
 }
 
-/// Those of \a names that cannot be declared, each in an item that "@" in \a declaration makes with
-/// its name and "%" with a number.
+/// Those of \a names that cannot be declared, each in the line that probeLine() makes of
+/// \a declaration.
 QList<QByteArray> undeclarable(const Questions &questions, const QByteArray &declaration,
                                const QList<QByteArray> &names)
 {
     QList<QByteArray> items;
-    for (const QByteArray &name : names) {
-        QByteArray item = declaration;
-        items << item.replace('@', name).replace('%', QByteArray::number(items.size()));
-    }
+    for (const QByteArray &name : names)
+        items << probeLine(declaration, name, items.size());
     QList<bool> flags = questions.accepted({}, items, true);
     std::transform(flags.begin(), flags.end(), flags.begin(), std::logical_not());
     return selected(names, flags);
@@ -78,7 +77,7 @@ QList<QByteArray> undeclarable(const Questions &questions, const QByteArray &dec
 /// that may be members' names, as an object.
 QList<QByteArray> undeclarableNames(const Questions &questions, const QList<QByteArray> &names)
 {
-    const QByteArray member = "struct calyx_% { char @[1]; };\n";
+    const QByteArray member = "struct % { char @[1]; };\n";
     // One that stops in an assembler's text does not tell what it has accepted before.
     const auto firstAsm = questions.stopsAtFirstError()
                             ? std::find_if(names.begin(), names.end(), &mayBeginAssembler)

@@ -9,7 +9,8 @@ QByteArray defined(const QByteArray &name, const QByteArray &value)
     return "#define " + name + ' ' + value + '\n';
 }
 
-/// The same by what is rejected, where a compiler takes another definition for an error.
+/// Which of \a definitions, of macros that there are, the compiler accepts. Nothing unless it takes
+/// a definition unlike the one that there is for an error.
 std::optional<QList<bool>> acceptedAgain(const Questions &questions,
                                          const QList<QByteArray> &definitions)
 {
