@@ -288,6 +288,7 @@ private slots:
         facts.macros.known = macros("_M_X64 _WIN32 _MSC_VER=1929 _MSVC_LANG=201703L _CPPUNWIND");
         row("Microsoft's", true,
             "struct __declspec(uuid(\"00000000-0000-0000-C000-000000000046\")) A { };\n"
+            "struct _GUID { int a; }; const _GUID &g = __uuidof(A);\n"
             "void f(bool a) { __try { if (a) throw 1; } __finally { } }\n"
             "template <class T> struct B { int b; };\n"
             "template <class T> struct C : B<T> { int c() { return b; } };\n"
