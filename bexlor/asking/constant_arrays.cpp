@@ -206,7 +206,7 @@ void ConstantArrays::readContents(const QByteArray &source, const Batch &batch,
         if (isWhole || !m_isProven)
             return;
     }
-    answer.lacksConstants = true;
+    answer.lacksSomething = true;
     m_runner.fail(answer);
 }
 

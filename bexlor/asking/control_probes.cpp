@@ -67,7 +67,9 @@ bool Controls::isRejection(const ProbeAnswer &answer) const
 
 bool Controls::isExpected(const ProbeAnswer &answer) const
 {
-    return answer.compiled() || (isRejection(answer) && !(namesLines && answer.allLines.isEmpty()));
+    if (answer.compiled())
+        return answer.namesEnd || !namesEnds;
+    return isRejection(answer) && !(namesLines && answer.allLines.isEmpty());
 }
 
 std::optional<Controls> askControls(const std::function<ProbeAnswer(const QByteArray &)> &ask,
@@ -75,6 +77,7 @@ std::optional<Controls> askControls(const std::function<ProbeAnswer(const QByteA
 {
     Controls controls;
     controls.isQuiet = accepted.allLines.isEmpty();
+    controls.namesEnds = accepted.namesEnd;
     QList<ProbeAnswer> rejections;
     for (const auto &control : controlProbes) {
         const std::optional<ProbeAnswer> answer = steadyAnswer(ask, control.source, rejections);

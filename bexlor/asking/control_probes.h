@@ -29,7 +29,8 @@ struct Controls
     bool givesReasons = true; ///< a message with every rejection
     bool namesLines = true;   ///< in each of these messages
     bool stopsAtFirstError = false;
-    bool isQuiet = true; ///< names no line of what it accepts
+    bool isQuiet = true;    ///< names no line of what it accepts
+    bool namesEnds = false; ///< in each object, so that one without has not been read to its end
 
     /// Whether an error of \a kind is rejected, so that what compiles has none.
     bool rejects(ErrorKind kind) const { return !overlooked.contains(kind); }

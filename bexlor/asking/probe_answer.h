@@ -18,10 +18,11 @@ struct ProbeAnswer
                       ///< program what it prints
 
     bool leftNothing = false;    ///< neither an object file nor anything else
-    bool lacksConstants = false; ///< that its source has, though others can be read back
+    bool namesEnd = false;       ///< its object does: the probe has been read to its end
+    bool lacksSomething = false; ///< that its source has, though other objects show it
 
     /// Some compilers, and what they are started by, end alike whether there were errors or not.
-    bool compiled() const { return run.succeeded() && !leftNothing && !lacksConstants; }
+    bool compiled() const { return run.succeeded() && !leftNothing && !lacksSomething; }
 };
 
 /// How many declarations and bytes a probe may have.

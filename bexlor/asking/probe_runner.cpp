@@ -30,6 +30,11 @@ const ProbeLimits usualLimits {20'000, 500'000};
 const ProbeLimits smallLimits {99, 4000};
 const ProbeLimits widerLimits {2000, 50'000};
 
+// Behind every probe: a compiler that has lost the rest of the source leaves an object without this
+// name. Declared first, since some have something to say to a definition alone.
+const QByteArray endName = "calyx_end";
+const QByteArray endMark = "extern int " + endName + "; int " + endName + ";\n";
+
 /// The usual one, or what tests set, in milliseconds.
 int timeLimit()
 {
@@ -177,10 +182,18 @@ ProbeAnswer ProbeRunner::askAgain(const ProbeAnswer &first, const QByteArray &so
             return answer;
         }
     }
-    // The assembler and the linker name no line of the probe, and no licence server does.
-    if (m_controls.isRejection(answer) && askOnce(acceptedProbe, CompileTo::Object).compiled())
+    // The assembler and the linker name no line of the probe, and no licence server does; what
+    // stands in a probe may keep the compiler from seeing its end.
+    if ((answer.compiled() || m_controls.isRejection(answer)) && worksStill())
         return answer;
+    answer.lacksSomething = answer.compiled();
     return fail(answer);
+}
+
+bool ProbeRunner::worksStill() const
+{
+    const ProbeAnswer answer = askOnce(acceptedProbe, CompileTo::Object);
+    return answer.compiled() && m_controls.isExpected(answer);
 }
 
 ProbeAnswer ProbeRunner::fail(const ProbeAnswer &answer) const
@@ -207,7 +220,11 @@ ProbeAnswer ProbeRunner::askIn(const QString &folder, const QByteArray &source,
     // Without an object flag a native compiler makes a program of every probe.
     const bool needsMain =
         goal == CompileTo::Object && layout.objectFlag.isEmpty() && !m_compiler.isCross;
-    const QByteArray text = needsMain ? source + "int main(void) { return 0; }\n" : source;
+    QByteArray text = source;
+    if (needsMain)
+        text += "int main(void) { return 0; }\n";
+    if (goal == CompileTo::Object)
+        text += endMark;
     answer.isAsked = QDir().mkdir(folder) && platform::writeScratchFile(folder + u'/' + name, text);
     if (!answer.isAsked)
         return answer;
@@ -221,6 +238,7 @@ ProbeAnswer ProbeRunner::askIn(const QString &folder, const QByteArray &source,
         answer.lines = answer.allLines;
     const QByteArray left = bytesLeftIn(folder, name, layout.objectExtension);
     answer.leftNothing = left.isEmpty();
+    answer.namesEnd = goal == CompileTo::Program || left.contains(endName);
     if (answer.compiled())
         answer.bytes = goal == CompileTo::Object ? left : printedBy(folder);
     return answer;

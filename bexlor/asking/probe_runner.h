@@ -45,6 +45,7 @@ private:
     ProbeAnswer askIn(const QString &folder, const QByteArray &source, CompileTo goal) const;
     ProbeAnswer askAgain(const ProbeAnswer &first, const QByteArray &source, CompileTo goal) const;
     bool isExpected(const ProbeAnswer &answer) const;
+    bool worksStill() const;
     int errorsNamed() const;
     void liftErrorLimit();
     void widenLimits();

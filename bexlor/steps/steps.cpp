@@ -36,8 +36,8 @@ QString howItEnded(const ProbeAnswer &answer)
         break;
     }
     const QString end = u"the compiler returned %1"_s.arg(answer.run.exitCode);
-    if (answer.lacksConstants)
-        return end + " and left out constants of a probe"_L1;
+    if (answer.lacksSomething)
+        return end + " and left out something of a probe"_L1;
     return answer.run.exitCode == 0 && answer.leftNothing ? end + " and left no object file"_L1
                                                           : end;
 }

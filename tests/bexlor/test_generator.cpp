@@ -360,6 +360,9 @@ private slots:
         row("has no licence twice in a row once in a while",
             "[ $((n % 20)) -gt 1 ] || [ $n = 1 ] || { echo no licence >&2; exit 1; }\n" + good);
         row("crashes once in a while", "[ $((n % 20)) != 0 ] || kill -SEGV $$\n" + good);
+        row("loses the source once in a while", "[ $((n % 5)) != 4 ] || : >probe.c\n" + good);
+        row("sees no end of some sources",
+            "! grep -q typedef probe.c || sed -i '/calyx_end/d' probe.c\n" + good);
         row("loses the status", good + " 2>&1 | cat");
         row("has much to say",
             "awk '{ print \"probe.c:\" NR \": warning: seen\" }' probe.c\n" + good);
@@ -392,7 +395,7 @@ private slots:
         row("stops midway", "[ $n -lt 60 ] || exit 0\n" + good,
             "no longer answers as it did: the compiler returned 0 and left no object file.");
         row("drops constants", good + " || exit\n[ $n -lt 60 ] || echo nothing >probe.o",
-            "returned 0 and left out constants of a probe");
+            "returned 0 and left out something of a probe");
         row("takes the temporary folder away",
             "[ $n -lt 60 ] || rm -r \"${0%/*}\"/temp*/*\n" + good,
             "the probe could not be written to the temporary folder.");

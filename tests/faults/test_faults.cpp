@@ -214,7 +214,7 @@ private slots:
         row("runs on a disk to be read", generator, EROFS);
         row("runs that write less", generator, writeLess);
         row("runs that are killed", generator, killHere);
-        // Not on a broken disk: tcc takes what it cannot read for the end of the source.
+        row("compilers on a broken disk", compiler, EIO);
         row("compilers that may not", compiler, EACCES);
         row("compilers that are killed", compiler, killHere);
     }
