@@ -32,7 +32,7 @@ const ProbeLimits widerLimits {2000, 50'000};
 
 // Behind every probe: a compiler that has lost the rest of the source leaves an object without this
 // name. Declared first, since some have something to say to a definition alone.
-const QByteArray endName = "calyx_end";
+const QByteArray endName = "calyx_source_end";
 const QByteArray endMark = "extern int " + endName + "; int " + endName + ";\n";
 
 /// The usual one, or what tests set, in milliseconds.

@@ -99,8 +99,9 @@ public:
     /// good as others.
     std::optional<bool> isTakenFrom(const QString &name, const QString &directory)
     {
+        const QStringList all = m_directories.directoriesWith(name);
         bool isCertain = true;
-        for (const QString &other : m_directories.directoriesWith(name)) {
+        for (const QString &other : all) {
             if (other == directory)
                 continue;
             const std::optional<bool> answer = takesFirst(name, directory, other);
@@ -108,10 +109,15 @@ public:
                 return false;
             isCertain &= answer.has_value();
         }
+        if (isCertain)
+            return true;
         // One that cannot be compiled alone shows no macros, but its path.
-        if (!isCertain && definesNothing(name))
-            isCertain = namesFile(errorsIn(name), directory + u'/' + name);
-        return isCertain ? std::optional(true) : std::nullopt;
+        const auto isNamed = [this, &name](const QString &other) {
+            return namesFile(errorsIn(name), other + u'/' + name);
+        };
+        if (!definesNothing(name) || std::none_of(all.begin(), all.end(), isNamed))
+            return {};
+        return isNamed(directory);
     }
 
     /// Whether \a first comes before \a second for a header that tells.

@@ -19,11 +19,11 @@ private slots:
     void takesTheWholeList()
     {
         const QString defines = "A, B=(1,2) ,V=\\\"1,2\\\",S=\"\\\"\"";
-        const Request request =
-            parseRequest({"kovpp",  "ccmp",  "\"cc -m32\"", "",         "-c",    "",      "",
+        QStringList list {"kovpp",  "ccmp",  "\"cc -m32\"", "",         "-c",    "",      "",
                           "%c %s ", "-i",    "..\\a b",     "-i",       "-op",   "-op",   "x.p_c",
                           "-xd",    defines, "-xs",         "-x -y,-z", "-tpl",  "..\\t", "-fi",
-                          "f",      "-sub",  "s",           "-rfs",     "-check"});
+                          "f",      "-sub",  "s",           "-rfs",     "-check"};
+        const Request request = parseRequest(list);
         const auto *arguments = std::get_if<Arguments>(&request);
         QVERIFY(arguments);
         QVERIFY(arguments->isCpp && arguments->crossCompiler && arguments->reduceFileSize
@@ -34,6 +34,8 @@ private slots:
         QCOMPARE(arguments->switches, QStringList({"-x -y", "-z"}));
         QCOMPARE(arguments->templateFile, platform::hostPath("..\\t"));
         QCOMPARE(arguments->forceIncludeFile + arguments->substituteHeaders, "fs");
+        list[list.indexOf("x.p_c")].clear(); // may be moved
+        QCOMPARE(arguments->answers.arguments, list);
     }
 
     void takesTheCommandAsTyped_data()

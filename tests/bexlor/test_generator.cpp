@@ -279,7 +279,9 @@ private slots:
               "/nested.c: other: ", "/wrong.c: rejected by the compiler: ",
               "clang 14 accepts 1 of the 2 sources", "Why clang rejects them:\n      1  other\n"})
             QVERIFY2(all.output.contains(line), all.output);
-        QVERIFY(workshop.read("out.json").contains("\"rejected-by-clang\": 1"));
+        const QString written = workshop.read("out.json");
+        QVERIFY(written.contains("\"rejected-by-clang\": 1")
+                && written.contains("\"clang\": \"a\""));
         QFile::remove(workshop.folder.filePath("out.json"));
 
         const ProgramRun gone = check({"gone.json"});
@@ -362,7 +364,7 @@ private slots:
         row("crashes once in a while", "[ $((n % 20)) != 0 ] || kill -SEGV $$\n" + good);
         row("loses the source once in a while", "[ $((n % 5)) != 4 ] || : >probe.c\n" + good);
         row("sees no end of some sources",
-            "! grep -q typedef probe.c || sed -i '/calyx_end/d' probe.c\n" + good);
+            "! grep -q typedef probe.c || sed -i '/calyx_source_end/d' probe.c\n" + good);
         row("loses the status", good + " 2>&1 | cat");
         row("has much to say",
             "awk '{ print \"probe.c:\" NR \": warning: seen\" }' probe.c\n" + good);
