@@ -381,6 +381,11 @@ private slots:
             "case \"$*\" in *-c*) ;; *) exit 1 ;; esac\n" + good
                 + " && od -v -tx1 probe.o >x && mv x probe.o",
             "no file that holds the bytes");
+        row("hides its objects and takes what would tell numbers",
+            "case \"$*\" in *-c*) ;; *) exit 1 ;; esac\n"
+            "sed -i -e '/^#error/d' -e 's/\\[1-2[^]]*\\]/[1]/' probe.c\n"
+                + good + " && echo >probe.o",
+            "overlooks errors that would tell");
         row("takes everything", good + "\necho >>probe.o; exit 0", "accepts a syntax error");
         row("takes conflicting declarations",
             "sed -i -e '/^extern signed char calyx_object/d' "
