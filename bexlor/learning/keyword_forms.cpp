@@ -79,8 +79,8 @@ const struct
     {{"extern void @ %(int);", Keyword::Qualifier},
      "__cdecl __cdecl__ __fastcall __fastcall__ __stdcall cdecl fastcall"},
     {{"extern void %(void) @;", Keyword::Qualifier},
-     "__banked __critical __interrupt __naked __nonbanked __overlay __reentrant __smallc "
-     "__z88dk_callee __z88dk_fastcall"},
+     "__banked __cosmic __critical __iar __interrupt __naked __nonbanked __overlay __raisonance "
+     "__reentrant __smallc __trap __z88dk_callee __z88dk_fastcall"},
     {{"extern void %(void) @(1);", Keyword::QualifierWithArgument},
      "__interrupt __sdcccall __using __z88dk_params_offset"},
     {{"extern void %(void) @ 2;", Keyword::QualifierWithBareArgument}, "__interrupt __using"},
@@ -99,6 +99,17 @@ const struct
      "asm __asm __asm__ _asm typeof __typeof __typeof__ __alignof __alignof__ __real __real__ "
      "__imag __imag__ __label__ __builtin_choose_expr __builtin_offsetof "
      "__builtin_types_compatible_p __builtin_va_arg __addressmod __A__ __AX__ __EAX__ __X__ __Y__"},
+};
+
+/// Keywords of which a compiler has all or few: the GNU ones, those of sdcc for all processors, and
+/// those for the ones like the Z80 and like the MCS-51. Each is one of those with usual uses.
+const char *const families[] = {
+    "__attribute __attribute__ __const __const__ __extension__ __inline __inline__ __restrict "
+    "__restrict__ __signed __signed__ __volatile __volatile__",
+    "__at __interrupt __naked __preserves_regs __sdcccall __z88dk_params_offset __z88dk_shortcall",
+    "__banked __critical __nonbanked __smallc __z88dk_callee",
+    "__bit __code __data __far __idata __near __pdata __reentrant __sbit __sfr16 __sfr32 __using "
+    "__xdata",
 };
 
 // In the order in which they stand behind one another.
@@ -260,7 +271,39 @@ QList<Keyword::Form> inOrder(const QSet<int> &found)
     return forms;
 }
 
+/// What \a keywords are usually used for, a line each.
+QByteArray usualUsesOf(const QList<QByteArray> &keywords)
+{
+    QByteArray lines;
+    for (const auto &[use, usual] : usualUses) {
+        for (const QByteArray &name : QByteArray(usual).split(' ')) {
+            if (use.line && keywords.contains(name))
+                lines += probeLine(use.line, name, lines.size()) + '\n';
+        }
+    }
+    return lines;
+}
+
 } // namespace
+
+QList<QByteArray> keywordsOfWholeFamilies(const Questions &questions,
+                                          const QList<QByteArray> &names)
+{
+    QList<QList<QByteArray>> members;
+    QList<QByteArray> uses;
+    for (const char *family : families) {
+        members << QByteArray(family).split(' ');
+        members.last().removeIf([&names](const QByteArray &name) { return !names.contains(name); });
+        uses << usualUsesOf(members.last());
+    }
+    const QList<ProbeAnswer> answers = questions.eachAlone(uses);
+    QList<QByteArray> found;
+    for (qsizetype i = 0; i < answers.size(); ++i) {
+        if (answers[i].compiled())
+            found << members[i];
+    }
+    return found;
+}
 
 QList<QList<Keyword::Form>> keywordForms(const Questions &questions,
                                          const QList<QByteArray> &keywords,

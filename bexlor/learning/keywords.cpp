@@ -75,15 +75,21 @@ QList<QByteArray> undeclarable(const Questions &questions, const QByteArray &dec
 /// Those of \a names that cannot be declared: as a member, which collides with nothing that the
 /// compiler knows, or for the well-known ones, among them types that a compiler brings along and
 /// that may be members' names, as an object.
-QList<QByteArray> undeclarableNames(const Questions &questions, const QList<QByteArray> &names)
+QList<QByteArray> undeclarableNames(const Questions &questions, QList<QByteArray> names)
 {
+    QList<QByteArray> rejected;
+    // One that stops at its first error takes a probe for each that is rejected.
+    if (questions.stopsAtFirstError() && questions.rejects(ErrorKind::UnknownName)) {
+        rejected = keywordsOfWholeFamilies(questions, names);
+        names.removeIf([&rejected](const QByteArray &name) { return rejected.contains(name); });
+    }
     const QByteArray member = "struct % { char @[1]; };\n";
     // One that stops in an assembler's text does not tell what it has accepted before.
     const auto firstAsm = questions.stopsAtFirstError()
-                            ? std::find_if(names.begin(), names.end(), &mayBeginAssembler)
-                            : names.end();
-    QList<QByteArray> rejected = undeclarable(questions, member, {names.begin(), firstAsm})
-                               + undeclarable(questions, member, {firstAsm, names.end()});
+                            ? std::find_if(names.cbegin(), names.cend(), &mayBeginAssembler)
+                            : names.cend();
+    rejected << undeclarable(questions, member, {names.cbegin(), firstAsm})
+             << undeclarable(questions, member, {firstAsm, names.cend()});
     QList<QByteArray> types;
     for (const QByteArray &name : wellKnownKeywords(questions.isCpp())) {
         if (names.contains(name) && !rejected.contains(name))
