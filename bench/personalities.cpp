@@ -164,6 +164,8 @@ void measure(const Subject &subject, const QString &generator, int limit)
     const QMap<QByteArray, Macro> macros = byName(learned.macros.known);
     QMap<QByteArray, Macro> truth =
         byName(macrosIn(run(command + QStringList {"-dM", "-E", source}, folder.path()).output));
+    // What has another value in each file is no definition to find.
+    truth.removeIf([](const auto &macro) { return isBuiltIntoThePreprocessor(macro.key()); });
     for (const QByteArray &name : subject.listedNames)
         truth[name] = {name, {}};
     const bool hasValues = subject.listedNames.isEmpty();
