@@ -98,6 +98,7 @@ void LogBrowser::setText(const QString &text)
     m_kept.reset();
     m_isKept = true;
     m_hidden = 0;
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     document()->setDocumentLayout(nullptr); // the toolkit's own, which stays quick
     clear();
     insertAtEnd(text);
@@ -171,6 +172,8 @@ void LogBrowser::showEndOnly()
     end.setPosition(firstLeft(*document()).position(), QTextCursor::KeepAnchor);
     m_hidden += end.selectionStart();
     const QString rest = end.selectedText();
+    // Without the scroll bar, and with it again, all would be laid out once more.
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     clear();
     QTextCursor(document())
         .insertText(
