@@ -53,7 +53,8 @@ QStringList splitCommaList(const QString &list)
     QStringList items {QString()};
     int depth = 0;
     for (qsizetype i = 0; i < pieces.size(); ++i) {
-        const QString next = i + 1 < pieces.size() ? pieces[i + 1].text : QString();
+        // An option may stand in marks, too.
+        const QString next = i + 1 < pieces.size() ? withoutMarks(pieces[i + 1].text) : QString();
         if (parentheses.contains(i))
             depth += pieces[i].text == u'(' ? 1 : -1;
         if (depth == 0 && isCharacter(pieces[i], u',')

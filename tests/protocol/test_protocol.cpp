@@ -48,6 +48,8 @@ private slots:
             {"-Wa,-adhln", "-Wl,-Map,x.map", "-O2", "-Wl,--gc-sections", "-Wl", "-c"});
         row("list for a value", "-fsanitize=address,undefined,-DA=1, LARGE",
             {"-fsanitize=address,undefined", "-DA=1", "LARGE"});
+        row("options in marks", "-std=c99,\"-IC:\\a b\",-DA=1,\"b c\",-DB",
+            {"-std=c99", "\"-IC:\\a b\"", "-DA=1,\"b c\"", "-DB"});
         row("nothing", ",, ,", {});
     }
     void splitsLists()
