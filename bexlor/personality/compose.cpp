@@ -5,6 +5,7 @@
 #include "visible_text.h"
 
 #include <QDir>
+#include <QRegularExpression>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -71,6 +72,20 @@ bool fitsOnLine(const Macro &macro)
     return canBeDefined(macro) && !hasControlCharacter(macro.value);
 }
 
+/// Those of \a macros that a line of \a templateText defines anew.
+QList<Macro> overridden(const QList<Macro> &macros, const QByteArray &templateText)
+{
+    static const QRegularExpression definition(u"^[ \\t]*[\"']?-D[ \\t]*[\"']?([A-Za-z_]\\w*)"_s,
+                                               QRegularExpression::MultilineOption);
+    QSet<QByteArray> names;
+    for (const auto &match : definition.globalMatch(QString::fromUtf8(templateText)))
+        names << match.captured(1).toUtf8();
+    QList<Macro> chosen = macros;
+    chosen.removeIf(
+        [&names](const Macro &macro) { return !names.contains(macro.name.split('(').first()); });
+    return chosen;
+}
+
 } // namespace
 
 Personality composePersonality(const Arguments &arguments, const Facts &facts,
@@ -102,8 +117,12 @@ Personality composePersonality(const Arguments &arguments, const Facts &facts,
         personality.language << option.split(' ');
     for (const Macro &macro : language.redefinitions)
         personality.keywordDefinitions.append({"-U" + macro.name});
-    for (const Macro &macro : keywordDefinitions(facts) + language.redefinitions)
+    const QList<Macro> forKeywords = keywordDefinitions(facts) + language.redefinitions;
+    for (const Macro &macro : forKeywords)
         personality.keywordDefinitions.append({"-D" + macro.name + '=' + macro.value});
+    // Else clang would warn of them in every file.
+    for (const Macro &macro : overridden(macros.known + forKeywords, templateText))
+        personality.keywordDefinitions.append({"-U" + macro.name.split('(').first()});
     personality.searchPath = searchOptions(arguments, facts, parts.includeDirectories);
     if (!arguments.forceIncludeFile.isEmpty())
         personality.includedFirst << pathOption("-include", arguments.forceIncludeFile);

@@ -113,14 +113,15 @@ private slots:
                                   "@file", "((char)-1)", "", "-include x"})
             words << QString("-DM%1=%2").arg(words.size()).arg(value);
         words << "-DF(a,b)=a \"q\" b"
-              << "-DOVERRIDDEN=1";
+              << "-DOVERRIDDEN=1"
+              << "-DALSO(a)=1";
         Facts facts;
         facts.macros.known = macrosIn(platform::runProgram(words, folder.path(), 60'000).output);
         QVERIFY(facts.macros.known.size() > 200);
         writeTestFile(folder.filePath("first/x.h"), "#define X 1\n");
         writeTestFile(folder.filePath("own/x.h"), "#error\n");
         facts.searchPath.directories = QStringList {folder.filePath("own")};
-        const QByteArray overriding = "-UOVERRIDDEN\n-DOVERRIDDEN=2\n-isystem "
+        const QByteArray overriding = "-DOVERRIDDEN=2\n \"-DALSO=2 -DM5\"\n-isystem "
                                     + folder.filePath("first").toLocal8Bit() + "\n-include x.h";
         const QString path = folder.filePath("odd \"name\".p_c");
         writeTestFile(path, personalityText(composePersonality(arguments, facts, {}, overriding)));
@@ -131,7 +132,9 @@ private slots:
         const QList<Macro> added = keywordDefinitions(facts);
         macros.removeIf([&added](const Macro &macro) { return added.contains(macro); });
         facts.macros.known.removeOne(Macro {"OVERRIDDEN", "1"});
-        facts.macros.known << Macro {"OVERRIDDEN", "2"} << Macro {"X", "1"};
+        facts.macros.known.removeOne(Macro {"ALSO(a)", "1"});
+        facts.macros.known << Macro {"OVERRIDDEN", "2"} << Macro {"ALSO", "2 -DM5"}
+                           << Macro {"X", "1"};
         QCOMPARE(sorted(macros), sorted(facts.macros.known));
     }
 
