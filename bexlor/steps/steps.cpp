@@ -310,6 +310,11 @@ std::optional<MacroFacts> findMacros(Progress &progress, const Questions &questi
     if (!macros.undetermined.isEmpty())
         found += u", and %1 whose definition is not known"_s.arg(macros.undetermined.size());
     progress.say(found + u'.');
+    if (!questions.isCpp() && findMacro(macros, "__cplusplus")) {
+        progress.say(u"The compiler takes a source of C for C++. Name its C compiler on the page "
+                     "Compiler Command, or choose KOV++ on the page Product & Output."_s);
+        return {};
+    }
     return macros;
 }
 

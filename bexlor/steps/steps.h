@@ -40,7 +40,7 @@ HeaderScan readDirectories(Progress &progress, const QStringList &directories);
 Questions findHowToAsk(Progress &progress, const ProbeRunner &runner);
 
 /// The predefined macros: those \a listed or, if there are none, those that can be found by their
-/// names. \a logFolder as for worksStill().
+/// names. Nothing when they are those of another language, too. \a logFolder as for worksStill().
 std::optional<MacroFacts> findMacros(Progress &progress, const Questions &questions,
                                      const QList<Macro> &listed, const QList<ScannedName> &names,
                                      const QString &logFolder);

@@ -450,6 +450,7 @@ private slots:
         row("no compiler", "no-such-compiler", {}, "could not be started");
         row("unknown option", "gcc --no-such-option", {"-xd", "A=\"x\\\"\""},
             "Compiling the first probe failed: the compiler returned 1.");
+        row("compiles C++", "g++", {}, "Name its C compiler on the page");
         row("preprocesses", "tcc -E", {}, "With the option -E ");
         row("checks", "tcc -fsyntax-only", {}, "With the option -fsyntax-only ");
         row("searches what is not known", "odd", {}, "Name them on the page Search Directories.");
