@@ -27,7 +27,8 @@ QString howItEnded(const ProbeAnswer &answer)
         return u"the probe could not be written to the temporary folder"_s;
     switch (answer.run.ending) {
     case platform::ProgramRun::NotStarted:
-        return u"the compiler could not be started"_s;
+        return u"the compiler could not be started; it must be on the PATH or be named by its "
+               "whole path"_s;
     case platform::ProgramRun::Crashed:
         return u"the compiler crashed"_s;
     case platform::ProgramRun::TimedOut:
