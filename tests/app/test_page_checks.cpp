@@ -102,9 +102,9 @@ private slots:
         user->showPage(user->Page1);
         user.type(user->CmpExeEdit, "cc");
         user.type(user->CmpExeFlagEdit, "-o");
-        user.click(user->CmpExeFlagChkBox);
         user.type(user->CmpDefFlagEdit, "-D");
         user.type(user->CmpCmpFlagEdit, "<b>");
+        user.click(user->CmpExeFlagChkBox);
         QCOMPARE(user->CmpCmdOrder->text(), "cc -o <exe file> -DXXX <b> <src file> ");
         user->CmpOrderListBox->setCurrentRow(5);
         for (QPushButton *button : {user->CmdOrderUpBtn, user->CmdOrderDwnBtn, user->CmdOrderDwnBtn,

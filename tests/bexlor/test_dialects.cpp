@@ -89,7 +89,7 @@ private slots:
         const RunCommand run = [&asked](const QStringList &words) {
             asked << words.join(' ');
             return answer("#define A 1\n#define __FILE__ x\n#define __has_include 1\n"
-                          "made by hand, cc 1.2\n");
+                          "made by\x7f hand, cc 1.2\n");
         };
         const DialectAnswers known {{}, {{"/a"}, {}}, {}};
         const DialectAnswers answers = askInDialects(run, {"cc"}, "probe.c", known);
