@@ -175,8 +175,8 @@ clang's tools, clangd's configuration, a platform and a header for cppcheck, pro
 VS Code, or all facts as JSON.
 
 The exit status is 0 when it is done; 1 when a step failed or clang rejects what the compiler
-accepts; 2 for a wrong command line; 3 when something needed is missing, or what was to be
-verified has changed.)");
+accepts; 2 for a wrong command line; 3 when a check or an export lacks something that it
+needs, or what was to be verified has changed.)");
 }
 
 Request parseRequest(const QStringList &list)

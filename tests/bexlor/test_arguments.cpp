@@ -1,5 +1,6 @@
 #include "request.h"
 
+#include "files.h"
 #include "host_path.h"
 #include "refusal.h"
 #include "row.h"
@@ -92,6 +93,19 @@ private slots:
         const auto *error = std::get_if<UsageError>(&request);
         QVERIFY(error);
         QVERIFY2(error->sentence.contains(QRegularExpression(says)), qPrintable(error->sentence));
+    }
+
+    void isDescribedByItsPackage()
+    {
+        const QString page = QString(readTestFile(DEBIAN "/bexlor.1")).remove('\\');
+        const QString synopsis = page.section(".SH DESCRIPTION", 0, 0);
+        const QString completion = readTestFile(DEBIAN "/bexlor.completion");
+        const QRegularExpression words("(?<![\\w.-])-{0,2}[a-z]+(-[a-z]+)*(?![\\w:-])");
+        for (const QRegularExpressionMatch &match : words.globalMatch(usage())) {
+            const QString word = "(?<![\\w-])" + match.captured() + "(?![\\w-])";
+            QVERIFY2(synopsis.contains(QRegularExpression(word)), qPrintable(word));
+            QVERIFY2(completion.contains(QRegularExpression("-W '[^']*" + word)), qPrintable(word));
+        }
     }
 
     void refusesWhatIsNotShown_data()
