@@ -17,7 +17,7 @@ struct Verdict
     Result result = NotStarted; ///< the compiler that the source's command names is not there
     TokenDifference difference; ///< only of code that is different
     Rejection rejection;        ///< only of a source that clang rejects
-    QString message;            ///< the compiler's first words on one that it rejects
+    QString message;            ///< why the compiler rejects it, or it is not compared
 };
 
 /// How sources are checked.

@@ -77,7 +77,8 @@ QString verdictLine(const Verdict &verdict)
     case Verdict::Same:
         return start + "same"_L1;
     case Verdict::NotCompared:
-        return start + "accepted, not compared"_L1;
+        return start + "accepted, not compared"_L1
+             + (verdict.message.isEmpty() ? QString() : ": "_L1 + verdict.message);
     case Verdict::RejectedByCompiler:
         return start + "rejected by the compiler: "_L1 + verdict.message;
     case Verdict::NotStarted:
