@@ -5,6 +5,7 @@
 #include "text_file.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QThreadPool>
 #include <future>
 #include <vector>
@@ -172,10 +173,23 @@ void compare(const Checking &checking, const CheckedSource &source, Verdict &ver
     verdict.difference = comparison.difference.value_or(TokenDifference());
 }
 
+/// What is not there of the files that \a source needs in any case.
+QString missingPart(const CheckedSource &source)
+{
+    if (!QFileInfo(source.directory).isDir())
+        return u"the directory %1"_s.arg(source.directory);
+    return QFileInfo::exists(source.path) ? QString() : u"the file %1"_s.arg(source.path);
+}
+
 Verdict checkSource(const Checking &checking, const CheckedSource &source)
 {
     Verdict verdict;
     verdict.file = source.file;
+    verdict.message = missingPart(source);
+    if (!verdict.message.isEmpty()) {
+        verdict.result = Verdict::Missing;
+        return verdict;
+    }
     const platform::ProgramRun own = compile(checking, source);
     if (own.ending == platform::ProgramRun::NotStarted) {
         verdict.message = source.command.first();

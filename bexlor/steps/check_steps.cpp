@@ -74,6 +74,7 @@ QString typeSentence(const Verdict &verdict, const QString &file, const Clang &c
     switch (verdict.result) {
     case Verdict::RejectedByCompiler:
     case Verdict::NotStarted:
+    case Verdict::Missing:
         return u"The compiler rejects %1: %2"_s.arg(file, verdict.message);
     case Verdict::RejectedByClang:
         return u"The compiler accepts %1, and %2 rejects it: %3"_s.arg(file, clang.version,

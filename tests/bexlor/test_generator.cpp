@@ -266,7 +266,10 @@ private slots:
                                     + "\", \"file\": \"same.c\", \"command\": "
                                       "\"gcc -Iinclude -DY=1 -MD -o same.o -c same.c\"}]")
                                        .toUtf8());
-        workshop.write("gone.json", "[{\"file\": \"b.c\", \"arguments\": [\"no-such-cc\"]}]");
+        workshop.write("gone.json", "[{\"file\": \"same.c\", \"arguments\": [\"no-such-cc\"]},"
+                                    "{\"file\": \"b.c\", \"arguments\": [\"gcc\", \"b.c\"]},"
+                                    "{\"directory\": \"gone\", \"file\": \"c.c\","
+                                    " \"arguments\": [\"gcc\", \"c.c\"]}]");
         const QStringList before = QDir(folder).entryList();
         const auto check = [&](const QStringList &sources) {
             return workshop.run(QStringList {GENERATOR, "check", workshop.personality} + sources);
@@ -285,8 +288,14 @@ private slots:
         QFile::remove(workshop.folder.filePath("out.json"));
 
         const ProgramRun gone = check({"gone.json"});
-        QVERIFY2(gone.exitCode == 3 && gone.output.contains("b.c: cannot be started: no-such-cc\n"),
-                 gone.output);
+        for (const QString &line :
+             {QString("same.c: cannot be started: no-such-cc\n"),
+              "b.c: missing: the file " + folder + "/b.c\n",
+              "c.c: missing: the directory " + folder + "/gone\n",
+              QString("clang 14 accepts 0 of the 0 sources"), QString("\n      2  are missing")})
+            QVERIFY2(gone.output.contains(line.toUtf8()), gone.output);
+        QCOMPARE(gone.exitCode, 3);
+        QCOMPARE(check({"nowhere.c"}).exitCode, 3);
         const ProgramRun listed = check({"all.json"});
         QVERIFY2(listed.succeeded() && listed.output.contains("same.c: same\n"), listed.output);
         QCOMPARE(QDir(folder).entryList(), before);
