@@ -19,7 +19,7 @@ ExitStatus checkWithPersonality(Progress &progress, const CheckRequest &request,
                                 const QString &folder);
 
 /// Says in one line how many headers of the search path clang accepts with the personality that has
-/// just been written, \a text; of many headers a part is tried, for two seconds at most. Says
+/// just been written, \a text, and how many were tried: a sample, for two seconds at most. Says
 /// nothing where no clang is found.
 void checkHeaders(Progress &progress, const Arguments &arguments, const QByteArray &text,
                   const QString &folder);

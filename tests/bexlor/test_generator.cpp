@@ -180,7 +180,8 @@ private slots:
                        "  clang --config \"$/sub folder/mine.p_c\" -fsyntax-only FILE\n"
                        "  clang-tidy FILE -- --config \"$/sub folder/mine.p_c\"\n"
                        "Trying the headers of the search path ...\n"
-                       "clang N accepts N of the N headers that the compiler accepts.\n");
+                       "clang N accepts N of the N headers that the compiler accepts. "
+                       "A sample: N of the N found were tried.\n");
         const QByteArray text = readTestFile(workshop.personality);
         const QString elsewhere = workshop.folder.filePath("elsewhere");
         QDir().mkdir(elsewhere);
