@@ -88,6 +88,14 @@ std::optional<Clang> findClang(Progress &progress, const QString &word)
     return clang;
 }
 
+QString notWritten(const QString &noun, const QString &path)
+{
+    const QString folder = QFileInfo(path).absolutePath();
+    return QFileInfo::exists(folder)
+             ? u"The %1 cannot be written: %2"_s.arg(noun, path)
+             : u"The folder of the %1 does not exist: %2"_s.arg(noun, folder);
+}
+
 std::variant<QList<CompileCommand>, QString> readDatabase(const QString &path)
 {
     const platform::FileContent file = platform::readFile(path, largestDatabase);
@@ -134,7 +142,7 @@ ExitStatus checkWithPersonality(Progress &progress, const CheckRequest &request,
         progress.say(line);
     if (!request.jsonFile.isEmpty()
         && !platform::writeFile(request.jsonFile, verdictsAsJson(checking, verdicts))) {
-        progress.say(u"The verdicts cannot be written: %1"_s.arg(request.jsonFile));
+        progress.say(notWritten(u"verdicts"_s, request.jsonFile));
         return ExitStatus::Missing;
     }
     return exitStatus(verdicts);

@@ -37,5 +37,9 @@ ExitStatus exportPersonality(Progress &progress, const ExportRequest &request,
 /// The clang that \a word names; nothing, which is then said, when there is none.
 std::optional<Clang> findClang(Progress &progress, const QString &word);
 
+/// The sentence on the file \a path, called \a noun, that cannot be written: why, if it is for want
+/// of its folder.
+QString notWritten(const QString &noun, const QString &path);
+
 /// The entries of the database \a path, or a sentence if they cannot be read.
 std::variant<QList<CompileCommand>, QString> readDatabase(const QString &path);
