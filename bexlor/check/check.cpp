@@ -5,6 +5,7 @@
 #include "text_file.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QThreadPool>
 #include <future>
 #include <vector>
@@ -70,17 +71,17 @@ platform::ProgramRun compile(const Checking &checking, const CheckedSource &sour
 }
 
 /// What the compiler makes of \a source when it preprocesses it under \a definitions, be it printed
-/// or written where it writes objects to. Empty if it fails.
-QByteArray preprocess(const Checking &checking, const CheckedSource &source,
-                      const QStringList &definitions)
+/// or written where it writes objects to.
+platform::ProgramRun preprocess(const Checking &checking, const CheckedSource &source,
+                                const QStringList &definitions)
 {
-    const platform::ProgramRun run = platform::runProgram(
+    platform::ProgramRun run = platform::runProgram(
         withOptions(source.command, checking.preprocess + definitions, checking.layout.objectFlag),
         source.directory, timeLeft(checking), largestSource);
-    const QByteArray text =
-        run.output.isEmpty() ? platform::readFile(source.output, largestSource).bytes : run.output;
+    if (run.output.isEmpty())
+        run.output = platform::readFile(source.output, largestSource).bytes;
     QFile::remove(source.output);
-    return run.succeeded() ? text : QByteArray();
+    return run;
 }
 
 platform::ProgramRun runClang(const Checking &checking, const CheckedSource &source,
@@ -92,13 +93,18 @@ platform::ProgramRun runClang(const Checking &checking, const CheckedSource &sou
 }
 
 /// Lets clang leave the keywords in the code that it would otherwise not understand, and see the
-/// compiler's own definition of macros that have been made to fit clang's types.
+/// compiler's own definition of macros that have been made to fit clang's types. What clang's
+/// headers ask for stays, since they are still read.
 QStringList undefinedKeywords(const Personality &personality)
 {
+    const QList<Macro> forHeaders = headerDefinitions(personality.facts.macros);
     QStringList options;
     for (const Option &option : personality.keywordDefinitions) {
         const QByteArray definition = option.first().sliced(2);
         const QByteArray name = definition.split('=').first().split('(').first();
+        const auto isNamed = [&name](const Macro &macro) { return macro.name == name; };
+        if (std::any_of(forHeaders.begin(), forHeaders.end(), isNamed))
+            continue;
         options << QString::fromUtf8("-U" + name);
         if (const Macro *macro = findMacro(personality.facts.macros, name))
             options << QString::fromUtf8("-D" + name + '=' + macro->value);
@@ -106,32 +112,43 @@ QStringList undefinedKeywords(const Personality &personality)
     return options;
 }
 
-/// What comparing \a source under definitions for both has come to; nothing if that was not
-/// possible.
+QString firstLine(const platform::ProgramRun &run)
+{
+    return QString::fromLocal8Bit(run.errors + run.output).trimmed().section(u'\n', 0, 0);
+}
+
+/// What comparing the code that both see has come to.
 struct Comparison
 {
+    bool isMade = false;
     std::optional<TokenDifference> difference;
+    QString problem; ///< why it is not made: what the one that does not preprocess says
 };
 
-std::optional<Comparison> compare(const Checking &checking, const CheckedSource &source,
-                                  const QStringList &ownDefinitions,
-                                  const QStringList &clangDefinitions)
+/// Compares \a source under definitions for both.
+Comparison compare(const Checking &checking, const CheckedSource &source,
+                   const QStringList &ownDefinitions, const QStringList &clangDefinitions)
 {
-    const QByteArray own = preprocess(checking, source, ownDefinitions);
+    const platform::ProgramRun own = preprocess(checking, source, ownDefinitions);
+    if (!own.succeeded())
+        return {false, {}, firstLine(own)};
+    if (own.output.isEmpty())
+        return {false, {}, u"the compiler preprocesses it to nothing"_s};
     const platform::ProgramRun clang =
         runClang(checking, source,
                  QStringList {u"-E"_s} + undefinedKeywords(checking.content) + clangDefinitions);
-    if (own.isEmpty() || !clang.succeeded())
-        return {};
+    if (!clang.succeeded())
+        return {false, {}, rejectionIn(clang.errors).message};
     const QStringList ownHeaders = ownHeadersOf(checking.content);
     // A header of clang's may include the compiler's of the same name.
     const QStringList ownHeadersOfClang = QStringList {checking.clang.headers} + ownHeaders;
-    Comparison comparison {firstDifference({own, ownHeaders}, {clang.output, ownHeadersOfClang})};
+    Comparison comparison {
+        true, firstDifference({own.output, ownHeaders}, {clang.output, ownHeadersOfClang}), {}};
     // Where clang has headers of its own, those of the C library may come in another order. What
     // they are for shows in the code behind them.
     if (comparison.difference && !ownHeaders.isEmpty()) {
-        comparison.difference =
-            firstDifference({own, ownHeaders, true}, {clang.output, ownHeadersOfClang, true});
+        comparison.difference = firstDifference({own.output, ownHeaders, true},
+                                                {clang.output, ownHeadersOfClang, true});
     }
     return comparison;
 }
@@ -142,27 +159,37 @@ void compare(const Checking &checking, const CheckedSource &source, Verdict &ver
     verdict.result = Verdict::NotCompared;
     if (checking.preprocess.isEmpty())
         return;
-    std::optional<Comparison> comparison = compare(checking, source, {}, {});
-    if (!comparison)
+    Comparison comparison = compare(checking, source, {}, {});
+    if (!comparison.isMade) {
+        verdict.message = comparison.problem;
         return;
-    if (comparison->difference && !checking.layout.defineFlag.isEmpty()) {
-        const auto alike = compare(checking, source, abilityOptions(checking.layout.defineFlag),
-                                   abilityOptions(u"-D"_s));
-        comparison = alike ? alike : comparison;
     }
-    verdict.result = comparison->difference ? Verdict::Different : Verdict::Same;
-    verdict.difference = comparison->difference.value_or(TokenDifference());
+    if (comparison.difference && !checking.layout.defineFlag.isEmpty()) {
+        const Comparison alike = compare(
+            checking, source, abilityOptions(checking.layout.defineFlag), abilityOptions(u"-D"_s));
+        comparison = alike.isMade ? alike : comparison;
+    }
+    verdict.result = comparison.difference ? Verdict::Different : Verdict::Same;
+    verdict.difference = comparison.difference.value_or(TokenDifference());
 }
 
-QString firstLine(const platform::ProgramRun &run)
+/// What is not there of the files that \a source needs in any case.
+QString missingPart(const CheckedSource &source)
 {
-    return QString::fromLocal8Bit(run.errors + run.output).trimmed().section(u'\n', 0, 0);
+    if (!QFileInfo(source.directory).isDir())
+        return u"the directory %1"_s.arg(source.directory);
+    return QFileInfo::exists(source.path) ? QString() : u"the file %1"_s.arg(source.path);
 }
 
 Verdict checkSource(const Checking &checking, const CheckedSource &source)
 {
     Verdict verdict;
     verdict.file = source.file;
+    verdict.message = missingPart(source);
+    if (!verdict.message.isEmpty()) {
+        verdict.result = Verdict::Missing;
+        return verdict;
+    }
     const platform::ProgramRun own = compile(checking, source);
     if (own.ending == platform::ProgramRun::NotStarted) {
         verdict.message = source.command.first();

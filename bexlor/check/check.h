@@ -12,12 +12,20 @@
 /// What two compilers make of one source.
 struct Verdict
 {
-    enum Result { Same, Different, NotCompared, RejectedByClang, RejectedByCompiler, NotStarted };
+    enum Result {
+        Same,
+        Different,
+        NotCompared,
+        RejectedByClang,
+        RejectedByCompiler,
+        NotStarted, ///< the compiler that the source's command names is not there
+        Missing     ///< the source is not there, or the directory in which it is compiled
+    };
     QString file;
-    Result result = NotStarted; ///< the compiler that the source's command names is not there
+    Result result = NotStarted;
     TokenDifference difference; ///< only of code that is different
     Rejection rejection;        ///< only of a source that clang rejects
-    QString message;            ///< the compiler's first words on one that it rejects
+    QString message; ///< why the compiler rejects it or it is not compared; what is not there
 };
 
 /// How sources are checked.

@@ -83,13 +83,13 @@ CheckedSource sourceOfFile(const Compiler &compiler, const QString &file, const 
     Compiler whole = compiler;
     whole.command << compiler.includedFirst;
     const QString output = outputName(compiler, folder, number);
-    return {file, folder, probeCommand(whole, file, output), output, {file}};
+    return {file, folder, probeCommand(whole, file, output), output, {file}, file};
 }
 
 CheckedSource sourceOfEntry(const CompileCommand &entry, const Compiler &compiler,
                             const QString &folder, qsizetype number)
 {
-    CheckedSource source {entry.file, entry.directory, {}, {}, {}};
+    CheckedSource source {entry.file, entry.directory, {}, {}, {}, entry.absoluteFile()};
     QStringList words = withoutOtherPurposes(withoutResponseFiles(entry.words, entry.directory));
     if (QDir::fromNativeSeparators(words.first()).contains(u'/'))
         words.first() = QDir(entry.directory).absoluteFilePath(words.first());

@@ -11,6 +11,7 @@ struct CheckedSource
     QStringList command;      ///< of the compiler; writes only \a output, if anything
     QString output;           ///< empty if the command names none
     QStringList clangOptions; ///< those of the command that clang is given, too, and the file
+    QString path;             ///< of the file, absolute
 };
 
 /// How \a compiler, with the options that it always gets, compiles \a file, an absolute path, in

@@ -22,6 +22,7 @@ const struct ResultName
     {Verdict::RejectedByClang, "rejected-by-clang"_L1, "are rejected by clang alone"_L1},
     {Verdict::RejectedByCompiler, "rejected-by-compiler"_L1, "are rejected by the compiler"_L1},
     {Verdict::NotStarted, "not-started"_L1, "name a compiler that cannot be started"_L1},
+    {Verdict::Missing, "missing"_L1, "are missing, or the directory to compile them in is"_L1},
 };
 
 qsizetype countOf(const QList<Verdict> &verdicts, Verdict::Result result)
@@ -67,7 +68,7 @@ QJsonObject json(const Verdict &verdict)
 qsizetype acceptedByCompiler(const QList<Verdict> &verdicts)
 {
     return verdicts.size() - countOf(verdicts, Verdict::RejectedByCompiler)
-         - countOf(verdicts, Verdict::NotStarted);
+         - countOf(verdicts, Verdict::NotStarted) - countOf(verdicts, Verdict::Missing);
 }
 
 QString verdictLine(const Verdict &verdict)
@@ -77,11 +78,14 @@ QString verdictLine(const Verdict &verdict)
     case Verdict::Same:
         return start + "same"_L1;
     case Verdict::NotCompared:
-        return start + "accepted, not compared"_L1;
+        return start + "accepted, not compared"_L1
+             + (verdict.message.isEmpty() ? QString() : ": "_L1 + verdict.message);
     case Verdict::RejectedByCompiler:
         return start + "rejected by the compiler: "_L1 + verdict.message;
     case Verdict::NotStarted:
         return start + "cannot be started: "_L1 + verdict.message;
+    case Verdict::Missing:
+        return start + "missing: "_L1 + verdict.message;
     case Verdict::RejectedByClang:
         return start + verdict.rejection.kind + ": "_L1 + verdict.rejection.message;
     case Verdict::Different:
@@ -141,7 +145,7 @@ QByteArray verdictsAsJson(const Checking &checking, const QList<Verdict> &verdic
 
 ExitStatus exitStatus(const QList<Verdict> &verdicts)
 {
-    if (countOf(verdicts, Verdict::NotStarted) > 0)
+    if (countOf(verdicts, Verdict::NotStarted) + countOf(verdicts, Verdict::Missing) > 0)
         return ExitStatus::Missing;
     return countOf(verdicts, Verdict::RejectedByClang) == 0 ? ExitStatus::Done : ExitStatus::Failed;
 }

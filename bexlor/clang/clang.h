@@ -54,7 +54,11 @@ bool canBeDefined(const Macro &macro);
 /// has to be defined.
 QList<QByteArray> keywordsOfClang(const MacroFacts &macros);
 
-/// Definitions under which clang reads what the keywords that it lacks are used in.
+/// Definitions that clang's own headers ask for where they take the place of a compiler's.
+QList<Macro> headerDefinitions(const MacroFacts &macros);
+
+/// Definitions under which clang reads what the keywords that it lacks are used in, and those that
+/// its headers ask for.
 QList<Macro> keywordDefinitions(const Facts &facts);
 
 /// Whether \a directory holds a compiler's own headers for the instructions of its processors. They

@@ -76,10 +76,6 @@ QList<Macro> gnuDefinitions(const MacroFacts &macros)
                                   name + "((__typeof__((void)0,*(p))*)(p),__VA_ARGS__)"};
         }
     }
-    // Clang's <arm_acle.h>, which takes the place of the compiler's, asks for this (Arm C Language
-    // Extensions 2.0), and GCC has not got it.
-    if (gnuVersion && findMacro(macros, "__ARM_ARCH") && !findMacro(macros, "__ARM_ACLE"))
-        definitions << Macro {"__ARM_ACLE", "200"};
     for (const auto &row : avrFunctions) {
         if (findMacro(macros, row.macro))
             definitions << row.definition;
@@ -121,10 +117,19 @@ QList<QByteArray> keywordsOfClang(const MacroFacts &macros)
     return keywords;
 }
 
+QList<Macro> headerDefinitions(const MacroFacts &macros)
+{
+    // Clang's <arm_acle.h> asks for this (Arm C Language Extensions 2.0), and GCC has not got it.
+    if (findMacro(macros, "__GNUC__") && findMacro(macros, "__ARM_ARCH")
+        && !findMacro(macros, "__ARM_ACLE"))
+        return {{"__ARM_ACLE", "200"}};
+    return {};
+}
+
 QList<Macro> keywordDefinitions(const Facts &facts)
 {
     const QList<QByteArray> known = keywordsOfClang(facts.macros);
-    QList<Macro> definitions = gnuDefinitions(facts.macros);
+    QList<Macro> definitions = gnuDefinitions(facts.macros) + headerDefinitions(facts.macros);
     for (const Keyword &keyword : facts.keywords) {
         if (known.contains(keyword.name) && keyword.form != Keyword::OrdinaryName)
             continue;

@@ -1,5 +1,6 @@
 #include "check_steps.h"
 
+#include "header_sample.h"
 #include "refusal.h"
 #include "report.h"
 #include "steps.h"
@@ -9,7 +10,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <algorithm>
-#include <random>
 
 using namespace Qt::StringLiterals;
 
@@ -48,24 +48,15 @@ std::variant<Sources, QString> sourcesOf(const CheckRequest &request, const Comp
     return sources;
 }
 
-/// Some of the headers on the search path that can be included by their names alone. They are from
-/// all over it, so that a check that is cut short has not stayed in one corner, and the same ones
-/// each time. Those that clang has its own of tell nothing about the compiler's.
-QStringList sampleOfHeaders(const Personality &content, bool isCpp)
+/// The headers of the search path, a sample of them first. Those that clang has its own of tell
+/// nothing about the compiler's.
+QStringList headersToTry(const Personality &content, bool isCpp)
 {
+    QStringList directories = content.facts.searchPath.directories;
     const QStringList ownHeaders = ownHeadersOf(content);
-    QStringList names;
-    for (const QString &directory : content.facts.searchPath.directories) {
-        if (ownHeaders.contains(directory))
-            continue;
-        for (const QString &name : QDir(directory).entryList(QDir::Files)) {
-            if (name.endsWith(".h"_L1) || (isCpp && !name.contains(u'.')))
-                names << name;
-        }
-    }
-    names.removeDuplicates();
-    std::shuffle(names.begin(), names.end(), std::minstd_rand());
-    return names.mid(0, headersAtMost);
+    directories.removeIf(
+        [&ownHeaders](const QString &directory) { return ownHeaders.contains(directory); });
+    return headersInTurn(directories, isCpp);
 }
 
 /// What \a verdict, on the assertions in \a file, tells of the compiler and of \a clang.
@@ -74,6 +65,7 @@ QString typeSentence(const Verdict &verdict, const QString &file, const Clang &c
     switch (verdict.result) {
     case Verdict::RejectedByCompiler:
     case Verdict::NotStarted:
+    case Verdict::Missing:
         return u"The compiler rejects %1: %2"_s.arg(file, verdict.message);
     case Verdict::RejectedByClang:
         return u"The compiler accepts %1, and %2 rejects it: %3"_s.arg(file, clang.version,
@@ -94,6 +86,14 @@ std::optional<Clang> findClang(Progress &progress, const QString &word)
     if (!clang)
         progress.say(u"There is no clang that can be started: %1"_s.arg(word));
     return clang;
+}
+
+QString notWritten(const QString &noun, const QString &path)
+{
+    const QString folder = QFileInfo(path).absolutePath();
+    return QFileInfo::exists(folder)
+             ? u"The %1 cannot be written: %2"_s.arg(noun, path)
+             : u"The folder of the %1 does not exist: %2"_s.arg(noun, folder);
 }
 
 std::variant<QList<CompileCommand>, QString> readDatabase(const QString &path)
@@ -142,7 +142,7 @@ ExitStatus checkWithPersonality(Progress &progress, const CheckRequest &request,
         progress.say(line);
     if (!request.jsonFile.isEmpty()
         && !platform::writeFile(request.jsonFile, verdictsAsJson(checking, verdicts))) {
-        progress.say(u"The verdicts cannot be written: %1"_s.arg(request.jsonFile));
+        progress.say(notWritten(u"verdicts"_s, request.jsonFile));
         return ExitStatus::Missing;
     }
     return exitStatus(verdicts);
@@ -156,8 +156,9 @@ void checkHeaders(Progress &progress, const Arguments &arguments, const QByteArr
         return;
     const Personality content = parsePersonality(text);
     const Compiler compiler = findCompiler(arguments);
+    const QStringList headers = headersToTry(content, arguments.isCpp);
     QList<CheckedSource> sources;
-    for (const QString &name : sampleOfHeaders(content, arguments.isCpp)) {
+    for (const QString &name : headers.mid(0, headersAtMost)) {
         const QString file =
             folder + u"/header_%1_"_s.arg(sources.size()) + probeName(arguments.isCpp);
         if (platform::writeScratchFile(file, "#include <" + QFile::encodeName(name) + ">\n"))
@@ -183,7 +184,9 @@ void checkHeaders(Progress &progress, const Arguments &arguments, const QByteArr
         progress.say(u"None of them was compiled within %1 seconds."_s.arg(headerTimeLimit / 1000));
     if (acceptedByCompiler(verdicts) == 0)
         return;
-    progress.say(acceptanceSentence(clang->version, verdicts, u"headers"_s));
+    progress.say(
+        acceptanceSentence(clang->version, verdicts, u"headers"_s)
+        + u" A sample: %1 of the %2 found were tried."_s.arg(verdicts.size()).arg(headers.size()));
     const auto rejected =
         std::find_if(verdicts.begin(), verdicts.end(), [](const Verdict &verdict) {
             return verdict.result == Verdict::RejectedByClang;

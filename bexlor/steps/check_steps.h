@@ -19,7 +19,7 @@ ExitStatus checkWithPersonality(Progress &progress, const CheckRequest &request,
                                 const QString &folder);
 
 /// Says in one line how many headers of the search path clang accepts with the personality that has
-/// just been written, \a text; of many headers a part is tried, for two seconds at most. Says
+/// just been written, \a text, and how many were tried: a sample, for two seconds at most. Says
 /// nothing where no clang is found.
 void checkHeaders(Progress &progress, const Arguments &arguments, const QByteArray &text,
                   const QString &folder);
@@ -36,6 +36,10 @@ ExitStatus exportPersonality(Progress &progress, const ExportRequest &request,
 
 /// The clang that \a word names; nothing, which is then said, when there is none.
 std::optional<Clang> findClang(Progress &progress, const QString &word);
+
+/// The sentence on the file \a path, called \a noun, that cannot be written: why, if it is for want
+/// of its folder.
+QString notWritten(const QString &noun, const QString &path);
 
 /// The entries of the database \a path, or a sentence if they cannot be read.
 std::variant<QList<CompileCommand>, QString> readDatabase(const QString &path);

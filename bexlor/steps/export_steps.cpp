@@ -18,7 +18,7 @@ ExitStatus write(Progress &progress, const QString &file, const QByteArray &cont
         return ExitStatus::Done;
     }
     if (!platform::writeFile(file, content)) {
-        progress.say(u"The file cannot be written: %1"_s.arg(file));
+        progress.say(notWritten(u"file"_s, file));
         return ExitStatus::Failed;
     }
     progress.say(u"Wrote %1"_s.arg(file));

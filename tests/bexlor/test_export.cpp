@@ -148,16 +148,20 @@ private slots:
 
     void refusesWhatItCannotDo_data()
     {
-        const Columns<QStringList, int> row("arguments", "exitCode");
-        row("missing database", {"compile-commands", "x.json"}, 3);
-        row("no database", {"clangd", "arm.p_c"}, 3);
-        row("no clang", {"clangd", "--clang", "no-clang"}, 3);
-        row("no folder", {"json", "-o", "no/x.json"}, 1);
+        const Columns<QStringList, int, QByteArray> row("arguments", "exitCode", "says");
+        row("missing database", {"compile-commands", "x.json"}, 3, "database cannot be read: ");
+        row("no database", {"clangd", "arm.p_c"}, 3, "This is no compilation database: ");
+        row("no clang", {"clangd", "--clang", "no-clang"}, 3, "can be started: no-clang\n");
+        row("no folder", {"json", "-o", "no/x.json"}, 1, "The folder of the file does not exist: ");
+        row("no file", {"json", "-o", "all.json/x"}, 1, "The file cannot be written: ");
     }
     void refusesWhatItCannotDo()
     {
         QFETCH(QStringList, arguments);
-        QTEST(exportTo(arguments).exitCode, "exitCode");
+        QFETCH(QByteArray, says);
+        const ProgramRun run = exportTo(arguments);
+        QTEST(run.exitCode, "exitCode");
+        QVERIFY2(run.output.contains(says), run.output);
     }
 };
 

@@ -1,5 +1,6 @@
 #include "beside_compiler.h"
 #include "compiler_names.h"
+#include "header_sample.h"
 #include "header_scan.h"
 
 #include "files.h"
@@ -157,6 +158,30 @@ private slots:
         for (const char *name :
              {"__n0:U", "__n69:U", "__in_a_binary:B", "__at_the_end:U", "__in_an_odd_file:U"})
             QVERIFY2(names.contains(name), name);
+    }
+
+    void samplesAllOfTheSearchPath()
+    {
+        const QTemporaryDir folder;
+        const QStringList there {"plain.h",      "sys/a.h",       "util/b.h",
+                                 "util/c.h",     "util/x/deep.h", "more/d.h",
+                                 "more/sys/a.h", "string",        "avr/notes.txt"};
+        for (const QString &file : there)
+            writeTestFile(folder.filePath(file));
+        for (int i = 0; i < 50; ++i) {
+            writeTestFile(folder.filePath(QString("many/%1.h").arg(i)));
+            writeTestFile(folder.filePath(QString("others/%1.h").arg(i)));
+        }
+        const QStringList searched {folder.path(), folder.filePath("more"), folder.filePath("no")};
+        const QStringList sample = headersInTurn(searched, false);
+        QCOMPARE(sample.size(), 105);
+        QStringList first = sample.mid(0, 9);
+        for (const char *name : {"plain.h", "d.h", "sys/a.h"})
+            QVERIFY2(first.removeOne(name), qPrintable(sample.join(' ')));
+        for (const char *folderBelow : {"util/", "many/", "others/"})
+            QCOMPARE(first.filter(folderBelow).size(), 2);
+        QCOMPARE(headersInTurn(searched, false), sample);
+        QVERIFY(headersInTurn(searched, true).contains("string"));
     }
 
     void looksBesideCompilers_data()
