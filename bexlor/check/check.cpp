@@ -103,7 +103,8 @@ QStringList undefinedKeywords(const Personality &personality)
         const QByteArray definition = option.first().sliced(2);
         const QByteArray name = definition.split('=').first().split('(').first();
         const auto isNamed = [&name](const Macro &macro) { return macro.name == name; };
-        if (std::any_of(forHeaders.begin(), forHeaders.end(), isNamed))
+        const bool isTakenBack = option.first().startsWith("-U"); // for a template, too
+        if (isTakenBack || std::any_of(forHeaders.begin(), forHeaders.end(), isNamed))
             continue;
         options << QString::fromUtf8("-U" + name);
         if (const Macro *macro = findMacro(personality.facts.macros, name))
