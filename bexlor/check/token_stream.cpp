@@ -262,14 +262,29 @@ std::optional<int> linesBehind(QByteArrayView token, const TokenStream &stream)
     return isNumber ? std::optional(number - stream.line()) : std::nullopt;
 }
 
+/// How many lines behind that of \a stream the next token on another one stands; nothing if the
+/// file ends before.
+std::optional<int> linesToNext(TokenStream stream)
+{
+    const QString file = stream.file();
+    const int line = stream.line();
+    while (!stream.next().isEmpty() && stream.file() == file) {
+        if (stream.line() != line)
+            return stream.line() - line;
+    }
+    return {};
+}
+
 /// Whether \a one and \a other are what both have in the place of __LINE__ in a macro's arguments
-/// that stand on several lines: the first line for GNU compilers, for clang the last.
+/// that stand on several lines: the first line for GNU compilers, for clang the last. Nothing else
+/// stands on lines between them.
 bool areLineOfCall(QByteArrayView one, const TokenStream &compiler, QByteArrayView other,
                    const TokenStream &clang)
 {
     const int longestCall = 50;
-    return linesBehind(one, compiler) == 0 && linesBehind(other, clang) > 0
-        && linesBehind(other, clang) < longestCall;
+    const std::optional<int> ofCall = linesBehind(other, clang);
+    return linesBehind(one, compiler) == 0 && ofCall > 0 && ofCall < longestCall
+        && linesToNext(compiler).value_or(longestCall) >= ofCall;
 }
 
 } // namespace

@@ -35,6 +35,10 @@ private slots:
             "a typedef __gnuc_va_list va_list; typedef int va_list; typedef __size_t size_t; b",
             "");
         row("the line of a call", "# 7 \"x.c\"\nf(7)", "# 7 \"x.c\"\nf(9)", "");
+        row("code behind a call", "# 7 \"x.c\"\nf(7);\n# 9 \"x.c\"\na", "# 7 \"x.c\"\nf(9);\n\na",
+            "");
+        row("a number like the line", "# 7 \"x.c\"\nf(7);\na", "# 7 \"x.c\"\nf(9);\na",
+            "x.c:7 7 9");
         row("a number", "# 7 \"x.c\"\nf(6)", "# 7 \"x.c\"\nf(9)", "x.c:7 6 9");
         row("headers of its own", "# 1 \"/own/stddef.h\" 1\na b\n# 2 \"x.c\" 2\nc",
             "# 1 \"/clang/stddef.h\" 1\nz\n# 2 \"x.c\" 2\nc", "");
