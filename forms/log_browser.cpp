@@ -23,7 +23,7 @@ const int mostAtOnce = 1000;
 // What is shown: characters, and pixels. And what is left of it when it becomes more.
 const int mostCharacters = 64'000'000;
 const int greatestHeight = 18'000'000;
-const int charactersLeft = 100'000;
+const int charactersLeft = 40'000;
 const int linesLeft = 10'000;
 
 // A longer text is kept in a file.
