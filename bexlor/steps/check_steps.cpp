@@ -116,6 +116,11 @@ ExitStatus checkWithPersonality(Progress &progress, const CheckRequest &request,
         progress.say(reason);
         return ExitStatus::Missing;
     }
+    // Many sources take long, and their verdicts should not be lost then.
+    if (!request.jsonFile.isEmpty() && !QFileInfo(request.jsonFile).absoluteDir().exists()) {
+        progress.say(notWritten(u"verdicts"_s, request.jsonFile));
+        return ExitStatus::Missing;
+    }
     const std::optional<Clang> clang = findClang(progress, request.clang);
     ProbeRunner runner(findCompiler(arguments), folder, false);
     if (!clang || !compileFirstProbe(progress, runner, folder))

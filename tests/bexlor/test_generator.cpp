@@ -297,6 +297,10 @@ private slots:
             QVERIFY2(gone.output.contains(line.toUtf8()), gone.output);
         QCOMPARE(gone.exitCode, 3);
         QCOMPARE(check({"nowhere.c"}).exitCode, 3);
+        const ProgramRun unkept = check({"same.c", "--json", "no/x.json"});
+        QVERIFY2(unkept.exitCode == 3
+                     && unkept.output.startsWith("The folder of the verdicts does not exist: "),
+                 unkept.output);
         const ProgramRun listed = check({"all.json"});
         QVERIFY2(listed.succeeded() && listed.output.contains("same.c: same\n"), listed.output);
         QCOMPARE(QDir(folder).entryList(), before);
