@@ -94,7 +94,7 @@ platform::ProgramRun runClang(const Checking &checking, const CheckedSource &sou
 
 /// Lets clang leave the keywords in the code that it would otherwise not understand, and see the
 /// compiler's own definition of macros that have been made to fit clang's types. What clang's
-/// headers ask for stays, since they are still read.
+/// headers ask for stays, since they are still read, and so does what a template defines.
 QStringList undefinedKeywords(const Personality &personality)
 {
     const QList<Macro> forHeaders = headerDefinitions(personality.facts.macros);
@@ -103,8 +103,8 @@ QStringList undefinedKeywords(const Personality &personality)
         const QByteArray definition = option.first().sliced(2);
         const QByteArray name = definition.split('=').first().split('(').first();
         const auto isNamed = [&name](const Macro &macro) { return macro.name == name; };
-        const bool isTakenBack = option.first().startsWith("-U"); // for a template, too
-        if (isTakenBack || std::any_of(forHeaders.begin(), forHeaders.end(), isNamed))
+        const bool makesRoom = option.first().startsWith("-U"); // for a definition behind it
+        if (makesRoom || std::any_of(forHeaders.begin(), forHeaders.end(), isNamed))
             continue;
         options << QString::fromUtf8("-U" + name);
         if (const Macro *macro = findMacro(personality.facts.macros, name))

@@ -316,10 +316,14 @@ private slots:
         QVERIFY2(cross.output.contains("order.c: same\n") && cross.output.contains("other.c:4, "),
                  cross.output);
         // Clang has its own of this header, too, and asks for a macro that gcc has not got.
-        workshop.generate("kov", "arm-none-eabi-gcc -mcpu=cortex-m33");
+        workshop.write("t.p_c", "-DNEW=2\n"); // which stays in the place of the compiler's
+        workshop.generate("kov", "arm-none-eabi-gcc -mcpu=cortex-m33",
+                          {"-xd", "NEW=1", "-tpl", "t.p_c"});
         workshop.write("acle.c", "#include <arm_acle.h>\nvoid f(void) { __asm__(\"nop\"); }\n");
-        const ProgramRun arm = check({"acle.c"});
-        QVERIFY2(arm.output.contains("acle.c: same\n"), arm.output);
+        workshop.write("new.c", "\n\nint a = NEW;\n");
+        const ProgramRun arm = check({"acle.c", "new.c"});
+        QVERIFY2(arm.output.contains("acle.c: same\n") && arm.output.contains("new.c:3, "),
+                 arm.output);
         QCOMPARE(workshop.run({"env", "PATH=", GENERATOR, "check", workshop.personality, "same.c"})
                      .exitCode,
                  3);
