@@ -38,29 +38,31 @@ std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const A
     const std::optional<ProbeAnswer> first = compileFirstProbe(progress, runner, logFolder);
     if (!first || !checkControls(progress, runner, *first))
         return {};
-    DialectAnswers listed = askForListings(progress, compiler, *first, folder);
+    std::optional<DialectAnswers> listed = askForListings(progress, compiler, *first, folder);
+    if (!listed)
+        return {};
     const Questions questions = findHowToAsk(progress, runner);
     QStringList directories = arguments.headerDirectories;
-    if (directories.isEmpty() && listed.searchPath.directories.isEmpty()) {
+    if (directories.isEmpty() && !listed->searchPath) {
         directories = findDirectoriesBeside(progress, questions);
-        listed.searchPath.directories = directories;
+        listed->searchPath = SearchPath {directories, {}};
     }
     HeaderScan scan = readDirectories(progress, directories);
-    if (listed.macros.isEmpty())
-        scan.names << namesOfCompiler(compiler, listed.versionLine);
+    if (listed->macros.isEmpty())
+        scan.names << namesOfCompiler(compiler, listed->versionLine);
     const std::optional<MacroFacts> macros =
-        findMacros(progress, questions, listed.macros, scan.names, logFolder);
+        findMacros(progress, questions, listed->macros, scan.names, logFolder);
     if (!macros)
         return {};
 
     Facts facts;
-    facts.versionLine = listed.versionLine;
+    facts.versionLine = listed->versionLine;
     facts.macros = *macros;
     facts.types = measureTypes(progress, questions);
     facts.keywords = findKeywords(progress, questions, scan, facts);
     facts.attributes = learnAttributes(questions);
     facts.leniencies = findLeniencies(progress, questions);
-    facts.searchPath = findSearchPath(progress, questions, listed.searchPath, scan);
+    facts.searchPath = findSearchPath(progress, questions, listed->searchPath, scan);
     const bool lacksSearchPath =
         facts.searchPath.directories.isEmpty() && includesStandardHeaders(questions);
     if (!worksStill(progress, runner, logFolder)

@@ -45,7 +45,7 @@ bool isAnswered(Topic topic, const DialectAnswers &answers)
     case Topic::Macros:
         return !answers.macros.isEmpty();
     case Topic::SearchPath:
-        return !answers.searchPath.directories.isEmpty();
+        return answers.searchPath.has_value();
     case Topic::Version:
         break;
     }
@@ -59,20 +59,25 @@ QStringList directoryBeside(const QByteArray &targets)
     return QDir(headers).exists() ? QStringList {QDir(headers).canonicalPath()} : QStringList();
 }
 
-SearchPath searchPathIn(const ProgramRun &answer, const DialectQuestion &question,
-                        const QStringList &command)
+std::optional<SearchPath> searchPathIn(const ProgramRun &answer, const DialectQuestion &question,
+                                       const QStringList &command)
 {
     if (question.takesSource) {
-        return {directoriesBehind(question.heading, answer.errors),
-                directoriesBehind("#include \"...\" search starts here:", answer.errors)};
+        if (!answer.errors.contains(question.heading))
+            return {};
+        return SearchPath {
+            directoriesBehind(question.heading, answer.errors),
+            directoriesBehind("#include \"...\" search starts here:", answer.errors)};
     }
     // These are the compiler's own, and do not include what options of the command add.
     const QStringList own = question.heading.isEmpty()
                               ? directoryBeside(answer.output)
                               : directoriesBehind(question.heading, answer.output);
-    QStringList directories = own.isEmpty() ? own : includeDirectories(command) + own;
+    if (own.isEmpty())
+        return {};
+    QStringList directories = includeDirectories(command) + own;
     directories.removeDuplicates();
-    return {directories, {}};
+    return SearchPath {directories, {}};
 }
 
 /// The answer to \a words. One who fails is asked once more: that may have been a disturbance, and

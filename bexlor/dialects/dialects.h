@@ -8,11 +8,12 @@
 /// Runs \a command, a program and its arguments.
 using RunCommand = std::function<platform::ProgramRun(const QStringList &command)>;
 
-/// What a compiler lists of itself; empty where it lists nothing.
+/// What a compiler lists of itself; empty where it lists nothing. A search path without directories
+/// is an answer, too: options can have a compiler search nowhere.
 struct DialectAnswers
 {
     QList<Macro> macros;
-    SearchPath searchPath;
+    std::optional<SearchPath> searchPath;
     QByteArray versionLine;
 };
 

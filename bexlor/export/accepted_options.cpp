@@ -1,8 +1,5 @@
 #include "accepted_options.h"
 
-#include "probe_runner.h"
-#include "text_file.h"
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -11,12 +8,10 @@ const int patience = 60'000; // milliseconds
 
 } // namespace
 
-AcceptedOptions::AcceptedOptions(const Clang &clang, const QString &personality, bool isCpp,
-                                 const QString &folder)
-    : m_clang(clang), m_personality(personality), m_source(folder + u'/' + probeName(isCpp))
-{
-    platform::writeScratchFile(m_source, "\n");
-}
+AcceptedOptions::AcceptedOptions(const Clang &clang, const QString &personality,
+                                 const QString &source)
+    : m_clang(clang), m_personality(personality), m_source(source)
+{ }
 
 bool AcceptedOptions::takes(const QStringList &option, const QString &directory) const
 {

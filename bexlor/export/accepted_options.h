@@ -8,9 +8,8 @@
 class AcceptedOptions
 {
 public:
-    /// \a personality is the whole path of the file; \a folder is for an empty source.
-    AcceptedOptions(const Clang &clang, const QString &personality, bool isCpp,
-                    const QString &folder);
+    /// \a personality is the whole path of the file, \a source that of an empty one.
+    AcceptedOptions(const Clang &clang, const QString &personality, const QString &source);
 
     /// Those of \a options, each with its value, that clang takes without a word in \a directory.
     QList<QStringList> of(const QList<QStringList> &options, const QString &directory);

@@ -2,6 +2,7 @@
 #include "clang_forms.h"
 #include "compiler.h"
 #include "fact_forms.h"
+#include "steps.h"
 #include "text_file.h"
 
 #include <QFileInfo>
@@ -62,7 +63,10 @@ ExitStatus writeForClang(Progress &progress, const ExportRequest &request,
     const std::optional<Project> project = projectOf(progress, request, arguments, folder);
     if (!project)
         return ExitStatus::Missing;
-    AcceptedOptions accepted(project->clang, request.personality, arguments.isCpp, folder);
+    const std::optional<QString> source = writeEmptySource(progress, folder, arguments.isCpp);
+    if (!source)
+        return ExitStatus::Failed;
+    AcceptedOptions accepted(project->clang, request.personality, *source);
     if (request.format == ExportRequest::CompileCommands) {
         return write(progress, request.output,
                      compileCommands(project->commands, project->clang.program, request.personality,

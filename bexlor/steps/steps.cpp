@@ -222,15 +222,24 @@ bool checkControls(Progress &progress, ProbeRunner &runner, const ProbeAnswer &f
     return true;
 }
 
-DialectAnswers askForListings(Progress &progress, const Compiler &compiler,
-                              const ProbeAnswer &first, const QString &folder)
+std::optional<QString> writeEmptySource(Progress &progress, const QString &folder, bool isCpp)
+{
+    const QString source = folder + u'/' + probeName(isCpp);
+    if (platform::writeScratchFile(source, "\n"))
+        return source;
+    progress.say(u"No source can be written to the temporary folder: %1"_s.arg(folder));
+    return {};
+}
+
+std::optional<DialectAnswers> askForListings(Progress &progress, const Compiler &compiler,
+                                             const ProbeAnswer &first, const QString &folder)
 {
     DialectAnswers known;
     known.versionLine = versionLineIn(first.run.output + '\n' + first.run.errors);
-    const QString source = probeName(compiler.isCpp);
-    if (qEnvironmentVariableIsSet(learnOnly)
-        || !platform::writeScratchFile(folder + u'/' + source, "\n"))
+    if (qEnvironmentVariableIsSet(learnOnly))
         return known;
+    if (!writeEmptySource(progress, folder, compiler.isCpp))
+        return {};
     const ProgressStep step(progress, u"Asking the compiler for what it lists ..."_s, &nothing);
     QStringList command = compiler.command;
     for (const QString &define : compiler.defines)
@@ -238,7 +247,7 @@ DialectAnswers askForListings(Progress &progress, const Compiler &compiler,
     const RunCommand run = [&folder](const QStringList &question) {
         return platform::runProgram(question, folder, listingTimeLimit);
     };
-    return askInDialects(run, command, source, known);
+    return askInDialects(run, command, probeName(compiler.isCpp), known);
 }
 
 QStringList findDirectoriesBeside(Progress &progress, const Questions &questions)
@@ -346,11 +355,11 @@ QList<QByteArray> findLeniencies(Progress &progress, const Questions &questions)
     return learnLeniencies(questions);
 }
 
-SearchPath findSearchPath(Progress &progress, const Questions &questions, const SearchPath &listed,
-                          const HeaderScan &scan)
+SearchPath findSearchPath(Progress &progress, const Questions &questions,
+                          const std::optional<SearchPath> &listed, const HeaderScan &scan)
 {
-    SearchPath path = listed;
-    if (path.directories.isEmpty()) {
+    SearchPath path = listed.value_or(SearchPath());
+    if (!listed) {
         const ProgressStep step(progress, u"Looking for the search path ..."_s,
                                 probesOf(questions.runner()));
         path.directories = learnSearchPath(questions, scan.headers);

@@ -24,10 +24,13 @@ std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, ProbeRunner &ru
 /// trusted as far as is needed: it must reject what is no C.
 bool checkControls(Progress &progress, ProbeRunner &runner, const ProbeAnswer &first);
 
+/// Writes an empty source into \a folder, and returns its path.
+std::optional<QString> writeEmptySource(Progress &progress, const QString &folder, bool isCpp);
+
 /// What the compiler lists of itself; \a first may have told its version. \a folder is for the
 /// source that it is given.
-DialectAnswers askForListings(Progress &progress, const Compiler &compiler,
-                              const ProbeAnswer &first, const QString &folder);
+std::optional<DialectAnswers> askForListings(Progress &progress, const Compiler &compiler,
+                                             const ProbeAnswer &first, const QString &folder);
 
 /// The directories that the compiler searches of those that lie beside its program, or that its
 /// file names. For a user who has named none.
@@ -53,9 +56,9 @@ QList<Keyword> findKeywords(Progress &progress, const Questions &questions, cons
 /// What the compiler accepts though newer clang does not; see learnLeniencies().
 QList<QByteArray> findLeniencies(Progress &progress, const Questions &questions);
 
-/// The search path: the one \a listed or, if it is empty, what can be found of it.
-SearchPath findSearchPath(Progress &progress, const Questions &questions, const SearchPath &listed,
-                          const HeaderScan &scan);
+/// The search path: the one \a listed or, if there is none, what can be found of it.
+SearchPath findSearchPath(Progress &progress, const Questions &questions,
+                          const std::optional<SearchPath> &listed, const HeaderScan &scan);
 
 /// Whether the first probe still compiles: a compiler that has stopped working, for want of a
 /// license or of room on the disk, would be taken for one that rejects everything. Leaves the logs

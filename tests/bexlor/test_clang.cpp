@@ -156,8 +156,9 @@ private slots:
         QFETCH(QByteArray, target);
         QList<QList<QByteArray>> variants {{}};
         for (const QByteArray &option : layoutOptions(target)) {
-            // All targets are packed alike.
-            if (!option.startsWith("-fpack-struct") || option.endsWith("=2"))
+            // Options are the same in both, and all targets are packed alike.
+            if (clang != "clang-14"
+                && (!option.startsWith("-fpack-struct") || option.endsWith("=2")))
                 variants << QList {option};
         }
         for (const QList<QByteArray> &variant : variants) {

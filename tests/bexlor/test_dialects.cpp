@@ -54,7 +54,11 @@ private slots:
         row("files elsewhere", "* -v -E probe.c", true,
             "#include <...> search starts here:\n /calyx/missing/../x\nEnd of search list.\n",
             "/calyx/missing/../x", "");
-        row("nothing of the kind", "* -v -E probe.c", false, "No input files\n", "", "");
+        row("nowhere", "* -v -E probe.c", true,
+            "#include \"...\" search starts here:\n#include <...> search starts here:\n"
+            "End of search list.\n",
+            "", "");
+        row("nothing of the kind", "* -v -E probe.c", false, "No input files\n", "not told", "");
     }
     void findsTheSearchPath()
     {
@@ -76,8 +80,9 @@ private slots:
             return onErrors ? answer({}, output) : answer(output);
         };
         const DialectAnswers answers = askInDialects(run, command, "probe.c");
-        QTEST(answers.searchPath.directories.join('|').replace(top, "$"), "directories");
-        QTEST(answers.searchPath.forQuotedNames.join('|').replace(top, "$"), "quoted");
+        const SearchPath path = answers.searchPath.value_or(SearchPath {{"not told"}, {}});
+        QTEST(path.directories.join('|').replace(top, "$"), "directories");
+        QTEST(path.forQuotedNames.join('|').replace(top, "$"), "quoted");
         QVERIFY(asked.contains("* -dM -E probe.c") && asked.contains("* --version"));
         const qsizetype again = asked.removeDuplicates();
         QCOMPARE(again, asked.size());
@@ -91,7 +96,7 @@ private slots:
             return answer("#define A 1\n#define __FILE__ x\n#define __has_include 1\n"
                           "made by\x7f hand, cc 1.2\n");
         };
-        const DialectAnswers known {{}, {{"/a"}, {}}, {}};
+        const DialectAnswers known {{}, SearchPath {{"/a"}, {}}, {}};
         const DialectAnswers answers = askInDialects(run, {"cc"}, "probe.c", known);
         QCOMPARE(asked, QStringList({"cc -dM -E probe.c", "cc --version"}));
         QCOMPARE(answers.macros, QList<Macro>({{"A", "1"}}));

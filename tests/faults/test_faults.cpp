@@ -124,8 +124,8 @@ private:
         generator.setWorkingDirectory(folder.path());
         generator.setStandardOutputFile(folder.filePath("said"));
         generator.setStandardErrorFile(folder.filePath("said"), QIODevice::Append);
-        generator.start(GENERATOR, {"kov", "cmp", "tcc", "-o", "-c", "-D", ".o", "%c %o%e %d%j %s ",
-                                    "-op", "mine.p_c"});
+        generator.start(GENERATOR, {"kov", "cmp", "tcc -nostdinc", "-o", "-c", "-D", ".o",
+                                    "%c %o%e %d%j %s ", "-op", "mine.p_c"});
         generator.waitForFinished(-1);
         return generator.exitStatus() == QProcess::NormalExit ? generator.exitCode() : -1;
     }
