@@ -27,6 +27,7 @@ struct DialectQuestion
 };
 
 const QByteArray gnuHeading = "#include <...> search starts here:";
+const QByteArray headingForQuotedNames = "#include \"...\" search starts here:";
 
 const DialectQuestion questions[] = {
     {Topic::Macros, {u"-dM"_s, u"-E"_s}, true, false, {}},
@@ -63,18 +64,21 @@ std::optional<SearchPath> searchPathIn(const ProgramRun &answer, const DialectQu
                                        const QStringList &command)
 {
     if (question.takesSource) {
-        if (!answer.errors.contains(question.heading))
+        // Clang leaves a heading out that nothing stands behind.
+        if (!answer.errors.contains(question.heading)
+            && !answer.errors.contains(headingForQuotedNames))
             return {};
-        return SearchPath {
-            directoriesBehind(question.heading, answer.errors),
-            directoriesBehind("#include \"...\" search starts here:", answer.errors)};
+        return SearchPath {directoriesBehind(question.heading, answer.errors),
+                           directoriesBehind(headingForQuotedNames, answer.errors)};
     }
-    // These are the compiler's own, and do not include what options of the command add.
-    const QStringList own = question.heading.isEmpty()
-                              ? directoryBeside(answer.output)
-                              : directoriesBehind(question.heading, answer.output);
+    // These are the compiler's own, whatever options of the command add or take away.
+    QStringList own = question.heading.isEmpty()
+                        ? directoryBeside(answer.output)
+                        : directoriesBehind(question.heading, answer.output);
     if (own.isEmpty())
         return {};
+    if (command.contains(u"-nostdinc"_s))
+        own.clear();
     QStringList directories = includeDirectories(command) + own;
     directories.removeDuplicates();
     return SearchPath {directories, {}};

@@ -55,9 +55,9 @@ private slots:
             "#include <...> search starts here:\n /calyx/missing/../x\nEnd of search list.\n",
             "/calyx/missing/../x", "");
         row("nowhere", "* -v -E probe.c", true,
-            "#include \"...\" search starts here:\n#include <...> search starts here:\n"
-            "End of search list.\n",
-            "", "");
+            "#include <...> search starts here:\nEnd of search list.\n", "", "");
+        row("nowhere, of clang", "* -v -E probe.c", true,
+            "#include \"...\" search starts here:\nEnd of search list.\n", "", "");
         row("nothing of the kind", "* -v -E probe.c", false, "No input files\n", "not told", "");
     }
     void findsTheSearchPath()

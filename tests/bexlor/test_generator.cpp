@@ -152,6 +152,8 @@ private slots:
         const QStringList lines = workshop.read("sub folder/mine.p_c").split('\n');
         QTEST(lines.filter("#: attribute ").replaceInStrings("#: attribute ", "").join(' '),
               "attributes");
+        QCOMPARE(lines.filter("#: search-path ").isEmpty(),
+                 QByteArray(QTest::currentDataTag()).endsWith("-nostdinc"));
         const QString source = product == "kovpp" ? "x.cpp" : "x.c";
         workshop.write(source, "int main(void) { return 0; }\n");
         for (const char *clang : {"clang-14", "clang-19"}) {
