@@ -135,6 +135,9 @@ void LogBrowser::write(const QString &output)
 void LogBrowser::insertAtEnd(const QString &text)
 {
     keep(text);
+    // A review's layout lays all out anew with each text that comes.
+    if (qobject_cast<SpaceLayout *>(document()->documentLayout()))
+        document()->setDocumentLayout(nullptr);
     // A reader who has scrolled back keeps the place; at the end the text scrolls along.
     QScrollBar *scrollBar = verticalScrollBar();
     const bool atEnd = scrollBar->value() == scrollBar->maximum();

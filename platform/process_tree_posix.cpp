@@ -5,12 +5,12 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
-#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <set>
 #include <string>
+#include <sys/socket.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -20,22 +20,23 @@ namespace platform {
 namespace {
 
 // A process of its own that outlives this one by a moment. Programs report their process group to
-// it before they run, and are taken from its list when they have ended. Once the pipe is closed,
-// for whatever reason, it ends those that are left.
+// it before they run, and are taken from its list when they have ended. Once the connection is
+// closed, for whatever reason, it ends those that are left.
 struct Report
 {
     pid_t group;
     bool begins;
 };
 
-int reports = -1; // the end of the pipe that is written to
+int reports = -1; // the end of the connection that is written to
 pid_t guardian = -1;
 
 void report(pid_t group, bool begins)
 {
+    // Should the guardian be gone, nothing is left to do about it.
     const Report record {group, begins};
-    if (reports >= 0 && write(reports, &record, sizeof record) < 0)
-        return; // the guardian is gone, and nothing is left to do about it
+    if (reports >= 0)
+        send(reports, &record, sizeof record, MSG_NOSIGNAL);
 }
 
 const int mostPasses = 100;
@@ -98,14 +99,19 @@ bool endDetached(const std::string &folder)
 void ProgramGuard::begin(const QString &folder)
 {
     int ends[2];
-    if (pipe2(ends, O_CLOEXEC) != 0)
+    if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends) != 0)
         return;
     guardian = fork();
+    if (guardian < 0) {
+        close(ends[0]);
+        close(ends[1]);
+        return;
+    }
     if (guardian == 0) {
         // Whatever ends this program must not end the guardian with it, and nobody may wait for
         // output from the guardian.
         setsid();
-        for (const int number : {SIGINT, SIGTERM, SIGHUP, SIGPIPE})
+        for (const int number : {SIGINT, SIGTERM, SIGHUP})
             std::signal(number, SIG_IGN);
         close(ends[1]);
         for (const int stream : {0, 1, 2})

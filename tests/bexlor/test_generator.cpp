@@ -410,6 +410,12 @@ private slots:
         row("waits for input, leaves a program behind and its object somewhere",
             "cat >/dev/null; sleep 600 & tcc -nostdinc \"$@\" && mkdir -p made && "
             "{ [ ! -f probe.o ] || mv probe.o made/thing.xyz; }");
+        row("kills the guardian of what it starts",
+            counting
+                + "[ $n != 1 ] || for process in /proc/[0-9]*; do\n"
+                  "read -r id name state parent rest <$process/stat\n"
+                  "[ \"$parent\" != $PPID ] || [ $id = $$ ] || kill -KILL $id\ndone\n"
+                + good);
         row("hangs", "sleep 600", "did not end within its time");
         row("crashes", "kill -SEGV $$", "the compiler crashed");
         row("leaves nothing", "exit 0", "returned 0 and left no object file");

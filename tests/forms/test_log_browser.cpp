@@ -1,5 +1,6 @@
 #include "log_browser.h"
 #include "row.h"
+#include "space_layout.h"
 
 #include <QScrollBar>
 #include <QTextBlock>
@@ -74,6 +75,11 @@ private slots:
         const int secondLine = 4 + browser.fontMetrics().lineSpacing() * 3 / 2;
         const int position = browser.cursorForPosition({4, secondLine}).position();
         QVERIFY(position > 0 && text[position - 1] == ' ');
+
+        // What a run writes behind it may have no end.
+        browser.write("output\n");
+        QVERIFY(browser.toPlainText().startsWith(text + "\noutput"));
+        QVERIFY(!qobject_cast<SpaceLayout *>(browser.document()->documentLayout()));
     }
 
     void savesAllThatCame_data()
