@@ -30,15 +30,16 @@ void print(const QString &text)
     std::fflush(stdout);
 }
 
-/// Asks \a compiler for all facts, with \a folder for temporary files. Nothing when a step fails.
-std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const Arguments &arguments,
+/// Asks the compiler of \a runner for all facts, with \a folder for temporary files. Nothing when a
+/// step fails.
+std::optional<Facts> learn(Progress &progress, ProbeRunner &runner, const Arguments &arguments,
                            const QString &folder, const QString &logFolder)
 {
-    ProbeRunner runner(compiler, folder, arguments.reduceFileSize);
     const std::optional<ProbeAnswer> first = compileFirstProbe(progress, runner, logFolder);
     if (!first || !checkControls(progress, runner, *first))
         return {};
-    std::optional<DialectAnswers> listed = askForListings(progress, compiler, *first, folder);
+    std::optional<DialectAnswers> listed =
+        askForListings(progress, runner.compiler(), *first, folder);
     if (!listed)
         return {};
     const Questions questions = findHowToAsk(progress, runner);
@@ -49,7 +50,7 @@ std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const A
     }
     HeaderScan scan = readDirectories(progress, directories);
     if (listed->macros.isEmpty())
-        scan.names << namesOfCompiler(compiler, listed->versionLine);
+        scan.names << namesOfCompiler(runner.compiler(), listed->versionLine);
     const std::optional<MacroFacts> macros =
         findMacros(progress, questions, listed->macros, scan.names, logFolder);
     if (!macros)
@@ -72,39 +73,47 @@ std::optional<Facts> learn(Progress &progress, const Compiler &compiler, const A
     return facts;
 }
 
-/// The text of the personality that \a arguments ask for; see learn().
-std::optional<QByteArray> makePersonality(Progress &progress, const Arguments &arguments,
-                                          const QString &folder, const QString &logFolder)
+/// A personality, and the compiler as it has turned out to be called.
+struct Made
+{
+    QByteArray text;
+    Compiler compiler;
+};
+
+/// The personality that \a arguments ask for; see learn().
+std::optional<Made> makePersonality(Progress &progress, const Arguments &arguments,
+                                    const QString &folder, const QString &logFolder)
 {
     const std::optional<Arguments> usable = checkArguments(progress, arguments);
     if (!usable)
         return {};
-    const Compiler compiler = findCompiler(*usable);
-    const std::optional<Facts> facts = learn(progress, compiler, *usable, folder, logFolder);
+    ProbeRunner runner(findCompiler(*usable), folder, usable->reduceFileSize);
+    const std::optional<Facts> facts = learn(progress, runner, *usable, folder, logFolder);
     if (!facts)
         return {};
-    return textOfPersonality(progress, *usable, compiler, *facts);
+    const Compiler &compiler = runner.compiler();
+    return Made {textOfPersonality(progress, *usable, compiler, *facts), compiler};
 }
 
 ExitStatus generate(Progress &progress, const Arguments &arguments, const QString &folder)
 {
     removeLogs();
-    const std::optional<QByteArray> text = makePersonality(progress, arguments, folder, u"."_s);
-    if (!text || !writePersonality(progress, arguments.personality, *text))
+    const std::optional<Made> made = makePersonality(progress, arguments, folder, u"."_s);
+    if (!made || !writePersonality(progress, arguments.personality, made->text))
         return ExitStatus::Failed;
-    checkHeaders(progress, arguments, *text, folder);
-    return arguments.checksTypes ? checkTypes(progress, arguments, *text, folder)
-                                 : ExitStatus::Done;
+    checkHeaders(progress, made->compiler, arguments.personality, made->text, folder);
+    return arguments.checksTypes
+             ? checkTypes(progress, made->compiler, arguments.personality, made->text, folder)
+             : ExitStatus::Done;
 }
 
 /// Says what has changed since a personality was written.
 ExitStatus verify(Progress &progress, const EarlierPersonality &earlier, const QString &folder)
 {
-    const std::optional<QByteArray> text =
-        makePersonality(progress, earlier.arguments, folder, folder);
-    if (!text)
+    const std::optional<Made> made = makePersonality(progress, earlier.arguments, folder, folder);
+    if (!made)
         return ExitStatus::Failed;
-    const QStringList changes = changesBetween(earlier.text, *text);
+    const QStringList changes = changesBetween(earlier.text, made->text);
     for (const QString &change : changes)
         progress.say(change);
     if (!changes.isEmpty())

@@ -111,7 +111,7 @@ const struct CommandWord
     {"again"_L1, &parseAgain, "PERSONALITY [--verify]"_L1},
     {"entry"_L1, &parseEntry, "NAME [--catalogue FILE] -op PERSONALITY"_L1},
     {"check"_L1, &parseCheck,
-     "PERSONALITY FILE...|DATABASE.json [--preprocess FLAG] [--clang CLANG] [--json FILE]"_L1},
+     "PERSONALITY FILE|DATABASE.json... [--preprocess FLAG] [--clang CLANG] [--json FILE]"_L1},
     {"export"_L1, &parseExport,
      "PERSONALITY compile-commands DATABASE.json|clangd [DATABASE.json]|cppcheck|vscode|json "
      "[-o FILE] [--clang CLANG]"_L1},
@@ -120,11 +120,6 @@ const struct CommandWord
 };
 
 } // namespace
-
-bool CheckRequest::isDatabase() const
-{
-    return sources.size() == 1 && sources.first().endsWith(".json"_L1);
-}
 
 QString usage()
 {

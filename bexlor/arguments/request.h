@@ -23,12 +23,10 @@ struct EntryRequest
 struct CheckRequest
 {
     QString personality;
-    QStringList sources; ///< files, or one compilation database
+    QStringList sources; ///< files and, called .json, compilation databases
     QString preprocess;  ///< the option that makes the compiler preprocess
     QString clang;       ///< a program's name or path
     QString jsonFile;    ///< to write the verdicts to, or empty
-
-    bool isDatabase() const;
 };
 
 /// To write a personality in the form that another program reads.

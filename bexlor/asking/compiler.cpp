@@ -113,6 +113,12 @@ Compiler findCompiler(const Arguments &arguments)
     return compiler;
 }
 
+bool namesOutput(const Compiler &compiler)
+{
+    return compiler.namesObjects && compiler.layout.order.contains("%e"_L1)
+        && namesOutput(compiler.layout);
+}
+
 QStringList probeCommand(const Compiler &compiler, const QString &source, const QString &output,
                          CompileTo goal)
 {

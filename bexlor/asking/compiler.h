@@ -23,6 +23,9 @@ struct Compiler
 /// such program the first word stays as it was typed.
 Compiler findCompiler(const Arguments &arguments);
 
+/// Whether the command that compiles a source to an object says how that is called.
+bool namesOutput(const Compiler &compiler);
+
 /// What a compile command makes of a source file.
 enum class CompileTo { Object, Program };
 

@@ -179,7 +179,11 @@ QString missingPart(const CheckedSource &source)
 {
     if (!QFileInfo(source.directory).isDir())
         return u"the directory %1"_s.arg(source.directory);
-    return QFileInfo::exists(source.path) ? QString() : u"the file %1"_s.arg(source.path);
+    for (const QString &file : {source.path, source.compiled}) {
+        if (!QFileInfo::exists(file))
+            return u"the file %1"_s.arg(file);
+    }
+    return {};
 }
 
 Verdict checkSource(const Checking &checking, const CheckedSource &source)

@@ -2,8 +2,10 @@
 
 #include "path_options.h"
 #include "probe_options.h"
+#include "text_file.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -70,9 +72,31 @@ QString sourceWord(const QStringList &words, const CompileCommand &entry)
     return found == words.end() ? entry.file : *found;
 }
 
-QString outputName(const Compiler &compiler, const QString &folder, qsizetype number)
+QString numbered(const QString &folder, qsizetype number)
 {
-    return folder + u"/%1"_s.arg(number) + compiler.layout.objectExtension;
+    return folder + u"/%1"_s.arg(number);
+}
+
+/// A file in the new folder \a folder that includes \a path and is called like it. The one who
+/// compiles it finds out when it could not be written.
+QString includingFile(const QString &path, const QString &folder)
+{
+    const QString file = folder + u'/' + QFileInfo(path).fileName();
+    QDir().mkdir(folder);
+    platform::writeScratchFile(file, "#include \"" + path.toLocal8Bit() + "\"\n");
+    return file;
+}
+
+/// Adds what names the output of \a source to its command.
+void nameOutput(const CommandLayout &layout, CheckedSource &source)
+{
+    QStringList words {layout.outputFlag + source.output};
+    if (layout.order.contains("%o "_L1))
+        words = {layout.outputFlag, source.output};
+    // Behind this word there are files only.
+    const qsizetype files = source.command.indexOf(u"--"_s);
+    const qsizetype place = files < 0 ? source.command.size() : files;
+    source.command = source.command.first(place) + words + source.command.sliced(place);
 }
 
 } // namespace
@@ -82,31 +106,41 @@ CheckedSource sourceOfFile(const Compiler &compiler, const QString &file, const 
 {
     Compiler whole = compiler;
     whole.command << compiler.includedFirst;
-    const QString output = outputName(compiler, folder, number);
-    return {file, folder, probeCommand(whole, file, output), output, {file}, file};
+    const QString own = numbered(folder, number);
+    if (namesOutput(compiler)) {
+        const QString output = own + compiler.layout.objectExtension;
+        return {file, folder, probeCommand(whole, file, output), output, {file}, file, file};
+    }
+    const QString compiled = includingFile(file, own);
+    return {file, own, probeCommand(whole, compiled, {}), {}, {file}, file, compiled};
 }
 
 CheckedSource sourceOfEntry(const CompileCommand &entry, const Compiler &compiler,
                             const QString &folder, qsizetype number)
 {
-    CheckedSource source {entry.file, entry.directory, {}, {}, {}, entry.absoluteFile()};
+    const QString path = entry.absoluteFile();
+    CheckedSource source {entry.file, entry.directory, {}, {}, {}, path, path};
     QStringList words = withoutOtherPurposes(withoutResponseFiles(entry.words, entry.directory));
+    if (words.isEmpty())
+        words = entry.words; // a response file in which there is nothing
     if (QDir::fromNativeSeparators(words.first()).contains(u'/'))
         words.first() = QDir(entry.directory).absoluteFilePath(words.first());
     const CommandLayout &layout = compiler.layout;
-    if (layout.outputFlag.isEmpty()) {
-        source.directory = folder;
+    const QString own = numbered(folder, number);
+    QString file = sourceWord(words, entry);
+    const bool isNamed = compiler.namesObjects && !layout.outputFlag.isEmpty();
+    if (!isNamed) {
+        source.directory = own;
+        source.compiled = includingFile(path, own);
         words = withAbsolutePaths(words, layout, entry.directory);
-        std::replace(words.begin(), words.end(), sourceWord(words, entry), entry.absoluteFile());
+        std::replace(words.begin(), words.end(), sourceWord(words, entry), source.compiled);
+        file = path;
     }
     takeApart(words, layout.outputFlag, source);
-    source.clangOptions << sourceWord(words, entry);
-    if (layout.outputFlag.isEmpty())
-        return source;
-    source.output = outputName(compiler, folder, number);
-    if (layout.order.contains("%o "_L1))
-        source.command << layout.outputFlag << source.output;
-    else
-        source.command << layout.outputFlag + source.output;
+    source.clangOptions << file;
+    if (isNamed) {
+        source.output = own + layout.objectExtension;
+        nameOutput(layout, source);
+    }
     return source;
 }

@@ -27,23 +27,30 @@ struct Sources
     int passedOver = 0;
 };
 
-std::variant<Sources, QString> sourcesOf(const CheckRequest &request, const Compiler &compiler,
-                                         const QString &folder)
+void addEntries(const QList<CompileCommand> &entries, const Compiler &compiler,
+                const QString &folder, Sources &sources)
 {
-    Sources sources;
-    if (!request.isDatabase()) {
-        for (const QString &file : request.sources)
-            sources.list << sourceOfFile(compiler, file, folder, sources.list.size());
-        return sources;
-    }
-    const auto read = readDatabase(request.sources.first());
-    if (const auto *problem = std::get_if<QString>(&read))
-        return *problem;
-    for (const CompileCommand &entry : std::get<QList<CompileCommand>>(read)) {
+    for (const CompileCommand &entry : entries) {
         if (isInLanguage(entry.file, compiler.isCpp))
             sources.list << sourceOfEntry(entry, compiler, folder, sources.list.size());
         else
             ++sources.passedOver;
+    }
+}
+
+std::variant<Sources, QString> sourcesOf(const CheckRequest &request, const Compiler &compiler,
+                                         const QString &folder)
+{
+    Sources sources;
+    for (const QString &file : request.sources) {
+        if (!file.endsWith(".json"_L1)) {
+            sources.list << sourceOfFile(compiler, file, folder, sources.list.size());
+            continue;
+        }
+        const auto read = readDatabase(file);
+        if (const auto *problem = std::get_if<QString>(&read))
+            return *problem;
+        addEntries(std::get<QList<CompileCommand>>(read), compiler, folder, sources);
     }
     return sources;
 }
@@ -153,26 +160,25 @@ ExitStatus checkWithPersonality(Progress &progress, const CheckRequest &request,
     return exitStatus(verdicts);
 }
 
-void checkHeaders(Progress &progress, const Arguments &arguments, const QByteArray &text,
-                  const QString &folder)
+void checkHeaders(Progress &progress, const Compiler &compiler, const QString &personality,
+                  const QByteArray &text, const QString &folder)
 {
     const std::optional<Clang> clang = findClang(u"clang"_s);
     if (!clang)
         return;
     const Personality content = parsePersonality(text);
-    const Compiler compiler = findCompiler(arguments);
-    const QStringList headers = headersToTry(content, arguments.isCpp);
+    const QStringList headers = headersToTry(content, compiler.isCpp);
     QList<CheckedSource> sources;
     for (const QString &name : headers.mid(0, headersAtMost)) {
         const QString file =
-            folder + u"/header_%1_"_s.arg(sources.size()) + probeName(arguments.isCpp);
+            folder + u"/header_%1_"_s.arg(sources.size()) + probeName(compiler.isCpp);
         if (platform::writeScratchFile(file, "#include <" + QFile::encodeName(name) + ">\n"))
             sources << sourceOfFile(compiler, file, folder, sources.size());
     }
     if (sources.isEmpty())
         return;
     const Checking checking {*clang,
-                             QDir::current().absoluteFilePath(arguments.personality),
+                             QDir::current().absoluteFilePath(personality),
                              content,
                              compiler.layout,
                              {},
@@ -200,28 +206,25 @@ void checkHeaders(Progress &progress, const Arguments &arguments, const QByteArr
         progress.say(u"The first that it rejects: %1"_s.arg(rejected->rejection.message));
 }
 
-ExitStatus checkTypes(Progress &progress, const Arguments &arguments, const QByteArray &text,
-                      const QString &folder)
+ExitStatus checkTypes(Progress &progress, const Compiler &compiler, const QString &personality,
+                      const QByteArray &text, const QString &folder)
 {
-    const QFileInfo personality(QDir::current().absoluteFilePath(arguments.personality));
-    const QString file = personality.path() + u'/' + personality.completeBaseName()
-                       + (arguments.isCpp ? ".check.cpp"_L1 : ".check.c"_L1);
-    // What is compiled is a copy: some compilers write beside the source.
-    const QString copy = folder + "/types_"_L1 + probeName(arguments.isCpp);
+    const QFileInfo written(QDir::current().absoluteFilePath(personality));
+    const QString file = written.path() + u'/' + written.completeBaseName()
+                       + (compiler.isCpp ? ".check.cpp"_L1 : ".check.c"_L1);
     const Personality content = parsePersonality(text);
-    const QByteArray source = typeAssertions(content.facts, arguments.isCpp);
-    if (!platform::writeFile(file, source) || !platform::writeScratchFile(copy, source)) {
+    const QByteArray source = typeAssertions(content.facts, compiler.isCpp);
+    if (!platform::writeFile(file, source)) {
         progress.say(u"The assertions cannot be written: %1"_s.arg(file));
         return ExitStatus::Failed;
     }
     const std::optional<Clang> clang = findClang(progress, u"clang"_s);
     if (!clang)
         return ExitStatus::Missing;
-    const Compiler compiler = findCompiler(arguments);
-    const Checking checking {*clang, personality.filePath(), content, compiler.layout, {}, {}};
+    const Checking checking {*clang, written.filePath(), content, compiler.layout, {}, {}};
     ExitStatus status = ExitStatus::Done;
-    checkSources(checking, {sourceOfFile(compiler, copy, folder, 0)}, [&](const Verdict &verdict) {
-        progress.say(typeSentence(verdict, file, *clang).replace(copy, file));
+    checkSources(checking, {sourceOfFile(compiler, file, folder, 0)}, [&](const Verdict &verdict) {
+        progress.say(typeSentence(verdict, file, *clang));
         status = verdict.result == Verdict::NotCompared ? ExitStatus::Done : ExitStatus::Failed;
     });
     return status;

@@ -2,6 +2,7 @@
 
 #include "clang_program.h"
 #include "compile_database.h"
+#include "compiler.h"
 #include "exit_status.h"
 #include "personality.h"
 #include "progress.h"
@@ -18,16 +19,16 @@ ExitStatus checkWithPersonality(Progress &progress, const CheckRequest &request,
                                 const Arguments &arguments, const Personality &content,
                                 const QString &folder);
 
-/// Says in one line how many headers of the search path clang accepts with the personality that has
-/// just been written, \a text, and how many were tried: a sample, for two seconds at most. Says
-/// nothing where no clang is found.
-void checkHeaders(Progress &progress, const Arguments &arguments, const QByteArray &text,
-                  const QString &folder);
+/// Says in one line how many headers of \a compiler's search path clang accepts with the
+/// personality that has just been written to \a personality, \a text, and how many were tried: a
+/// sample, for two seconds at most. Says nothing where no clang is found.
+void checkHeaders(Progress &progress, const Compiler &compiler, const QString &personality,
+                  const QByteArray &text, const QString &folder);
 
-/// Writes the types of the personality that has just been written, \a text, as assertions beside
-/// it, and says in one line whether the compiler and clang accept them.
-ExitStatus checkTypes(Progress &progress, const Arguments &arguments, const QByteArray &text,
-                      const QString &folder);
+/// Writes the types of \a compiler's personality, see above, as assertions beside it, and says in
+/// one line whether the compiler and clang accept them.
+ExitStatus checkTypes(Progress &progress, const Compiler &compiler, const QString &personality,
+                      const QByteArray &text, const QString &folder);
 
 /// Writes the personality that holds \a content as \a request asks; the rest as above.
 ExitStatus exportPersonality(Progress &progress, const ExportRequest &request,

@@ -90,7 +90,7 @@ private slots:
             "'-O2', '-include', 'f.h', '-DA=1', '-D', 'B', '-MD', '-MF', 'a.d', '-o', 'a.o', '-c', "
             "'a.c']},\n"
             "{'directory': 'q', 'file': 'b.c', 'command': "
-            "'\\'c c\\' -DX=\\\\\\'y\\\\\\' \\'-DP=a b\\' -ob.o b.c'}]";
+            "'\\'c c\\' -DX=\\\\\\'y\\\\\\' \\'-DP=a b\\' -ob.o -- b.c'}]";
         const QString top = QDir::rootPath() + 'p';
         json.replace('\'', '"').replace("/p", top.toUtf8());
         const auto commands = parseDatabase(json, top);
@@ -103,7 +103,7 @@ private slots:
         QCOMPARE(first.clangOptions.join(' '), "-Iinc -isystem s -include f.h -DA=1 -D B a.c");
         QCOMPARE(first.directory + second.directory, top + top + "/q");
         QCOMPARE(second.command,
-                 QStringList({"c c", "-DX=\"y\"", "-DP=a b", "b.c", "-o", "/tmp/5.o"}));
+                 QStringList({"c c", "-DX=\"y\"", "-DP=a b", "-o", "/tmp/5.o", "--", "b.c"}));
         QVERIFY(!parseDatabase("{}", "/p"));
         QVERIFY(!parseDatabase("[{}]", "/p"));
     }
@@ -115,10 +115,12 @@ private slots:
         writeTestFile(path + "/inc/x.h", "");
         writeTestFile(path + "/a.c", "");
         const CompileCommand entry {path, "a.c", {"cc", "-Iinc", "a.c"}};
-        const CheckedSource source = sourceOfEntry(entry, Compiler(), "/tmp", 0);
-        QCOMPARE(source.directory, "/tmp");
-        QCOMPARE(source.command, QStringList({"cc", "-I" + path + "/inc", path + "/a.c"}));
-        QCOMPARE(source.clangOptions, source.command.sliced(1));
+        QVERIFY(QDir(path).mkdir("run"));
+        const CheckedSource source = sourceOfEntry(entry, Compiler(), path + "/run", 3);
+        QCOMPARE(source.directory, path + "/run/3");
+        QCOMPARE(source.command, QStringList({"cc", "-I" + path + "/inc", path + "/run/3/a.c"}));
+        QCOMPARE(readTestFile(source.compiled), "#include \"" + path.toLocal8Bit() + "/a.c\"\n");
+        QCOMPARE(source.clangOptions, QStringList({"-I" + path + "/inc", path + "/a.c"}));
     }
 };
 

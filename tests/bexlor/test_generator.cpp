@@ -3,6 +3,10 @@
 #include "files.h"
 #include "row.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
 using platform::ProgramRun;
 
 // Whole runs of the generator. One takes half the time where it finds no clang that could try a
@@ -353,6 +357,52 @@ private slots:
         QCOMPARE(workshop.run({"env", "PATH=", GENERATOR, "check", workshop.personality, "same.c"})
                      .exitCode,
                  3);
+    }
+
+    void writesNothingBesideSources_data()
+    {
+        // script: of a compiler that cannot be told what to call an object
+        const Columns<QByteArray, QString, QString> row("script", "outputFlag", "order");
+        row("writes beside the source",
+            "case \"$*\" in *-E*) exec tcc -nostdinc \"$@\" ;; esac\n"
+            "for source; do :; done\nexec tcc -nostdinc \"$@\" -o \"${source%.c}.o\"",
+            "", "%c %d%j %s ");
+        row("takes names for programs only",
+            "case \"$*\" in *-c*) case \"$*\" in *-o*) exit 1 ;; esac ;; esac\n"
+            "exec tcc -nostdinc \"$@\"",
+            "-o", "%c %o %e %d%j %s ");
+    }
+    void writesNothingBesideSources()
+    {
+        QFETCH(QByteArray, script);
+        QFETCH(QString, outputFlag);
+        QFETCH(QString, order);
+        const Workshop workshop;
+        const QString compiler = workshop.compiler(script);
+        const ProgramRun made =
+            workshop.run({GENERATOR, "kov", "cmp", '"' + compiler + '"', outputFlag, "-c", "-D",
+                          ".o", order, "-op", "mine.p_c", "-check"});
+        QVERIFY2(made.succeeded() && made.output.contains("The compiler and clang "), made.output);
+        for (const QString &name : {"x", "a/x", "b/x"}) {
+            workshop.write(name + ".c", "#include \"x.h\"\nint a = X;\n");
+            workshop.write(name + ".h", "#define X " + QByteArray::number(name.size()) + '\n');
+            workshop.write(name + ".o", "mine");
+        }
+        const QJsonArray words {compiler, "-c", "x.c"};
+        QJsonArray entries {QJsonObject {
+            {"directory", "."}, {"file", "empty.c"}, {"arguments", QJsonArray {"@empty.rsp"}}}};
+        for (const char *folder : {"a", "b"})
+            entries << QJsonObject {{"directory", folder}, {"file", "x.c"}, {"arguments", words}};
+        workshop.write("all.json", QJsonDocument(entries).toJson());
+        workshop.write("empty.c", "");
+        workshop.write("empty.rsp", "");
+        const ProgramRun checked =
+            workshop.run({GENERATOR, "check", "mine.p_c", "x.c", "all.json"});
+        QVERIFY2(checked.output.count("x.c: same\n") == 3, checked.output);
+        QVERIFY2(checked.output.contains("empty.c: cannot be started: "), checked.output);
+        for (const char *name : {"x.o", "a/x.o", "b/x.o"})
+            QCOMPARE(workshop.read(name), "mine");
+        QVERIFY(!QFile::exists(workshop.folder.filePath("mine.check.o")));
     }
 
     void assertsTheTypes_data()
