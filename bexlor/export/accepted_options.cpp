@@ -13,38 +13,40 @@ AcceptedOptions::AcceptedOptions(const Clang &clang, const QString &personality,
     : m_clang(clang), m_personality(personality), m_source(source)
 { }
 
-bool AcceptedOptions::takes(const QStringList &option, const QString &directory) const
+bool AcceptedOptions::isTaken(const QStringList &option, const QString &directory)
 {
+    // What these name does not matter, and there may be thousands of them.
+    const QString flag = option.first().left(2);
+    if ((flag == "-I"_L1 || flag == "-D"_L1) && option.join(QString()) != flag)
+        return true;
+    const auto known = m_known.constFind(option);
+    if (known != m_known.constEnd())
+        return *known;
     // An option that is only warned of would be told of in every file.
     const QStringList arguments =
         QStringList {u"-fsyntax-only"_s, u"-Werror"_s} + option + QStringList {m_source};
-    return runClang(m_clang, m_personality, arguments, directory, patience).succeeded();
+    return m_known[option] =
+               runClang(m_clang, m_personality, arguments, directory, patience).succeeded();
 }
 
 QList<QStringList> AcceptedOptions::of(const QList<QStringList> &options, const QString &directory)
 {
     QList<QStringList> taken;
     for (const QStringList &option : options) {
-        // What these name does not matter, and there may be thousands of them.
-        const bool isCommon =
-            option.first().startsWith("-I"_L1) || option.first().startsWith("-D"_L1);
-        const QStringList key = isCommon ? QStringList {option.first().first(2)} : option;
-        if (!m_known.contains(key))
-            m_known[key] = isCommon || takes(option, directory);
-        if (m_known[key])
-            taken << option;
+        const QStringList alone = option.first(1), withValue = option.mid(0, 2);
+        if (isTaken(alone, directory))
+            taken << alone;
+        else if (withValue.size() == 2 && isTaken(withValue, directory))
+            taken << withValue;
+        else
+            m_refused << alone.first();
     }
     return taken;
 }
 
 QStringList AcceptedOptions::refused() const
 {
-    QStringList options;
-    for (const auto &[option, isTaken] : m_known.asKeyValueRange()) {
-        if (!isTaken)
-            options << option.first();
-    }
+    QStringList options = m_refused.values();
     options.sort();
-    options.removeDuplicates();
     return options;
 }

@@ -1,5 +1,6 @@
 #include "clang_forms.h"
 
+#include "path_options.h"
 #include "probe_options.h"
 
 #include <QJsonArray>
@@ -20,15 +21,17 @@ QByteArray yamlList(const QStringList &texts)
 QList<QStringList> optionsOf(const CompileCommand &command)
 {
     QList<QStringList> options;
-    for (const QString &word : withoutOtherPurposes(command.words).sliced(1)) {
+    const QStringList words =
+        withoutOtherPurposes(withoutResponseFiles(command.words, command.directory));
+    for (const QString &word : words.mid(1)) {
         const bool isSource =
             CompileCommand {command.directory, word, {}}.absoluteFile() == command.absoluteFile();
-        if (isSource)
+        if (word == "--"_L1 || isSource)
             continue;
-        // A word that is no option is the value of the one before it.
-        if (word.startsWith(u'-') || options.isEmpty())
+        // What stands before all options belongs to one who starts the compiler.
+        if (word.startsWith(u'-'))
             options.append({word});
-        else
+        else if (!options.isEmpty())
             options.last() << word;
     }
     return options;

@@ -96,8 +96,8 @@ QByteArray typeAssertions(const Facts &facts, bool isCpp)
                 + sizeAssertion("bit_field", "struct calyx_bit_field", types.bitFieldSize);
     }
     source += byteOrderAssertion(facts);
-    QByteArray named = sameType("size_t", types.sizeType)
-                     + sameType("ptrdiff_t", types.pointerDifferenceType);
+    QByteArray named =
+        sameType("size_t", types.sizeType) + sameType("ptrdiff_t", types.pointerDifferenceType);
     QByteArray &withWideCharacters = isCpp ? source : named;
     withWideCharacters += wideCharacterAssertions(types.wideCharacterType, isCpp);
     // That there is this header shows where they have been found.

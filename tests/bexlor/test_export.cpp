@@ -36,11 +36,13 @@ private slots:
                       "#include <a.h>\n#include <stdint.h>\n"
                       "uint32_t f(void) { return A[0] + sizeof(long double); }\n");
         writeTestFile(m_folder.filePath("inc/a.h"), "#define B 1\n");
+        writeTestFile(m_folder.filePath("more.rsp"), "-DA=\\\"x\\\" -std=gnu11 -O2\n");
+        writeTestFile(m_folder.filePath("b.o"), "");
         writeTestFile(m_folder.filePath("all.json"),
                       "[{\"directory\":\"" + m_folder.path().toLocal8Bit()
-                          + "\",\"file\":\"a.c\",\"command\":\"arm-none-eabi-gcc -mthumb "
-                            "-fno-tree-slsr -Wlogical-op -MD -I inc -DA=\\\\\\\"x\\\\ y\\\\\\\" -c "
-                            "a.c -o a.o\"},{\"file\":\"b.cpp\",\"command\":\"g++ b.cpp\"}]");
+                          + "\",\"file\":\"a.c\",\"command\":\"env arm-none-eabi-gcc -mthumb "
+                            "-fno-tree-slsr -Wlogical-op @more.rsp b.o -MD -I inc -c a.c -o "
+                            "a.o\"},{\"file\":\"b.cpp\",\"command\":\"g++ b.cpp\"}]");
         const ProgramRun made = run({GENERATOR, "kov", "ccmp", "arm-none-eabi-gcc", "-o", "-c",
                                      "-D", ".o", "%c %o %e %d%j %s ", "-op", "arm.p_c"});
         QVERIFY2(made.succeeded(), made.output);
@@ -52,7 +54,9 @@ private slots:
         const QJsonArray entries = QJsonDocument::fromJson(read("for_clang.json")).array();
         QCOMPARE(entries.size(), 1); // the other language's is left out
         const QStringList words = entries[0]["arguments"].toVariant().toStringList();
-        QVERIFY(words.contains("-mthumb") && words.contains("-DA=\"x y\""));
+        for (const char *word : {"-mthumb", "-DA=\"x\"", "-std=gnu11", "-O2", "inc"})
+            QVERIFY2(words.contains(word), qPrintable(words.join(' ')));
+        QVERIFY(!words.contains("b.o") && !words.contains("arm-none-eabi-gcc"));
         QVERIFY(!words.contains("-fno-tree-slsr") && !words.contains("-Wlogical-op"));
         const ProgramRun clang = run(words + QStringList {"-Werror", "-fsyntax-only"});
         QVERIFY2(clang.succeeded() && clang.errors.isEmpty(), clang.errors);
