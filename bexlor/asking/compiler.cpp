@@ -6,8 +6,6 @@
 #include "quoting.h"
 #include "typed_command.h"
 
-#include <QRegularExpression>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -128,22 +126,4 @@ QStringList probeCommand(const Compiler &compiler, const QString &source, const 
     for (const OrderToken &token : parseOrderString(compiler.layout.order))
         pieces << piecesFor(token, compiler, probe);
     return wordsOf(pieces);
-}
-
-QString commandLine(const QStringList &command)
-{
-    // All that a command is split at.
-    static const QRegularExpression special(u"[\\s&|<>^()\"']"_s,
-                                            QRegularExpression::UseUnicodePropertiesOption);
-    static const QRegularExpression beforeQuote(u"(\\\\*)\""_s);
-    static const QRegularExpression atEnd(u"(\\\\+)\\z"_s);
-    QStringList words = command;
-    for (QString &word : words) {
-        if (!word.isEmpty() && !word.contains(special))
-            continue;
-        word.replace(beforeQuote, u"\\1\\1\\\""_s);
-        word.replace(atEnd, u"\\1\\1"_s);
-        word = u'"' + word + u'"';
-    }
-    return words.join(u' ');
 }

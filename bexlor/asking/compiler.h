@@ -36,8 +36,3 @@ enum class CompileTo { Object, Program };
 /// the compiler does not take one.
 QStringList probeCommand(const Compiler &compiler, const QString &source, const QString &output,
                          CompileTo goal = CompileTo::Object);
-
-/// \a command as one line that a command interpreter takes, and splitCommand() as well: words with
-/// spaces or with characters that these would find something in, in double quotes, and quotes and
-/// the backslashes before them behind backslashes.
-QString commandLine(const QStringList &command);

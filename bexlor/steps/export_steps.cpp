@@ -1,5 +1,6 @@
 #include "check_steps.h"
 #include "clang_forms.h"
+#include "command_line.h"
 #include "compiler.h"
 #include "fact_forms.h"
 #include "steps.h"
@@ -91,9 +92,10 @@ ExitStatus writeForCppcheck(Progress &progress, const QString &file, const Facts
                         && write(progress, header, macroHeader(facts)) == ExitStatus::Done;
     if (!isWritten)
         return ExitStatus::Failed;
-    progress.say("  "_L1
-                 + commandLine({u"cppcheck"_s, "--platform="_L1 + file, "--include="_L1 + header})
-                 + " FILE"_L1);
+    progress.say(
+        "  "_L1
+        + platform::commandLine({u"cppcheck"_s, "--platform="_L1 + file, "--include="_L1 + header})
+        + " FILE"_L1);
     return ExitStatus::Done;
 }
 

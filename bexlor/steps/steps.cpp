@@ -2,6 +2,7 @@
 
 #include "beside_compiler.h"
 #include "clang.h"
+#include "command_line.h"
 #include "generator_interface.h"
 #include "personality.h"
 #include "probe_options.h"
@@ -48,7 +49,7 @@ void leaveLogs(const QString &folder, const QStringList &command, const platform
 {
     const QDir logs(folder);
     platform::writeTextFile(logs.filePath(generator::attemptedCommand),
-                            commandLine(command) + u'\n');
+                            platform::commandLine(command) + u'\n');
     platform::writeFile(logs.filePath(generator::standardOutput), run.output);
     platform::writeFile(logs.filePath(generator::standardError), run.errors);
 }
@@ -420,8 +421,8 @@ bool writePersonality(Progress &progress, const QString &path, const QByteArray 
     }
     progress.say((isThere ? u"Replaced %1"_s : u"Wrote %1"_s).arg(path));
     const QStringList option {u"--config"_s, QDir::current().absoluteFilePath(path)};
-    progress.say("  "_L1 + commandLine(QStringList {u"clang"_s} + option)
+    progress.say("  "_L1 + platform::commandLine(QStringList {u"clang"_s} + option)
                  + " -fsyntax-only FILE"_L1);
-    progress.say("  clang-tidy FILE -- "_L1 + commandLine(option));
+    progress.say("  clang-tidy FILE -- "_L1 + platform::commandLine(option));
     return true;
 }

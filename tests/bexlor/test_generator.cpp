@@ -207,8 +207,8 @@ private slots:
                        "Compiling the first probe again ...\nThe compiler was started N times.\n"
                        "Clang has no option like the compiler's -fcond-mismatch.\n"
                        "Wrote sub folder/mine.p_c\n"
-                       "  clang --config \"$/sub folder/mine.p_c\" -fsyntax-only FILE\n"
-                       "  clang-tidy FILE -- --config \"$/sub folder/mine.p_c\"\n"
+                       "  clang --config '$/sub folder/mine.p_c' -fsyntax-only FILE\n"
+                       "  clang-tidy FILE -- --config '$/sub folder/mine.p_c'\n"
                        "Trying the headers of the search path ...\n"
                        "clang N accepts N of the N headers that the compiler accepts. "
                        "A sample: N of the N found were tried.\n");
@@ -590,7 +590,7 @@ private slots:
         QCOMPARE(attempted.contains(command), isStarted);
         QCOMPARE(QFile::exists(workshop.folder.filePath("compile.bat")), isStarted);
         if (says.contains("returned")) {
-            QVERIFY(attempted.contains("-oprobe.o \"-DA=\\\"x\\\\\\\"\\\"\" -c probe.c"));
+            QVERIFY(attempted.contains("-oprobe.o '-DA=\"x\\\"\"' -c probe.c"));
             QVERIFY(workshop.read("stderr.log").contains("no-such-option"));
         }
     }

@@ -13,9 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const char *data, std::size_t size)
     commandWord(text);
     commandWords(text, [](const QString &word) { return word.size() % 2 == 0; });
 
-    if (splitCommand(commandLine(splitCommand(text))) != splitCommand(text))
-        __builtin_trap();
-
+    splitCommand(text);
     const QStringList items = splitCommaList(toCommaList(text));
     for (const QString &item : items) {
         if (item.isEmpty() || item != item.trimmed())

@@ -1,3 +1,4 @@
+#include "command_line.h"
 #include "files.h"
 #include "process_tree.h"
 #include "program_run.h"
@@ -20,14 +21,17 @@ private slots:
 
     void passesArgumentsOnAsTheyAre_data()
     {
-        const Columns<QString> row("program");
-        row("program", "odd folder & co/program.exe");
+        const Columns<QString, bool> row("program", "throughShell");
+        row("program", "odd folder & co/program.exe", false);
         if (isWindows)
-            row("batch file", "odd folder & co/compiler.bat");
+            row("batch file", "odd folder & co/compiler.bat", false);
+        else
+            row("in one line", "odd folder & co/program.exe", true);
     }
     void passesArgumentsOnAsTheyAre()
     {
         QFETCH(QString, program);
+        QFETCH(bool, throughShell);
         const QTemporaryDir folder;
         QVERIFY(QDir(folder.path()).mkdir("odd folder & co"));
         QVERIFY(QFile::copy(standIn, folder.filePath("odd folder & co/program.exe")));
@@ -35,12 +39,25 @@ private slots:
                       "@\"%~dp0program.exe\" %*\r\n");
         const QStringList plain {
             "", "-c", "a b", "ends in backslashes\\\\", "&echo.>injected", "|<>^!()", "größe µ"};
-        const QStringList special {
-            "\"cc -m32\"", "quoted \\\"",       "-DTEXT=\"a \\\"b\\\"\"",  "100%",
-            "%PATH%",      "\"&echo.>injected", "\" & echo.>injected & \""};
+        const QStringList special {"\"cc -m32\"",
+                                   "quoted \\\"",
+                                   "-DTEXT=\"a \\\"b\\\"\"",
+                                   "100%",
+                                   "%PATH%",
+                                   "\"&echo.>injected",
+                                   "\" & echo.>injected & \"",
+                                   "$(echo >injected)",
+                                   "a;echo >injected",
+                                   "it's `echo >injected`",
+                                   "~",
+                                   "*",
+                                   "#",
+                                   "!!"};
         for (const QStringList &arguments : {plain, special}) {
-            const platform::ProgramRun run = platform::runProgram(
-                QStringList(folder.filePath(program)) + arguments, folder.path(), patience);
+            QStringList command = QStringList(folder.filePath(program)) + arguments;
+            if (throughShell)
+                command = {"sh", "-c", platform::commandLine(command)};
+            const platform::ProgramRun run = platform::runProgram(command, folder.path(), patience);
             QVERIFY2(run.succeeded(), run.errors);
             const QByteArray record = readTestFile(folder.filePath("arguments.txt"));
             const QStringList arrived = QString::fromUtf8(record).remove('\r').split('\n');
