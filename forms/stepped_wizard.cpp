@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QProxyStyle>
 #include <QPushButton>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 

@@ -1,5 +1,7 @@
 #include "order_tokens.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QSet>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 

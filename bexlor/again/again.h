@@ -3,7 +3,7 @@
 #include "arguments.h"
 #include "personality.h"
 
-#include <optional>
+#include <variant>
 
 /// A personality that is generated once more.
 struct EarlierPersonality

@@ -3,6 +3,8 @@
 #include "argument_reader.h"
 #include "generator_interface.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {

@@ -1,6 +1,7 @@
 #include "probe_options.h"
 
 #include <QRegularExpression>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 

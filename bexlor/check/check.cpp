@@ -4,9 +4,9 @@
 #include "probe_runner.h"
 #include "text_file.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QThreadPool>
+#include <algorithm>
 #include <future>
 #include <vector>
 
@@ -76,7 +76,8 @@ platform::ProgramRun preprocess(const Checking &checking, const CheckedSource &s
                                 const QStringList &definitions)
 {
     platform::ProgramRun run = platform::runProgram(
-        withOptions(source.command, checking.preprocess + definitions, checking.layout.objectFlag),
+        withOptions(source.command, QStringList {checking.preprocess} + definitions,
+                    checking.layout.objectFlag),
         source.directory, timeLeft(checking), largestSource);
     if (run.output.isEmpty())
         run.output = platform::readFile(source.output, largestSource).bytes;

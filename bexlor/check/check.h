@@ -32,10 +32,10 @@ struct Verdict
 struct Checking
 {
     Clang clang;
-    QString personality;    ///< its whole path
-    Personality content;    ///< what it holds
-    CommandLayout layout;   ///< of the compiler's command
-    QStringList preprocess; ///< what makes the compiler preprocess; empty: nothing is compared
+    QString personality;  ///< its whole path
+    Personality content;  ///< what it holds
+    CommandLayout layout; ///< of the compiler's command
+    QString preprocess;   ///< what makes the compiler preprocess; empty: nothing is compared
     bool checksSyntaxOnly = false; ///< the compiler takes the GNU compilers' option for that
     /// After that no source is begun, and what is under way is ended.
     QDeadlineTimer deadline = QDeadlineTimer(QDeadlineTimer::Forever);

@@ -1,6 +1,7 @@
 #include "rejection.h"
 
 #include <QRegularExpression>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 

@@ -19,8 +19,8 @@ std::optional<Clang> findClang(const QString &word)
     if (clang.program.isEmpty())
         return {};
     clang.program = QFileInfo(clang.program).absoluteFilePath();
-    const platform::ProgramRun run = platform::runProgram(
-        {clang.program, u"--version"_s, u"-print-resource-dir"_s}, QDir::tempPath(), patience);
+    const platform::ProgramRun run =
+        platform::runProgram({clang.program, u"--version"_s}, QDir::tempPath(), patience);
     static const QRegularExpression version(u"clang version (\\d+)"_s);
     const QRegularExpressionMatch found = version.match(QString::fromLocal8Bit(run.output));
     if (!run.succeeded() || !found.hasMatch())

@@ -6,6 +6,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QXmlStreamWriter>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 

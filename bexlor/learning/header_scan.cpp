@@ -3,7 +3,6 @@
 #include "directory_walk.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <algorithm>
 #include <cstring>
 #include <fstream>

@@ -1,6 +1,5 @@
 #include "macro_definitions.h"
 
-#include <QStringList>
 #include <cctype>
 
 namespace {

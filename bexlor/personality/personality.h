@@ -5,7 +5,7 @@
 
 #include <QJsonObject>
 
-/// An option of clang: one word, or two if a path stands behind it.
+/// An option of clang: a word, and those behind it that belong to it, such as a path.
 using Option = QList<QByteArray>;
 
 /// What a personality holds: the facts about a compiler, and the options by which clang sees the
@@ -42,8 +42,9 @@ Personality composePersonality(const Arguments &arguments, const Facts &facts,
                                const CommandParts &parts, const QByteArray &templateText);
 
 /// The text of a personality: a file of compiler options that clang reads under --config, one
-/// option a line. What no option can say stands in lines that begin with "#:", one fact each; the
-/// README describes them. In UTF-8, as clang reads it, but for what the compiler has told in bytes.
+/// option a line. What no option can say stands in lines that begin with "#:", one fact each, which
+/// docs/architecture.md lists. In UTF-8, as clang reads it, but for what the compiler has told in
+/// bytes.
 QByteArray personalityText(const Personality &personality);
 
 /// Reads back what personalityText() has written. Lines that it does not write are passed over.

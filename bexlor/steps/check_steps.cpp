@@ -142,8 +142,8 @@ ExitStatus checkWithPersonality(Progress &progress, const CheckRequest &request,
     if (sources.passedOver > 0)
         progress.say(u"Passed over, being in another language: %1."_s.arg(sources.passedOver));
     const Checking checking {
-        *clang,          request.personality,  content,
-        compiler.layout, {request.preprocess}, canCheckSyntaxOnly(compiler, folder)};
+        *clang,          request.personality, content,
+        compiler.layout, request.preprocess,  canCheckSyntaxOnly(compiler, folder)};
     QList<Verdict> verdicts;
     checkSources(checking, sources.list, [&](const Verdict &verdict) {
         verdicts << verdict;

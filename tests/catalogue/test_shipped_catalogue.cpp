@@ -1,3 +1,4 @@
+#include "catalogue_answers.h"
 #include "compiler_catalogue.h"
 #include "files.h"
 #include "generator_arguments.h"
@@ -62,6 +63,22 @@ private slots:
         const QString attempted =
             QString::fromLocal8Bit(readTestFile(folder.filePath("compile.bat"))).trimmed();
         QTEST(attempted.section(QRegularExpression("\\.exe\"? "), 1), "command");
+    }
+
+    // The generator makes the arguments of an entry itself when no wizard does.
+    void isGeneratedAsByTheWizard()
+    {
+        for (const CompilerRecord &record : m_shipped.compilers) {
+            Answers answers;
+            applyRecord(record, answers);
+            answers.productCode =
+                record.Name.endsWith("++") ? generator::productCpp : generator::productC;
+            answers.destination = "folder";
+            answers.name = "mine";
+            const QStringList ofWizard = generatorArguments(answers).sliced(1);
+            const QString personality = ofWizard[ofWizard.indexOf(generator::personality) + 1];
+            QCOMPARE(argumentsFor(record, personality), ofWizard);
+        }
     }
 
     void isWellFormed()

@@ -48,7 +48,7 @@ QStringList cutOff(const QList<Widget *> &widgets)
 QList<QWidget *> named(const QWidget *form)
 {
     QList<QWidget *> widgets = form->findChildren<QWidget *>(QRegularExpression("^[A-Za-z]"));
-    widgets.removeIf([](const QWidget *widget) { return widget->objectName().startsWith("qt_"); });
+    widgets.removeIf([](const QWidget *widget) { return widget->objectName().contains("qt_"); });
     return widgets;
 }
 
@@ -156,6 +156,11 @@ private slots:
             QVERIFY2(isComplete(widget) && !widget->size().isEmpty()
                          && widget->dynamicPropertyNames().isEmpty(),
                      qPrintable(widget->objectName()));
+        }
+        for (const QPushButton *button : forms.all<QPushButton>()) {
+            const bool isOfTheToolkit = button->objectName().contains("qt_");
+            QVERIFY2(isOfTheToolkit || button->shortcut().isEmpty(),
+                     qPrintable(button->objectName()));
         }
         QStringList titles {""};
         for (const QGroupBox *box : forms.all<QGroupBox>())

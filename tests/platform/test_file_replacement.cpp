@@ -48,6 +48,7 @@ private slots:
         row("only the file", 0555, 0666, RLIM_INFINITY, true);
         row("only the file, on a full disk", 0555, 0666, 50, false);
         row("neither", 0555, 0444, RLIM_INFINITY, false);
+        row("a file that is not to be read", 0555, 0222, RLIM_INFINITY, false);
         row("a file of somebody else", 0777, 0666, RLIM_INFINITY, true);
     }
     void writesInPlaceWhereTheFolderAllowsNoOther()
