@@ -1,5 +1,7 @@
 #include "keyword_types.h"
 
+#include "probe_line.h"
+
 namespace {
 
 /// What is asked of each type, "@" standing for it: its size; whether it holds
@@ -72,10 +74,8 @@ QByteArray standInFor(const Shape &shape, std::optional<int> kind, const TypeFac
 QList<bool> areVolatile(const Questions &questions, const QList<QByteArray> &names)
 {
     QList<QByteArray> declarations;
-    for (const QByteArray &name : QList<QByteArray> {"int"} + names) {
-        const QByteArray object = " calyx_" + QByteArray::number(declarations.size()) + "; ";
-        declarations << "extern " + name + object + "extern volatile " + name + object + '\n';
-    }
+    for (const QByteArray &name : QList<QByteArray> {"int"} + names)
+        declarations << probeLine("extern @ %; extern volatile @ %;\n", name, declarations.size());
     QList<bool> isVolatile = questions.accepted({}, declarations);
     const bool isCareless = isVolatile.takeFirst();
     return isCareless ? QList<bool>(names.size(), false) : isVolatile;

@@ -1,5 +1,6 @@
 #include "macro_values.h"
 
+#include "probe_line.h"
 #include "redefinitions.h"
 
 #include <QMap>
@@ -185,8 +186,8 @@ QList<OpenMacro> typesAmong(const Questions &questions, const QList<QByteArray> 
     QList<QByteArray> declarations;
     for (const QByteArray &name : names) {
         for (const auto &type : namedTypes) {
-            const QByteArray object = ' ' + objectName(declarations.size()) + "; ";
-            declarations << "extern " + name + object + "extern " + type.name + object + '\n';
+            declarations << probeLine("extern @ %; extern " + QByteArray(type.name) + " %;\n", name,
+                                      declarations.size());
         }
     }
     const QList<bool> isSame = questions.rejects(ErrorKind::ConflictingDeclaration)

@@ -1,5 +1,7 @@
 #include "learning.h"
 
+#include "probe_line.h"
+
 namespace {
 
 const QList<QByteArray> basicTypes {"char",  "short",  "int",         "long",   "long long",
@@ -66,10 +68,9 @@ QList<QByteArray> typesBehind(const Questions &questions, const QList<QByteArray
         for (qsizetype type = 0; type < integerTypes.size(); ++type) {
             if (!areAlike(shapes[name], shapesOfTypes[type]))
                 continue;
-            const QByteArray object = " calyx_" + QByteArray::number(pairs.size()) + "; ";
+            declarations << probeLine("extern @ %; extern " + integerTypes[type] + " %;\n",
+                                      names[name], pairs.size());
             pairs << std::pair(name, integerTypes[type]);
-            declarations << "extern " + names[name] + object + "extern " + integerTypes[type]
-                                + object + '\n';
         }
     }
     if (questions.rejects(ErrorKind::ConflictingDeclaration))

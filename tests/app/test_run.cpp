@@ -29,6 +29,7 @@ private slots:
         user.type(user->CmpExeFlagEdit, " -o");
         user.type(user->CmpDefFlagEdit, "-D");
         user.type(user->CmpObjExtFlagEdit, "o ");
+        QCOMPARE(user->toCommaList("A\nB=1"), "A,B=1");
         user.press(QWizard::NextButton);
         user->CmpHdrDirListBox->addItems({"\\inc one", "\\größe"});
         user.press(QWizard::NextButton);
