@@ -136,7 +136,7 @@ bool TokenStream::passSpace()
     return m_place != start;
 }
 
-/// Passes a line marker or a pragma that is set aside, if that comes next.
+/// Passes a line marker, a definition or a pragma that is set aside, if that comes next.
 bool TokenStream::passDirective()
 {
     if (!m_atLineStart || at(0) != '#')
@@ -151,6 +151,11 @@ bool TokenStream::passDirective()
                         [pragma](const char *start) { return pragma.startsWith(start); });
         m_place += isSetAside ? line.size() : 0;
         return isSetAside;
+    }
+    // Under -g3 and -dD, GNU compilers write what they have obeyed of these, too.
+    if (directive.startsWith("define ") || directive.startsWith("undef ")) {
+        m_place += line.size();
+        return true;
     }
     if (directive.startsWith("line "))
         directive = directive.sliced(5).trimmed();
