@@ -84,6 +84,18 @@ QList<Piece> piecesFor(const OrderToken &token, const Compiler &compiler, const 
     return pieces;
 }
 
+/// Of a \a word that has a file included first the option and, if that is in the same word, the
+/// file; otherwise nothing.
+QStringList optionWithFile(const QString &word)
+{
+    static const QRegularExpression apart(u"^--?(?:include|imacros)$"_s);
+    static const QRegularExpression joined(
+        u"^(-(?:include|imacros)(?![-_=])|--(?:include|imacros)(?==))=?(.+)$"_s);
+    if (apart.match(word).hasMatch())
+        return {word};
+    return joined.match(word).capturedTexts().mid(1);
+}
+
 } // namespace
 
 Compiler findCompiler(const Arguments &arguments)
@@ -99,9 +111,11 @@ Compiler findCompiler(const Arguments &arguments)
     words = withoutOtherPurposes(withoutResponseFiles(words, QDir::current()));
     words = withAbsolutePaths(words, arguments.layout);
     for (qsizetype i = 0; i < words.size(); ++i) {
-        const bool includes = words[i] == "-include"_L1 || words[i] == "-imacros"_L1;
-        if (includes && i > 0 && i + 1 < words.size()) {
-            compiler.includedFirst << words[i] << words[i + 1];
+        const QStringList option = i > 0 ? optionWithFile(words[i]) : QStringList();
+        if (option.size() == 2) {
+            compiler.includedFirst << option;
+        } else if (option.size() == 1 && i + 1 < words.size()) {
+            compiler.includedFirst << option << words[i + 1];
             ++i;
         } else {
             compiler.command << words[i];

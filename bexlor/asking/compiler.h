@@ -9,8 +9,9 @@ struct Compiler
     /// The program's path, its options, and the switches; see withoutOtherPurposes() and
     /// withAbsolutePaths().
     QStringList command;
-    /// The GNU driver's options -include and -imacros, each followed by its file, which are kept
-    /// out of the command: the macros of those files are not predefined.
+    /// The options -include and -imacros of GNU compilers, also with two signs, as sdcc has it;
+    /// each followed by its file. They are kept out of the command: the macros of those files are
+    /// not predefined.
     QStringList includedFirst;
     CommandLayout layout;
     QStringList defines; ///< NAME or NAME=VALUE, passed with every probe

@@ -55,6 +55,9 @@ private slots:
         const Columns<QString, QString> row("options", "kept");
         row("included first", "-include stdio.h -m32 -imacros first.h -include",
             "-m32 -include -include stdio.h -imacros first.h");
+        row("included first, otherwise written",
+            "-includea.h --include=b.h -include-pch x -imacrosc.h --include-dir d --include e.h",
+            "-include-pch x --include-dir d -include a.h --include b.h -imacros c.h --include e.h");
         row("errors of warnings",
             "-Wall -Werror=x -W error -Werror --Werror -pedantic-errors /WX -W x", "-Wall -W x");
         row("outputs", "-o x -oa/x -MF d -MFd -MT t -MMD -MP -aux-info a -Map m -I i", "-I i");
