@@ -19,6 +19,8 @@ private slots:
         row("behind a sign", "--sysroot=inc -fi=odd --sysroot inc",
             "--sysroot=$/inc -fi=$/odd "
             "--sysroot $/inc");
+        row("prefixes", "-iprefix inc/ -iwithprefix inc -iwithprefixbefore inc -iwithprefixinc",
+            "-iprefix $/inc/ -iwithprefix inc -iwithprefixbefore inc -iwithprefixinc");
         row("no file", "-Inowhere -O2", "-Inowhere -O2");
         row("absolute", "-I/usr /usr", "-I/usr /usr");
         row("what looks like a path", "-DX=odd -D odd -Uodd /Dodd --define=odd -x odd -mtune=odd",
