@@ -66,6 +66,12 @@ QList<Macro> gnuDefinitions(const MacroFacts &macros)
                                   "__builtin_" + operation + "_overflow(a,b,&(__typeof__(c)){0})"};
         }
     }
+    // With these a GNU function passes on arguments of its caller's ("Constructing Calls"), as
+    // those of the GNU C library do under _FORTIFY_SOURCE.
+    if (gnuVersion && !findMacro(macros, "__clang__")) {
+        definitions << Macro {"__builtin_va_arg_pack()", "0"}
+                    << Macro {"__builtin_va_arg_pack_len()", "0"};
+    }
     // The macros of GCC's <stdatomic.h> give these functions what is _Atomic, which clang refuses.
     if (gnuVersion && !findMacro(macros, "__clang__") && !findMacro(macros, "__cplusplus")) {
         for (const QByteArray operation :

@@ -301,6 +301,9 @@ private slots:
             "_Atomic int a; volatile int b; const _Atomic long c; void f(long *d) { int v = "
             "__atomic_fetch_add(&a, 1, 5); __atomic_store(&a, &v, 5); __atomic_load(&c, d, 5); "
             "__atomic_fetch_or(&b, 1, 0); }");
+        row("arguments passed on", false,
+            "int g(int, ...); static inline __attribute__((always_inline)) int f(int a, ...)\n"
+            "{ return __builtin_va_arg_pack_len() ? g(a, __builtin_va_arg_pack ()) : 0; }");
         row("overflow alone", false,
             "int f(int a) { return __builtin_mul_overflow_p(a, a, (short)0); }");
         facts.macros.known = macros("__AVR__ __BUILTIN_AVR_NOP __BUILTIN_AVR_SWAP");
