@@ -286,6 +286,9 @@ private slots:
         facts.keywords = {{"__declspec", Keyword::QualifierWithArgument, {}},
                           {"__try", Keyword::Undetermined, {}}};
         facts.types = types({4, 4, 8, 8, 8});
+        facts.macros.known = macros("__x86_64__ __linux__ __clang__");
+        row("__declspec of clang", false,
+            "__declspec(align(16)) char a; char b[__alignof__(a) == 16 ? 1 : -1];");
         facts.macros.known = macros("_M_X64 _WIN32 _MSC_VER=1929 _MSVC_LANG=201703L _CPPUNWIND");
         row("Microsoft's", true,
             "struct __declspec(uuid(\"00000000-0000-0000-C000-000000000046\")) A { };\n"
