@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QSet>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -110,6 +111,20 @@ void read(const ProgramRun &answer, const DialectQuestion &question, const QStri
     }
 }
 
+/// The macro of a \a definition, "NAME VALUE" or "NAME(PARAMETERS) VALUE".
+Macro macroDefinedBy(const QByteArray &definition)
+{
+    const qsizetype firstSpace = definition.indexOf(' ');
+    const qsizetype parenthesis = definition.indexOf('(');
+    const bool hasParameters = parenthesis >= 0 && (firstSpace < 0 || parenthesis < firstSpace);
+    qsizetype end = firstSpace;
+    if (hasParameters)
+        end = definition.indexOf(')', parenthesis) + 1;
+    if (end < 0)
+        end = definition.size();
+    return {definition.left(end), definition.mid(end).trimmed()};
+}
+
 } // namespace
 
 DialectAnswers askInDialects(const RunCommand &run, const QStringList &command,
@@ -148,22 +163,22 @@ QStringList includeDirectories(const QStringList &command)
 
 QList<Macro> macrosIn(const QByteArray &listing)
 {
-    const QByteArray directive = "#define ";
+    const QByteArray directive = "#define ", undoing = "#undef ";
     QList<Macro> macros;
-    for (const QByteArray &text : listing.split('\n')) {
+    QSet<QByteArray> names; // of which a later line tells, so that earlier ones do not count
+    QList<QByteArray> lines = listing.split('\n');
+    std::reverse(lines.begin(), lines.end());
+    for (const QByteArray &text : lines) {
         const QByteArray line = text.trimmed();
-        if (!line.startsWith(directive))
+        const bool isUndone = line.startsWith(undoing);
+        if (!isUndone && !line.startsWith(directive))
             continue;
-        const QByteArray definition = line.mid(directive.size());
-        const qsizetype firstSpace = definition.indexOf(' ');
-        const qsizetype parenthesis = definition.indexOf('(');
-        const bool hasParameters = parenthesis >= 0 && (firstSpace < 0 || parenthesis < firstSpace);
-        qsizetype end = firstSpace;
-        if (hasParameters)
-            end = definition.indexOf(')', parenthesis) + 1;
-        if (end < 0)
-            end = definition.size();
-        macros.append({definition.left(end), definition.mid(end).trimmed()});
+        const Macro macro = isUndone ? Macro {line.mid(undoing.size()), {}}
+                                     : macroDefinedBy(line.mid(directive.size()));
+        const QByteArray name = macro.name.split('(').first();
+        if (!isUndone && !names.contains(name))
+            macros.prepend(macro);
+        names << name;
     }
     return macros;
 }

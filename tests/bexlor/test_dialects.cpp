@@ -23,12 +23,14 @@ private slots:
     {
         const QList<Macro> macros = macrosIn("#define A 1\n#define EMPTY\n#define E2 \r\n"
                                              "#define F(a, b) (a) b\n#define G (x)\n"
-                                             "#define H() \nnoise\n#define V(...) \"#define\"");
+                                             "#define H() \nnoise\n#define V(...) \"#define\"\n"
+                                             "#define U 1\n#define W(x) 1\n#undef U\n#undef W\n"
+                                             "#define E2 2\n#undef A\n#define A 3\n#undef N");
         QStringList read;
         for (const Macro &macro : macros)
             read << macro.name + "|" + macro.value;
-        QCOMPARE(read, QStringList({"A|1", "EMPTY|", "E2|", "F(a, b)|(a) b", "G|(x)", "H()|",
-                                    "V(...)|\"#define\""}));
+        QCOMPARE(read, QStringList({"EMPTY|", "F(a, b)|(a) b", "G|(x)", "H()|",
+                                    "V(...)|\"#define\"", "E2|2", "A|3"}));
     }
 
     void findsTheSearchPath_data()
