@@ -61,6 +61,23 @@ QStringList directoryBeside(const QByteArray &targets)
     return QDir(headers).exists() ? QStringList {QDir(headers).canonicalPath()} : QStringList();
 }
 
+/// The directories behind \a option in \a command, where its first parentheses match nothing in the
+/// next word; links in them are followed.
+QStringList directoriesNamedBy(const QRegularExpression &option, const QStringList &command)
+{
+    QStringList directories;
+    for (qsizetype i = 1; i < command.size(); ++i) {
+        const QRegularExpressionMatch match = option.match(command[i]);
+        if (!match.hasMatch())
+            continue;
+        const QString joined = match.captured(1);
+        const QString named = joined.isEmpty() ? command.value(i + 1) : joined;
+        if (QFileInfo(named).isDir())
+            directories << QDir(named).canonicalPath();
+    }
+    return directories;
+}
+
 std::optional<SearchPath> searchPathIn(const ProgramRun &answer, const DialectQuestion &question,
                                        const QStringList &command)
 {
@@ -80,7 +97,9 @@ std::optional<SearchPath> searchPathIn(const ProgramRun &answer, const DialectQu
         return {};
     if (command.contains(u"-nostdinc"_s))
         own.clear();
-    QStringList directories = includeDirectories(command) + own;
+    static const QRegularExpression system(u"^-isystem(.*)$"_s);
+    QStringList directories =
+        includeDirectories(command) + directoriesNamedBy(system, command) + own;
     directories.removeDuplicates();
     return SearchPath {directories, {}};
 }
@@ -147,18 +166,8 @@ DialectAnswers askInDialects(const RunCommand &run, const QStringList &command,
 
 QStringList includeDirectories(const QStringList &command)
 {
-    static const QRegularExpression option(u"^[-/]I(.*)$"_s);
-    QStringList directories;
-    for (qsizetype i = 1; i < command.size(); ++i) {
-        const QRegularExpressionMatch match = option.match(command[i]);
-        if (!match.hasMatch())
-            continue;
-        const QString joined = match.captured(1);
-        const QString named = joined.isEmpty() ? command.value(i + 1) : joined;
-        if (QFileInfo(named).isDir())
-            directories << QDir(named).canonicalPath();
-    }
-    return directories;
+    static const QRegularExpression option(u"^(?:[-/]I|--include-dir(?:ectory)?(?:=|$))(.*)$"_s);
+    return directoriesNamedBy(option, command);
 }
 
 QList<Macro> macrosIn(const QByteArray &listing)

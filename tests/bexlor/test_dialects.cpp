@@ -48,11 +48,12 @@ private slots:
         row("sdcc's preprocessor", "* -Wp-v -E probe.c", true, gnu, "$/b c|$/a", "$/own");
         row("tcc", "cc -print-search-dirs", false,
             "install: $/own\ninclude:\n  $/a\n  $/missing\n  $/b c\nlibraries:\n  $/own\n",
-            "$/inc|$/a|$/b c", "");
+            "$/inc|$/long|$/s y s|$/a|$/b c", "");
         row("sdcc", "* --print-search-dirs", false,
             "programs:\n$/own\nincludedir:\n$/own/../b c\n$/b c\n$/missing\n$/a\nlibdir:\n$/own\n",
-            "$/inc|$/b c|$/a", "");
-        row("cc65", "* --print-target-path", false, "$/target\n", "$/inc|$/include", "");
+            "$/inc|$/long|$/s y s|$/b c|$/a", "");
+        row("cc65", "* --print-target-path", false, "$/target\n", "$/inc|$/long|$/s y s|$/include",
+            "");
         row("files elsewhere", "* -v -E probe.c", true,
             "#include <...> search starts here:\n /calyx/missing/../x\nEnd of search list.\n",
             "/calyx/missing/../x", "");
@@ -69,11 +70,13 @@ private slots:
         QFETCH(QString, listing);
         const QTemporaryDir folder;
         const QString top = QDir(folder.path()).canonicalPath();
-        for (const char *name : {"a", "b c", "own", "target", "include", "inc"})
+        for (const char *name : {"a", "b c", "own", "target", "include", "inc", "long", "s y s"})
             QDir(top).mkdir(name);
         const QByteArray output = listing.replace("$", top).toLocal8Bit();
         QStringList asked;
-        const QStringList command {"cc", "-I", top + "/inc", "-I" + top + "/none", "-I"};
+        const QStringList command {
+            "cc",          "-isystem" + top + "/s y s", "-I", top + "/inc", "--include-dir",
+            top + "/long", "-I" + top + "/none",        "-I"};
         const RunCommand run = [&](const QStringList &words) {
             asked << words.join(' ').replace(command.join(' '), "*");
             // At first something goes wrong.
