@@ -43,6 +43,24 @@ bool isOneOf(const Words &words, QByteArrayView word)
     return std::find(std::begin(words), std::end(words), word) != std::end(words);
 }
 
+/// \a text with the lines that are "_Pragma (...)", as cc65 writes pragmas, made "#pragma ...".
+QByteArray withPragmaLines(const QByteArray &text)
+{
+    const QByteArray start = "_Pragma (\"", end = "\")";
+    if (!text.contains(start))
+        return text;
+    QList<QByteArray> lines = text.split('\n');
+    for (QByteArray &line : lines) {
+        const QByteArray pragma = line.trimmed();
+        const bool isWhole = pragma.size() >= start.size() + end.size();
+        if (!isWhole || !pragma.startsWith(start) || !pragma.endsWith(end))
+            continue;
+        line = pragma.sliced(start.size()).chopped(end.size());
+        line = "#pragma " + line.replace("\\\"", "\"").replace("\\\\", "\\");
+    }
+    return lines.join('\n');
+}
+
 /// The tokens of a preprocessed source, one after the other.
 class TokenStream
 {
@@ -297,7 +315,9 @@ bool areLineOfCall(QByteArrayView one, const TokenStream &compiler, QByteArrayVi
 std::optional<TokenDifference> firstDifference(const PreprocessedSource &ofCompiler,
                                                const PreprocessedSource &ofClang)
 {
-    TokenStream compiler(ofCompiler), clang(ofClang);
+    PreprocessedSource own = ofCompiler;
+    own.text = withPragmaLines(own.text);
+    TokenStream compiler(own), clang(ofClang);
     while (true) {
         const QByteArrayView one = compiler.next(), other = clang.next();
         if (one != other && !areLineOfCall(one, compiler, other, clang)) {
