@@ -81,7 +81,8 @@ CheckedSource sourceOfFile(const Compiler &compiler, const QString &file, const 
                            qsizetype number)
 {
     Compiler whole = compiler;
-    whole.command << compiler.includedFirst;
+    for (const IncludedFile &included : compiler.includedFirst)
+        whole.command << included.words;
     const QString output = outputName(compiler, folder, number);
     return {file, folder, probeCommand(whole, file, output), output, {file}, file};
 }

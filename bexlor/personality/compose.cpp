@@ -127,10 +127,8 @@ Personality composePersonality(const Arguments &arguments, const Facts &facts,
     if (!arguments.forceIncludeFile.isEmpty())
         personality.includedFirst << pathOption("-include", arguments.forceIncludeFile);
     // A name that is no path is searched for, so these stay as they are.
-    for (qsizetype i = 0; i + 1 < parts.includedFirst.size(); i += 2) {
-        const QByteArray option = parts.includedFirst[i].toUtf8();
-        personality.includedFirst.append({option.startsWith("--") ? option.sliced(1) : option,
-                                          parts.includedFirst[i + 1].toUtf8()});
-    }
+    for (qsizetype i = 0; i + 1 < parts.includedFirst.size(); i += 2)
+        personality.includedFirst.append(
+            {parts.includedFirst[i].toUtf8(), parts.includedFirst[i + 1].toUtf8()});
     return personality;
 }
