@@ -6,6 +6,9 @@
 #include "quoting.h"
 #include "typed_command.h"
 
+#include <QFileInfo>
+#include <QRegularExpression>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -82,6 +85,25 @@ QList<Piece> piecesFor(const OrderToken &token, const Compiler &compiler, const 
     return pieces;
 }
 
+/// What the word \a index of \a words, with the next one if it needs that, has included first.
+std::optional<IncludedFile> includedFileAt(const QStringList &words, qsizetype index)
+{
+    static const QRegularExpression apart(u"^(?:--?(?:include|imacros|preinclude)|[-/]FI)$"_s);
+    static const QRegularExpression joined(u"^(?:-(?:include|imacros)(?![-_=])|"
+                                           "--(?:include|imacros)=|--?preinclude=|[-/]FI)(.+)$"_s);
+    const QString &word = words[index];
+    const QString option = word.contains("imacros"_L1) ? u"-imacros"_s : u"-include"_s;
+    if (apart.match(word).hasMatch()) {
+        if (index + 1 == words.size())
+            return {};
+        return IncludedFile {{word, words[index + 1]}, option, words[index + 1]};
+    }
+    const QRegularExpressionMatch match = joined.match(word);
+    if (!match.hasMatch() || QFileInfo::exists(word))
+        return {};
+    return IncludedFile {{word}, option, match.captured(1)};
+}
+
 } // namespace
 
 Compiler findCompiler(const Arguments &arguments)
@@ -97,10 +119,10 @@ Compiler findCompiler(const Arguments &arguments)
     words = withoutOtherPurposes(withoutResponseFiles(words, QDir::current()));
     words = withAbsolutePaths(words, arguments.layout);
     for (qsizetype i = 0; i < words.size(); ++i) {
-        const bool includes = words[i] == "-include"_L1 || words[i] == "-imacros"_L1;
-        if (includes && i > 0 && i + 1 < words.size()) {
-            compiler.includedFirst << words[i] << words[i + 1];
-            ++i;
+        const auto included = i > 0 ? includedFileAt(words, i) : std::nullopt;
+        if (included) {
+            compiler.includedFirst << *included;
+            i += included->words.size() - 1;
         } else {
             compiler.command << words[i];
         }

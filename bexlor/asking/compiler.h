@@ -2,6 +2,15 @@
 
 #include "arguments.h"
 
+/// A file that the command has included first, by the GNU compilers' -include or -imacros, sdcc's
+/// --include, Arm's and IAR's --preinclude or Microsoft's /FI.
+struct IncludedFile
+{
+    QStringList words; ///< of the command
+    QString option;    ///< that clang has for it
+    QString file;
+};
+
 /// The user's compiler, ready to be started: from the same command line everything about it is
 /// asked.
 struct Compiler
@@ -9,9 +18,8 @@ struct Compiler
     /// The program's path, its options, and the switches; see withoutOtherPurposes() and
     /// withAbsolutePaths().
     QStringList command;
-    /// The GNU driver's options -include and -imacros, each followed by its file, which are kept
-    /// out of the command: the macros of those files are not predefined.
-    QStringList includedFirst;
+    /// Kept out of the command: the macros of those files are not predefined.
+    QList<IncludedFile> includedFirst;
     CommandLayout layout;
     QStringList defines; ///< NAME or NAME=VALUE, passed with every probe
     bool isCpp = false;

@@ -19,7 +19,7 @@ const int deepestResponseFile = 10; // one that names itself has no end
 const QRegularExpression &readingOption()
 {
     static const QRegularExpression option(
-        u"^((?:-include-pch|-include|-imacros|-iprefix|-iwithprefixbefore|-iwithprefix|-isystem|"
+        u"^((?:-include-pch|-include|--?imacros|-iprefix|-isystem|"
         "-iquote|-idirafter|-isysroot|-iframework|-imsvc|/imsvc|-ivfsoverlay|-cxx-isystem|"
         "[-/]external:I|[-/]winsysroot|[-/]vctoolsdir|[-/]FI|[-/]FU|[-/]AI|-fi(?==)|"
         "-fplugin(?==)|-fmodule-map-file(?==)|--?sysroot|--?sp\\wcs|--?gcc-toolchain|--config|"

@@ -142,8 +142,11 @@ Comparison compare(const Checking &checking, const CheckedSource &source,
     if (!clang.succeeded())
         return {false, {}, rejectionIn(clang.errors).message};
     const QStringList ownHeaders = ownHeadersOf(checking.content);
-    // A header of clang's may include the compiler's of the same name.
-    const QStringList ownHeadersOfClang = QStringList {checking.clang.headers} + ownHeaders;
+    // Where the compiler has such headers clang reads its own instead, and one of these may include
+    // the compiler's of the same name.
+    QStringList ownHeadersOfClang = ownHeaders;
+    if (!ownHeaders.isEmpty())
+        ownHeadersOfClang << checking.clang.headers;
     Comparison comparison {
         true, firstDifference({own.output, ownHeaders}, {clang.output, ownHeadersOfClang}), {}};
     // Where clang has headers of its own, those of the C library may come in another order. What

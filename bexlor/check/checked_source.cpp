@@ -105,7 +105,8 @@ CheckedSource sourceOfFile(const Compiler &compiler, const QString &file, const 
                            qsizetype number)
 {
     Compiler whole = compiler;
-    whole.command << compiler.includedFirst;
+    for (const IncludedFile &included : compiler.includedFirst)
+        whole.command << included.words;
     const QString own = numbered(folder, number);
     if (namesOutput(compiler)) {
         const QString output = own + compiler.layout.objectExtension;

@@ -43,6 +43,24 @@ bool isOneOf(const Words &words, QByteArrayView word)
     return std::find(std::begin(words), std::end(words), word) != std::end(words);
 }
 
+/// \a text with the lines that are "_Pragma (...)", as cc65 writes pragmas, made "#pragma ...".
+QByteArray withPragmaLines(const QByteArray &text)
+{
+    const QByteArray start = "_Pragma (\"", end = "\")";
+    if (!text.contains(start))
+        return text;
+    QList<QByteArray> lines = text.split('\n');
+    for (QByteArray &line : lines) {
+        const QByteArray pragma = line.trimmed();
+        const bool isWhole = pragma.size() >= start.size() + end.size();
+        if (!isWhole || !pragma.startsWith(start) || !pragma.endsWith(end))
+            continue;
+        line = pragma.sliced(start.size()).chopped(end.size());
+        line = "#pragma " + line.replace("\\\"", "\"").replace("\\\\", "\\");
+    }
+    return lines.join('\n');
+}
+
 /// The tokens of a preprocessed source, one after the other.
 class TokenStream
 {
@@ -136,7 +154,7 @@ bool TokenStream::passSpace()
     return m_place != start;
 }
 
-/// Passes a line marker or a pragma that is set aside, if that comes next.
+/// Passes a line marker, a definition or a pragma that is set aside, if that comes next.
 bool TokenStream::passDirective()
 {
     if (!m_atLineStart || at(0) != '#')
@@ -151,6 +169,11 @@ bool TokenStream::passDirective()
                         [pragma](const char *start) { return pragma.startsWith(start); });
         m_place += isSetAside ? line.size() : 0;
         return isSetAside;
+    }
+    // Under -g3 and -dD, GNU compilers write what they have obeyed of these, too.
+    if (directive.startsWith("define ") || directive.startsWith("undef ")) {
+        m_place += line.size();
+        return true;
     }
     if (directive.startsWith("line "))
         directive = directive.sliced(5).trimmed();
@@ -292,7 +315,9 @@ bool areLineOfCall(QByteArrayView one, const TokenStream &compiler, QByteArrayVi
 std::optional<TokenDifference> firstDifference(const PreprocessedSource &ofCompiler,
                                                const PreprocessedSource &ofClang)
 {
-    TokenStream compiler(ofCompiler), clang(ofClang);
+    PreprocessedSource own = ofCompiler;
+    own.text = withPragmaLines(own.text);
+    TokenStream compiler(own), clang(ofClang);
     while (true) {
         const QByteArrayView one = compiler.next(), other = clang.next();
         if (one != other && !areLineOfCall(one, compiler, other, clang)) {

@@ -27,12 +27,6 @@ const char *const microsoftKeywords =
     "__virtual_inheritance _asm _inline _cdecl _stdcall _fastcall _declspec _int8 _int16 _int32 "
     "_int64 _alignof";
 
-bool hasKeyword(const Facts &facts, const QByteArray &name)
-{
-    return std::any_of(facts.keywords.begin(), facts.keywords.end(),
-                       [&name](const Keyword &keyword) { return keyword.name == name; });
-}
-
 // Functions that GCC has built in for AVR ("AVR Built-in Functions"), each with one of clang's that
 // has the same type, and effects that are as little known: headers declare some of them, and what
 // stands for a function must do so in its declaration as well. The macro tells that it is there.
@@ -65,6 +59,12 @@ QList<Macro> gnuDefinitions(const MacroFacts &macros)
             definitions << Macro {"__builtin_" + operation + "_overflow_p(a,b,c)",
                                   "__builtin_" + operation + "_overflow(a,b,&(__typeof__(c)){0})"};
         }
+    }
+    // With these a GNU function passes on arguments of its caller's ("Constructing Calls"), as
+    // those of the GNU C library do under _FORTIFY_SOURCE.
+    if (gnuVersion && !findMacro(macros, "__clang__")) {
+        definitions << Macro {"__builtin_va_arg_pack()", "0"}
+                    << Macro {"__builtin_va_arg_pack_len()", "0"};
     }
     // The macros of GCC's <stdatomic.h> give these functions what is _Atomic, which clang refuses.
     if (gnuVersion && !findMacro(macros, "__clang__") && !findMacro(macros, "__cplusplus")) {
@@ -112,6 +112,9 @@ std::optional<Macro> definitionOf(const Keyword &keyword, const Facts &facts)
 QList<QByteArray> keywordsOfClang(const MacroFacts &macros)
 {
     QList<QByteArray> keywords = QByteArray(clangKeywords).split(' ');
+    // Clang takes that by an option; others have arguments to it that clang does not know.
+    if (findMacro(macros, "__clang__"))
+        keywords << "__declspec";
     if (findMacro(macros, "_MSC_VER"))
         keywords << QByteArray(microsoftKeywords).split(' ');
     return keywords;

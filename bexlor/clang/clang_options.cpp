@@ -127,7 +127,7 @@ QList<QByteArray> armOptions(const MacroFacts &macros)
     return options;
 }
 
-/// Options for the types, where a target's may differ from the compiler's.
+/// Options for the types, where a target's may differ from the compiler's, and for their keywords.
 QList<QByteArray> typeOptions(const Facts &facts, const QByteArray &target)
 {
     const TypeFacts &types = facts.types;
@@ -142,9 +142,10 @@ QList<QByteArray> typeOptions(const Facts &facts, const QByteArray &target)
         options << "-fno-short-enums";
     if (types.wideCharacterType == "unsigned short")
         options << "-fshort-wchar";
-    const auto isFixedPoint = [](const Keyword &keyword) { return keyword.name == "_Accum"; };
-    if (std::any_of(facts.keywords.begin(), facts.keywords.end(), isFixedPoint))
+    if (hasKeyword(facts, "_Accum"))
         options << "-ffixed-point";
+    if (hasKeyword(facts, "__declspec") && findMacro(facts.macros, "__clang__"))
+        options << "-fdeclspec";
     return options;
 }
 

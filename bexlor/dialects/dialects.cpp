@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QSet>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -60,6 +61,23 @@ QStringList directoryBeside(const QByteArray &targets)
     return QDir(headers).exists() ? QStringList {QDir(headers).canonicalPath()} : QStringList();
 }
 
+/// The directories behind \a option in \a command, where its first parentheses match nothing in the
+/// next word; links in them are followed.
+QStringList directoriesNamedBy(const QRegularExpression &option, const QStringList &command)
+{
+    QStringList directories;
+    for (qsizetype i = 1; i < command.size(); ++i) {
+        const QRegularExpressionMatch match = option.match(command[i]);
+        if (!match.hasMatch())
+            continue;
+        const QString joined = match.captured(1);
+        const QString named = joined.isEmpty() ? command.value(i + 1) : joined;
+        if (QFileInfo(named).isDir())
+            directories << QDir(named).canonicalPath();
+    }
+    return directories;
+}
+
 std::optional<SearchPath> searchPathIn(const ProgramRun &answer, const DialectQuestion &question,
                                        const QStringList &command)
 {
@@ -79,7 +97,9 @@ std::optional<SearchPath> searchPathIn(const ProgramRun &answer, const DialectQu
         return {};
     if (command.contains(u"-nostdinc"_s))
         own.clear();
-    QStringList directories = includeDirectories(command) + own;
+    static const QRegularExpression system(u"^-isystem(.*)$"_s);
+    QStringList directories =
+        includeDirectories(command) + directoriesNamedBy(system, command) + own;
     directories.removeDuplicates();
     return SearchPath {directories, {}};
 }
@@ -110,6 +130,20 @@ void read(const ProgramRun &answer, const DialectQuestion &question, const QStri
     }
 }
 
+/// The macro of a \a definition, "NAME VALUE" or "NAME(PARAMETERS) VALUE".
+Macro macroDefinedBy(const QByteArray &definition)
+{
+    const qsizetype firstSpace = definition.indexOf(' ');
+    const qsizetype parenthesis = definition.indexOf('(');
+    const bool hasParameters = parenthesis >= 0 && (firstSpace < 0 || parenthesis < firstSpace);
+    qsizetype end = firstSpace;
+    if (hasParameters)
+        end = definition.indexOf(')', parenthesis) + 1;
+    if (end < 0)
+        end = definition.size();
+    return {definition.left(end), definition.mid(end).trimmed()};
+}
+
 } // namespace
 
 DialectAnswers askInDialects(const RunCommand &run, const QStringList &command,
@@ -132,38 +166,28 @@ DialectAnswers askInDialects(const RunCommand &run, const QStringList &command,
 
 QStringList includeDirectories(const QStringList &command)
 {
-    static const QRegularExpression option(u"^[-/]I(.*)$"_s);
-    QStringList directories;
-    for (qsizetype i = 1; i < command.size(); ++i) {
-        const QRegularExpressionMatch match = option.match(command[i]);
-        if (!match.hasMatch())
-            continue;
-        const QString joined = match.captured(1);
-        const QString named = joined.isEmpty() ? command.value(i + 1) : joined;
-        if (QFileInfo(named).isDir())
-            directories << QDir(named).canonicalPath();
-    }
-    return directories;
+    static const QRegularExpression option(u"^(?:[-/]I|--include-dir(?:ectory)?(?:=|$))(.*)$"_s);
+    return directoriesNamedBy(option, command);
 }
 
 QList<Macro> macrosIn(const QByteArray &listing)
 {
-    const QByteArray directive = "#define ";
+    const QByteArray directive = "#define ", undoing = "#undef ";
     QList<Macro> macros;
-    for (const QByteArray &text : listing.split('\n')) {
+    QSet<QByteArray> names; // of which a later line tells, so that earlier ones do not count
+    QList<QByteArray> lines = listing.split('\n');
+    std::reverse(lines.begin(), lines.end());
+    for (const QByteArray &text : lines) {
         const QByteArray line = text.trimmed();
-        if (!line.startsWith(directive))
+        const bool isUndone = line.startsWith(undoing);
+        if (!isUndone && !line.startsWith(directive))
             continue;
-        const QByteArray definition = line.mid(directive.size());
-        const qsizetype firstSpace = definition.indexOf(' ');
-        const qsizetype parenthesis = definition.indexOf('(');
-        const bool hasParameters = parenthesis >= 0 && (firstSpace < 0 || parenthesis < firstSpace);
-        qsizetype end = firstSpace;
-        if (hasParameters)
-            end = definition.indexOf(')', parenthesis) + 1;
-        if (end < 0)
-            end = definition.size();
-        macros.append({definition.left(end), definition.mid(end).trimmed()});
+        const Macro macro = isUndone ? Macro {line.mid(undoing.size()), {}}
+                                     : macroDefinedBy(line.mid(directive.size()));
+        const QByteArray name = macro.name.split('(').first();
+        if (!isUndone && !names.contains(name))
+            macros.prepend(macro);
+        names << name;
     }
     return macros;
 }

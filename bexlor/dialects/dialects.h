@@ -23,11 +23,13 @@ struct DialectAnswers
 DialectAnswers askInDialects(const RunCommand &run, const QStringList &command,
                              const QString &source, const DialectAnswers &known = {});
 
-/// The directories that \a command names behind -I, as Microsoft's compiler also /I, in one word
-/// with it or in the next; links in them are followed.
+/// The directories that \a command names behind -I, as Microsoft's compiler also /I, or behind the
+/// long names of cc65 and the GNU compilers, in one word with it or in the next; links in them are
+/// followed.
 QStringList includeDirectories(const QStringList &command);
 
-/// The macros of a listing as preprocessors print it under -dM: lines "#define NAME VALUE".
+/// The macros of a listing as preprocessors print it under -dM: lines "#define NAME VALUE". tcc
+/// also lists what its options take back, "#undef NAME", or define anew.
 QList<Macro> macrosIn(const QByteArray &listing);
 
 /// The directories in the lines behind \a heading, which is a whole line of \a listing, up to the

@@ -19,6 +19,11 @@ const Macro *findMacro(const MacroFacts &macros, const QByteArray &name)
     return itemCalled(macros.known, name);
 }
 
+bool hasKeyword(const Facts &facts, const QByteArray &name)
+{
+    return itemCalled(facts.keywords, name);
+}
+
 int sizeOf(const TypeFacts &types, const QByteArray &name)
 {
     const Type *type = itemCalled(types.basic, name);

@@ -94,6 +94,9 @@ struct Facts
 /// The macro called \a name, or null.
 const Macro *findMacro(const MacroFacts &macros, const QByteArray &name);
 
+/// Whether \a name is among the keywords, in whatever form.
+bool hasKeyword(const Facts &facts, const QByteArray &name);
+
 /// The bytes of the basic type \a name; 0 if not known.
 int sizeOf(const TypeFacts &types, const QByteArray &name);
 

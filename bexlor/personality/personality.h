@@ -32,7 +32,7 @@ struct CommandParts
 {
     QStringList command;            ///< the program and its options
     QStringList includeDirectories; ///< those that it names by -I
-    QStringList includedFirst;      ///< options, each followed by its file
+    QStringList includedFirst;      ///< options of clang, each followed by its file
 };
 
 /// The personality of the compiler of \a facts, which is called as \a parts say, with what the user

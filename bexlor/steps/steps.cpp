@@ -402,8 +402,9 @@ QByteArray textOfPersonality(Progress &progress, const Arguments &arguments,
 {
     const QByteArray templateText =
         platform::readTextFile(arguments.templateFile).value_or(QString()).toUtf8();
-    const CommandParts parts {compiler.command, includeDirectories(compiler.command),
-                              compiler.includedFirst};
+    CommandParts parts {compiler.command, includeDirectories(compiler.command), {}};
+    for (const IncludedFile &included : compiler.includedFirst)
+        parts.includedFirst << included.option << included.file;
     const Personality personality = composePersonality(arguments, facts, parts, templateText);
     for (const QString &option : personality.lacking)
         progress.say(u"Clang has no option like the compiler's %1."_s.arg(visibleText(option)));

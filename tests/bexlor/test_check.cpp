@@ -30,7 +30,10 @@ private slots:
         row("literals that do not end", "'\na R\"x \\", "'\na R\"x \\", "");
         row("pragmas", "#pragma GCC system_header\n#pragma pack(1)\na",
             "#pragma pack(1)\n#pragma GCC diagnostic pop\na", "");
+        row("pragmas of cc65", "a\n_Pragma (\"b(\\\"c\\\")\")\n_Pragma (\"once\")\n_Pragma (\")",
+            "a\n#pragma b (\"c\")\n_Pragma (\")", "");
         row("a pragma for the compiler", "# 1 \"x.c\"\n#pragma pack(1)\na", "a", "x.c:1 # a");
+        row("definitions", "# 0 \"x.c\"\n#define A \"\n#undef A\na\n#define B\n", "a", "");
         row("repeated declarations", "a typedef int va_list; b",
             "a typedef __gnuc_va_list va_list; typedef int va_list; typedef __size_t size_t; b",
             "");

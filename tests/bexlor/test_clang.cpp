@@ -286,6 +286,9 @@ private slots:
         facts.keywords = {{"__declspec", Keyword::QualifierWithArgument, {}},
                           {"__try", Keyword::Undetermined, {}}};
         facts.types = types({4, 4, 8, 8, 8});
+        facts.macros.known = macros("__x86_64__ __linux__ __clang__");
+        row("__declspec of clang", false,
+            "__declspec(align(16)) char a; char b[__alignof__(a) == 16 ? 1 : -1];");
         facts.macros.known = macros("_M_X64 _WIN32 _MSC_VER=1929 _MSVC_LANG=201703L _CPPUNWIND");
         row("Microsoft's", true,
             "struct __declspec(uuid(\"00000000-0000-0000-C000-000000000046\")) A { };\n"
@@ -301,6 +304,9 @@ private slots:
             "_Atomic int a; volatile int b; const _Atomic long c; void f(long *d) { int v = "
             "__atomic_fetch_add(&a, 1, 5); __atomic_store(&a, &v, 5); __atomic_load(&c, d, 5); "
             "__atomic_fetch_or(&b, 1, 0); }");
+        row("arguments passed on", false,
+            "int g(int, ...); static inline __attribute__((always_inline)) int f(int a, ...)\n"
+            "{ return __builtin_va_arg_pack_len() ? g(a, __builtin_va_arg_pack ()) : 0; }");
         row("overflow alone", false,
             "int f(int a) { return __builtin_mul_overflow_p(a, a, (short)0); }");
         facts.macros.known = macros("__AVR__ __BUILTIN_AVR_NOP __BUILTIN_AVR_SWAP");

@@ -13,12 +13,14 @@ private slots:
         const Columns<QString, QString> row("typed", "absolute");
         row("behind no option", "run.py odd", "$/run.py $/odd");
         row("behind a letter", "-Iinc -Linc /Iinc", "-I$/inc -L$/inc /I$/inc");
-        row("apart", "-I inc -isystem inc --preinclude odd",
+        row("apart", "-I inc -isystem inc --dlib_config odd",
             "-I $/inc -isystem $/inc "
-            "--preinclude $/odd");
+            "--dlib_config $/odd");
         row("behind a sign", "--sysroot=inc -fi=odd --sysroot inc",
             "--sysroot=$/inc -fi=$/odd "
             "--sysroot $/inc");
+        row("prefixes", "-iprefix inc/ -iwithprefix inc -iwithprefixbefore inc -iwithprefixinc",
+            "-iprefix $/inc/ -iwithprefix inc -iwithprefixbefore inc -iwithprefixinc");
         row("no file", "-Inowhere -O2", "-Inowhere -O2");
         row("absolute", "-I/usr /usr", "-I/usr /usr");
         row("what looks like a path", "-DX=odd -D odd -Uodd /Dodd --define=odd -x odd -mtune=odd",
@@ -51,10 +53,7 @@ private slots:
 
     void leavesOutWhatIsNoQuestion_data()
     {
-        // Of what is kept, that which is included first comes last.
         const Columns<QString, QString> row("options", "kept");
-        row("included first", "-include stdio.h -m32 -imacros first.h -include",
-            "-m32 -include -include stdio.h -imacros first.h");
         row("errors of warnings",
             "-Wall -Werror=x -W error -Werror --Werror -pedantic-errors /WX -W x", "-Wall -W x");
         row("outputs", "-o x -oa/x -MF d -MFd -MT t -MMD -MP -aux-info a -Map m -I i", "-I i");
@@ -80,7 +79,34 @@ private slots:
         Arguments arguments;
         arguments.command = "\"cc " + options + '"';
         const Compiler compiler = findCompiler(arguments);
-        QTEST((compiler.command.mid(1) + compiler.includedFirst).join(' '), "kept");
+        QTEST(compiler.command.mid(1).join(' '), "kept");
+    }
+
+    void findsWhatIsIncludedFirst_data()
+    {
+        const Columns<QString, QString, QString> row("options", "kept", "included");
+        row("apart", "-include a.h -m32 -imacros b.h --include c.h --preinclude d.h /FI e.h",
+            "-m32",
+            "-include a.h=-include a.h|-imacros b.h=-imacros b.h|--include c.h=-include c.h|"
+            "--preinclude d.h=-include d.h|/FI e.h=-include e.h");
+        row("joined", "-includea.h -imacrosb.h --include=c.h --imacros=d.h -preinclude=e.h /FIf.h",
+            "",
+            "-includea.h=-include a.h|-imacrosb.h=-imacros b.h|--include=c.h=-include c.h|"
+            "--imacros=d.h=-imacros d.h|-preinclude=e.h=-include e.h|/FIf.h=-include f.h");
+        row("others", "-include-pch a --include-dir b --include-directory=c -include",
+            "-include-pch a --include-dir b --include-directory=c -include", "");
+    }
+    void findsWhatIsIncludedFirst()
+    {
+        QFETCH(QString, options);
+        Arguments arguments;
+        arguments.command = "\"cc " + options + '"';
+        const Compiler compiler = findCompiler(arguments);
+        QTEST(compiler.command.mid(1).join(' '), "kept");
+        QStringList included;
+        for (const IncludedFile &file : compiler.includedFirst)
+            included << file.words.join(' ') + '=' + file.option + ' ' + file.file;
+        QTEST(included.join('|'), "included");
     }
 
     void ordersTheCommand_data()

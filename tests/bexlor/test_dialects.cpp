@@ -23,12 +23,14 @@ private slots:
     {
         const QList<Macro> macros = macrosIn("#define A 1\n#define EMPTY\n#define E2 \r\n"
                                              "#define F(a, b) (a) b\n#define G (x)\n"
-                                             "#define H() \nnoise\n#define V(...) \"#define\"");
+                                             "#define H() \nnoise\n#define V(...) \"#define\"\n"
+                                             "#define U 1\n#define W(x) 1\n#undef U\n#undef W\n"
+                                             "#define E2 2\n#undef A\n#define A 3\n#undef N");
         QStringList read;
         for (const Macro &macro : macros)
             read << macro.name + "|" + macro.value;
-        QCOMPARE(read, QStringList({"A|1", "EMPTY|", "E2|", "F(a, b)|(a) b", "G|(x)", "H()|",
-                                    "V(...)|\"#define\""}));
+        QCOMPARE(read, QStringList({"EMPTY|", "F(a, b)|(a) b", "G|(x)", "H()|",
+                                    "V(...)|\"#define\"", "E2|2", "A|3"}));
     }
 
     void findsTheSearchPath_data()
@@ -46,11 +48,12 @@ private slots:
         row("sdcc's preprocessor", "* -Wp-v -E probe.c", true, gnu, "$/b c|$/a", "$/own");
         row("tcc", "cc -print-search-dirs", false,
             "install: $/own\ninclude:\n  $/a\n  $/missing\n  $/b c\nlibraries:\n  $/own\n",
-            "$/inc|$/a|$/b c", "");
+            "$/inc|$/long|$/s y s|$/a|$/b c", "");
         row("sdcc", "* --print-search-dirs", false,
             "programs:\n$/own\nincludedir:\n$/own/../b c\n$/b c\n$/missing\n$/a\nlibdir:\n$/own\n",
-            "$/inc|$/b c|$/a", "");
-        row("cc65", "* --print-target-path", false, "$/target\n", "$/inc|$/include", "");
+            "$/inc|$/long|$/s y s|$/b c|$/a", "");
+        row("cc65", "* --print-target-path", false, "$/target\n", "$/inc|$/long|$/s y s|$/include",
+            "");
         row("files elsewhere", "* -v -E probe.c", true,
             "#include <...> search starts here:\n /calyx/missing/../x\nEnd of search list.\n",
             "/calyx/missing/../x", "");
@@ -67,11 +70,13 @@ private slots:
         QFETCH(QString, listing);
         const QTemporaryDir folder;
         const QString top = QDir(folder.path()).canonicalPath();
-        for (const char *name : {"a", "b c", "own", "target", "include", "inc"})
+        for (const char *name : {"a", "b c", "own", "target", "include", "inc", "long", "s y s"})
             QDir(top).mkdir(name);
         const QByteArray output = listing.replace("$", top).toLocal8Bit();
         QStringList asked;
-        const QStringList command {"cc", "-I", top + "/inc", "-I" + top + "/none", "-I"};
+        const QStringList command {
+            "cc",          "-isystem" + top + "/s y s", "-I", top + "/inc", "--include-dir",
+            top + "/long", "-I" + top + "/none",        "-I"};
         const RunCommand run = [&](const QStringList &words) {
             asked << words.join(' ').replace(command.join(' '), "*");
             // At first something goes wrong.

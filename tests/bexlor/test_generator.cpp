@@ -354,6 +354,10 @@ private slots:
         const ProgramRun arm = check({"acle.c", "new.c"});
         QVERIFY2(arm.output.contains("acle.c: same\n") && arm.output.contains("new.c:3, "),
                  arm.output);
+        // One that is clang itself reads the same headers as clang.
+        workshop.generate("kov", "clang-14");
+        const ProgramRun alike = check({"order.c"});
+        QVERIFY2(alike.output.contains("order.c: same\n"), alike.output);
         QCOMPARE(workshop.run({"env", "PATH=", GENERATOR, "check", workshop.personality, "same.c"})
                      .exitCode,
                  3);
