@@ -39,5 +39,10 @@ QString withoutMarks(const QString &text);
 /// whole rest.
 QStringList splitCommand(const QString &command);
 
+/// The words of a text that no user has typed: apart at white space outside quotes of either kind,
+/// a backslash making a quote, a space or a backslash behind it literal. So says clang's manual of
+/// compilation databases, and that of the GNU compilers of response files.
+QStringList shellWords(const QString &text);
+
 /// Why \a text cannot be read, behind "since"; empty when it can be.
 QString quotingProblem(const QString &text);

@@ -85,7 +85,8 @@ QList<Piece> piecesFor(const OrderToken &token, const Compiler &compiler, const 
     return pieces;
 }
 
-/// What the word \a index of \a words, with the next one if it needs that, has included first.
+} // namespace
+
 std::optional<IncludedFile> includedFileAt(const QStringList &words, qsizetype index)
 {
     static const QRegularExpression apart(u"^(?:--?(?:include|imacros|preinclude)|[-/]FI)$"_s);
@@ -103,8 +104,6 @@ std::optional<IncludedFile> includedFileAt(const QStringList &words, qsizetype i
         return {};
     return IncludedFile {{word}, option, match.captured(1)};
 }
-
-} // namespace
 
 Compiler findCompiler(const Arguments &arguments)
 {

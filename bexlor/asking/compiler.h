@@ -27,6 +27,9 @@ struct Compiler
     bool namesObjects = true; ///< in the command; some compilers let only a program be named
 };
 
+/// What the word \a index of \a words, with the next one if it needs that, has included first.
+std::optional<IncludedFile> includedFileAt(const QStringList &words, qsizetype index);
+
 /// The compiler of \a arguments, its program found where the wizard finds it too. When there is no
 /// such program the first word stays as it was typed.
 Compiler findCompiler(const Arguments &arguments);

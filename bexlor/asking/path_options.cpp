@@ -77,10 +77,13 @@ QString absoluteWord(const QString &before, const QString &word, const CommandLa
     return isRead && !isOption(word) ? absolutePath(word, folder) : word;
 }
 
-/// The words of the response file \a path.
+/// The words of the response file \a path. Only the GNU compilers' have apostrophes, and
+/// backslashes before spaces.
 std::optional<QStringList> wordsOfResponseFile(const QString &path)
 {
     const std::optional<QString> text = platform::readTextFile(path);
+    if (text && (text->contains(u'\'') || text->contains("\\ "_L1)))
+        return shellWords(*text);
     if (!text || !quotingProblem(*text).isEmpty())
         return {};
     return splitCommand(*text);

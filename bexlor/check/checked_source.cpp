@@ -22,10 +22,9 @@ struct ReadingOption
 
 // The GNU compilers' manual, "Preprocessor Options", "Directory Options" and "C Dialect Options".
 const ReadingOption readingOptions[] = {
-    {"-I"_L1, true, true},         {"-isystem"_L1, true, true},  {"-iquote"_L1, true, true},
-    {"-idirafter"_L1, true, true}, {"-include"_L1, true, false}, {"-imacros"_L1, true, false},
-    {"-D"_L1, true, true},         {"-U"_L1, true, true},        {"-x"_L1, true, true},
-    {"-std="_L1, false, true},     {"-ansi"_L1, false, false},
+    {"-I"_L1, true, true},         {"-isystem"_L1, true, true}, {"-iquote"_L1, true, true},
+    {"-idirafter"_L1, true, true}, {"-D"_L1, true, true},       {"-U"_L1, true, true},
+    {"-x"_L1, true, true},         {"-std="_L1, false, true},   {"-ansi"_L1, false, false},
 };
 
 /// How many of \a words, from \a index on, are an option of the table: 0, 1 or 2.
@@ -53,6 +52,12 @@ qsizetype wordsOfOutput(const QStringList &words, qsizetype index, const QString
 void takeApart(const QStringList &words, const QString &outputFlag, CheckedSource &source)
 {
     for (qsizetype i = 0, count = 0; i < words.size(); i += count) {
+        if (const auto included = i > 0 ? includedFileAt(words, i) : std::nullopt) {
+            source.command << included->words;
+            source.clangOptions << included->option << included->file;
+            count = included->words.size();
+            continue;
+        }
         const qsizetype ofOption = wordsOfOption(words, i);
         const qsizetype ofOutput = ofOption == 0 ? wordsOfOutput(words, i, outputFlag) : 0;
         count = std::max<qsizetype>({1, ofOption, ofOutput});

@@ -1,5 +1,7 @@
 #include "compile_database.h"
 
+#include "quoting.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -32,7 +34,7 @@ std::optional<QList<CompileCommand>> parseDatabase(const QByteArray &json, const
                                 value[fileKey].toString(),
                                 value[argumentsKey].toVariant().toStringList()};
         if (command.words.isEmpty())
-            command.words = databaseWords(value[commandKey].toString());
+            command.words = shellWords(value[commandKey].toString());
         if (command.file.isEmpty() || command.words.isEmpty())
             return {};
         commands << command;
@@ -48,35 +50,6 @@ QByteArray databaseText(const QList<CompileCommand> &commands)
                               {fileKey, command.file},
                               {argumentsKey, QJsonArray::fromStringList(command.words)}};
     return QJsonDocument(array).toJson();
-}
-
-QStringList databaseWords(const QString &command)
-{
-    QStringList words;
-    bool isInWord = false;
-    QChar quote;
-    for (qsizetype i = 0; i < command.size(); ++i) {
-        QChar character = command[i];
-        if (quote.isNull() && character.isSpace()) {
-            isInWord = false;
-            continue;
-        }
-        if (!isInWord)
-            words << QString();
-        isInWord = true;
-        if (character == quote) {
-            quote = QChar();
-            continue;
-        }
-        if (quote.isNull() && (character == u'"' || character == u'\'')) {
-            quote = character;
-            continue;
-        }
-        const bool isLiteral = character == u'\\' && quote != u'\'' && i + 1 < command.size()
-                            && QStringView(u"\\\"' ").contains(command[i + 1]);
-        words.last() += isLiteral ? command[++i] : character;
-    }
-    return words;
 }
 
 bool isInLanguage(const QString &file, bool isCpp)

@@ -19,9 +19,5 @@ std::optional<QList<CompileCommand>> parseDatabase(const QByteArray &json, const
 /// A database of \a commands.
 QByteArray databaseText(const QList<CompileCommand> &commands);
 
-/// The words of a command in a database: apart at white space outside quotes, where a backslash
-/// makes a quote, a space or a backslash behind it literal.
-QStringList databaseWords(const QString &command);
-
 /// Whether \a file is in the language of a personality, by its extension; a header is in both.
 bool isInLanguage(const QString &file, bool isCpp);

@@ -93,7 +93,7 @@ private slots:
             "'-O2', '-include', 'f.h', '-DA=1', '-D', 'B', '-MD', '-MF', 'a.d', '-o', 'a.o', '-c', "
             "'a.c']},\n"
             "{'directory': 'q', 'file': 'b.c', 'command': "
-            "'\\'c c\\' -DX=\\\\\\'y\\\\\\' \\'-DP=a b\\' -ob.o -- b.c'}]";
+            "'\\'c c\\' -DX=\\\\\\'y\\\\\\' \\'-DP=a b\\' --include=g.h -ob.o -- b.c'}]";
         const QString top = QDir::rootPath() + 'p';
         json.replace('\'', '"').replace("/p", top.toUtf8());
         const auto commands = parseDatabase(json, top);
@@ -105,8 +105,9 @@ private slots:
         // The file is called what the compiler calls it.
         QCOMPARE(first.clangOptions.join(' '), "-Iinc -isystem s -include f.h -DA=1 -D B a.c");
         QCOMPARE(first.directory + second.directory, top + top + "/q");
-        QCOMPARE(second.command,
-                 QStringList({"c c", "-DX=\"y\"", "-DP=a b", "-o", "/tmp/5.o", "--", "b.c"}));
+        QCOMPARE(second.command, QStringList({"c c", "-DX=\"y\"", "-DP=a b", "--include=g.h", "-o",
+                                              "/tmp/5.o", "--", "b.c"}));
+        QCOMPARE(second.clangOptions.sliced(2), QStringList({"-include", "g.h", "b.c"}));
         QVERIFY(!parseDatabase("{}", "/p"));
         QVERIFY(!parseDatabase("[{}]", "/p"));
     }

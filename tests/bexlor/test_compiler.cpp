@@ -28,6 +28,7 @@ private slots:
         row("what may be written", "-oodd -oddodd --odd odd --odd=odd",
             "-oodd -oddodd --odd odd --odd=odd");
         row("response file", "@words.rsp -g", "-I$/inc -DA=b c.h -g");
+        row("response file of a GNU compiler", "@gnu.rsp", "-DA=b c -DC=\"x\" -Id\\e");
         row("response files without an end or a mark", "@loop.rsp @half.rsp",
             "@$/loop.rsp @$/half.rsp");
     }
@@ -40,6 +41,7 @@ private slots:
         for (const char *name : {"run.py", "odd", "c.h"})
             writeTestFile(folder.filePath(name));
         writeTestFile(folder.filePath("words.rsp"), "-Iinc\n\"-DA=b c.h\" -MF d");
+        writeTestFile(folder.filePath("gnu.rsp"), "'-DA=b c' -DC=\\\"x\\\" -Id\\e");
         writeTestFile(folder.filePath("loop.rsp"), "@loop.rsp");
         writeTestFile(folder.filePath("half.rsp"), "\"-DA");
         QDir::setCurrent(folder.path());
