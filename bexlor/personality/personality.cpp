@@ -21,10 +21,13 @@ QByteArray quoted(QByteArray text)
     return '"' + text + '"';
 }
 
-/// A line for \a option. Definitions and paths may hold any character, the rest never needs quotes.
+/// A line for \a option. Definitions and paths may hold any character, and the rest does not but in
+/// a file that somebody has written.
 QByteArray optionLine(const Option &option)
 {
-    QByteArray line = option.first().startsWith("-D") ? quoted(option.first()) : option.first();
+    QByteArray line = option.first();
+    if (line.startsWith("-D") || line.contains(' ') || line.contains('"') || line.contains('\\'))
+        line = quoted(line);
     for (const QByteArray &path : option.sliced(1))
         line += ' ' + quoted(path);
     return line;

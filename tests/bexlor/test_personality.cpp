@@ -73,6 +73,9 @@ private slots:
         QVERIFY(!full.typesOfClang.basic.isEmpty()
                 && !full.typesOfClang.pointerDifferenceType.isEmpty());
         QVERIFY(full.language.contains(Option {"-Xclang", "-fno-wchar"}));
+        Personality byHand;
+        byHand.keywordDefinitions = {{"\"$"}, {"a b\\"}};
+        QCOMPARE(parsePersonality(personalityText(byHand)), byHand);
         QCOMPARE(full.includedFirst.first(), Option({"-include", "/first \"one\".h"}));
         Personality bare;
         Personality little = full;
