@@ -157,11 +157,6 @@ private slots:
                          && widget->dynamicPropertyNames().isEmpty(),
                      qPrintable(widget->objectName()));
         }
-        for (const QPushButton *button : forms.all<QPushButton>()) {
-            const bool isOfTheToolkit = button->objectName().contains("qt_");
-            QVERIFY2(isOfTheToolkit || button->shortcut().isEmpty(),
-                     qPrintable(button->objectName()));
-        }
         QStringList titles {""};
         for (const QGroupBox *box : forms.all<QGroupBox>())
             titles << box->title();
