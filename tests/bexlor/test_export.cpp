@@ -156,7 +156,7 @@ private slots:
         row("missing database", {"compile-commands", "x.json"}, 3, "database cannot be read: ");
         row("no database", {"clangd", "arm.p_c"}, 3, "This is no compilation database: ");
         row("no clang", {"clangd", "--clang", "no-clang"}, 3, "can be started: no-clang\n");
-        row("no folder", {"json", "-o", "no/x.json"}, 1, "The folder of the file does not exist: ");
+        row("no folder", {"cppcheck", "-o", "no/x"}, 1, "The folder of the file does not exist: ");
         row("no file", {"json", "-o", "all.json/x"}, 1, "The file cannot be written: ");
     }
     void refusesWhatItCannotDo()
