@@ -22,7 +22,7 @@ private slots:
             "odd \\ y.h:8 c d");
         row("an end", "# 1 \"x.c\"\na\nb", "a", "x.c:2 b ");
         row("the other end", "a", "# 5 \"x.c\"\na b", "x.c:5  b");
-        row("glued signs", "# 1 \"x.c\"\na + +b", "a ++b", "x.c:1 + ++");
+        row("glued signs", "# 1 \"x.c\"\na # 7 + +b", "a # 7 ++b", "x.c:1 + ++");
         row("numbers", "1.5e+3+x 0x1p-2 1'000", "1.5e+3 +x 0x1p-2 1'000", "");
         row("literals", "\"a  b\" L'\\'' /", "\"a  b\" L'\\'' /", "");
         row("space in a literal", "# 1 \"x.c\"\n\"a  b\"", "\"a b\"", "x.c:1 \"a  b\" \"a b\"");
