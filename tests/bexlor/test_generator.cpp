@@ -383,7 +383,7 @@ private slots:
             workshop.run({GENERATOR, "kov", "cmp", '"' + compiler + '"', outputFlag, "-c", "-D",
                           ".o", order, "-op", "mine.p_c", "-check"});
         QVERIFY2(made.succeeded() && made.output.contains("The compiler and clang "), made.output);
-        for (const QString &name : {"x", "a/x", "b/x"}) {
+        for (const QString name : {"x", "a/x", "b/x"}) {
             workshop.write(name + ".c", "#include \"x.h\"\nint a = X;\n");
             workshop.write(name + ".h", "#define X " + QByteArray::number(name.size()) + '\n');
             workshop.write(name + ".o", "mine");
