@@ -66,6 +66,7 @@ private slots:
         row("hard float", "__arm__ __linux__ __ARM_PCS_VFP", {}, little,
             "arm-unknown-linux-gnueabihf");
         row("big-endian Arm", "__arm__ __ELF__", {}, big, "armeb-unknown-none-eabi");
+        row("MIPS", "__mips__ __ELF__", {}, big, "mips-unknown-none-elf");
         row("little-endian MIPS", "__mips64 __mips__ __ELF__", {}, little,
             "mips64el-unknown-none-elf");
         row("RISC-V", "__riscv_xlen=32 __ELF__", {}, little, "riscv32-unknown-none-elf");

@@ -147,7 +147,10 @@ private slots:
         const ProgramRun clang =
             run(QStringList {"clang", "-DA=\"\"", "-Iinc", "-fsyntax-only", "a.c"} + options);
         QVERIFY2(clang.succeeded() && clang.errors.isEmpty(), clang.errors);
-        QVERIFY(exportTo({"vscode"}).output.contains("\"intelliSenseMode\": \"gcc-arm\""));
+        const QByteArray properties = exportTo({"vscode"}).output;
+        QVERIFY2(properties.contains("\"intelliSenseMode\": \"gcc-arm\"")
+                     && properties.contains("\"includePath\": ["),
+                 properties);
     }
 
     void refusesWhatItCannotDo_data()
