@@ -101,7 +101,7 @@ QStringList undefinedKeywords(const Personality &personality)
     const QList<Macro> forHeaders = headerDefinitions(personality.facts.macros);
     QStringList options;
     for (const Option &option : personality.keywordDefinitions) {
-        const QByteArray definition = option.first().sliced(2);
+        const QByteArray definition = option.first().mid(2); // which somebody may have shortened
         const QByteArray name = definition.split('=').first().split('(').first();
         const auto isNamed = [&name](const Macro &macro) { return macro.name == name; };
         const bool makesRoom = option.first().startsWith("-U"); // for a definition behind it
