@@ -40,8 +40,9 @@ QString withoutMarks(const QString &text);
 QStringList splitCommand(const QString &command);
 
 /// The words of a text that no user has typed: apart at white space outside quotes of either kind,
-/// a backslash making a quote, a space or a backslash behind it literal. So says clang's manual of
-/// compilation databases, and that of the GNU compilers of response files.
+/// a backslash making a quote, a space or a backslash behind it literal, as clang's manual says of
+/// compilation databases. Response files of the GNU compilers are read alike; any other character
+/// behind a backslash is taken for a part of a path of Windows.
 QStringList shellWords(const QString &text);
 
 /// Why \a text cannot be read, behind "since"; empty when it can be.

@@ -2,6 +2,8 @@
 
 #include "arguments.h"
 
+#include <optional>
+
 /// A file that the command has included first, by the GNU compilers' -include or -imacros, sdcc's
 /// --include, Arm's and IAR's --preinclude or Microsoft's /FI.
 struct IncludedFile

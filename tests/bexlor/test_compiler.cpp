@@ -2,6 +2,18 @@
 #include "files.h"
 #include "row.h"
 
+namespace {
+
+Compiler compilerCalledWith(const QString &options)
+{
+    Arguments arguments;
+    arguments.command = "\"cc " + options + '"';
+    arguments.layout.outputFlag = "-o";
+    return findCompiler(arguments);
+}
+
+} // namespace
+
 class TestCompiler : public QObject
 {
     Q_OBJECT
@@ -45,10 +57,7 @@ private slots:
         writeTestFile(folder.filePath("loop.rsp"), "@loop.rsp");
         writeTestFile(folder.filePath("half.rsp"), "\"-DA");
         QDir::setCurrent(folder.path());
-        Arguments arguments;
-        arguments.command = "\"cc " + typed + '"';
-        arguments.layout.outputFlag = "-o";
-        const QStringList made = findCompiler(arguments).command.mid(1);
+        const QStringList made = compilerCalledWith(typed).command.mid(1);
         QCOMPARE(made.join(' '), absolute.replace("$", QDir::currentPath()));
         QDir::setCurrent(QDir::rootPath());
     }
@@ -78,9 +87,7 @@ private slots:
     void leavesOutWhatIsNoQuestion()
     {
         QFETCH(QString, options);
-        Arguments arguments;
-        arguments.command = "\"cc " + options + '"';
-        const Compiler compiler = findCompiler(arguments);
+        const Compiler compiler = compilerCalledWith(options);
         QTEST(compiler.command.mid(1).join(' '), "kept");
     }
 
@@ -101,9 +108,7 @@ private slots:
     void findsWhatIsIncludedFirst()
     {
         QFETCH(QString, options);
-        Arguments arguments;
-        arguments.command = "\"cc " + options + '"';
-        const Compiler compiler = findCompiler(arguments);
+        const Compiler compiler = compilerCalledWith(options);
         QTEST(compiler.command.mid(1).join(' '), "kept");
         QStringList included;
         for (const IncludedFile &file : compiler.includedFirst)

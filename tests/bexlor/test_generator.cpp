@@ -17,9 +17,9 @@ private:
     {
         QTemporaryDir folder;
         const QString personality = folder.filePath("sub folder/mine.p_c");
-        const bool hasClang;
+        const bool triesHeaders;
 
-        explicit Workshop(bool triesHeaders = false) : hasClang(triesHeaders)
+        explicit Workshop(bool hasClang = false) : triesHeaders(hasClang)
         {
             QDir(folder.path()).mkdir("sub folder");
             write("no clang/clang", "not a program");
@@ -44,7 +44,7 @@ private:
             words += QStringList {"-D", ".o", "%c %o%e %d%j %s "} + directories
                    + QStringList {"-op", "sub folder\\mine.p_c"} + more;
             const QString path = folder.filePath("no clang") + ':' + qEnvironmentVariable("PATH");
-            if (!hasClang)
+            if (!triesHeaders)
                 words = QStringList {"env", "PATH=" + path} + words;
             return run(words);
         }

@@ -48,7 +48,7 @@ QStringList cutOff(const QList<Widget *> &widgets)
 QList<QWidget *> named(const QWidget *form)
 {
     QList<QWidget *> widgets = form->findChildren<QWidget *>(QRegularExpression("^[A-Za-z]"));
-    widgets.removeIf([](const QWidget *widget) { return widget->objectName().contains("qt_"); });
+    widgets.removeIf([](const QWidget *widget) { return widget->objectName().startsWith("qt_"); });
     return widgets;
 }
 

@@ -14,6 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const char *data, std::size_t size)
     commandWords(text, [](const QString &word) { return word.size() % 2 == 0; });
 
     splitCommand(text);
+    shellWords(text);
     const QStringList items = splitCommaList(toCommaList(text));
     for (const QString &item : items) {
         if (item.isEmpty() || item != item.trimmed())
