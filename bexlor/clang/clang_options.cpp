@@ -27,11 +27,12 @@ const Standard cppStandards[] = {{199711, "98"}, {201103, "11"}, {201402, "14"},
                                  {201703, "17"}, {202002, "20"}, {202100, "2b"}};
 
 /// The language version that \a macro tells, the newest one of \a table that is not newer than its
-/// value; none when nothing is known of the macro. \a isoPrefix and \a gnuPrefix stand before it.
+/// value or than \a least; none when nothing is known of the macro. \a isoPrefix and \a gnuPrefix
+/// stand before it.
 template <std::size_t Size>
 QList<QByteArray> standardOption(const MacroFacts &macros, const QByteArray &macro,
                                  const Standard (&table)[Size], const char *isoPrefix,
-                                 const char *gnuPrefix)
+                                 const char *gnuPrefix, long least = 0)
 {
     const Macro *version = findMacro(macros, macro);
     if (!version && (macros.known.isEmpty() || macros.undetermined.contains(macro)))
@@ -39,7 +40,7 @@ QList<QByteArray> standardOption(const MacroFacts &macros, const QByteArray &mac
     QByteArray digits = version ? version->value : QByteArray("0");
     while (!digits.isEmpty() && !std::isdigit(static_cast<unsigned char>(digits.back())))
         digits.chop(1);
-    const long value = digits.toLong();
+    const long value = std::max(digits.toLong(), least);
     QByteArray name = table[0].name;
     for (const Standard &row : table) {
         if (row.value <= value)
@@ -199,7 +200,11 @@ QList<QByteArray> versionOptions(const MacroFacts &macros, bool isCpp)
     // Microsoft's compiler tells its version in this, and 1998 in the other unless /Zc:__cplusplus
     // is given.
     const QByteArray version = findMacro(macros, "_MSVC_LANG") ? "_MSVC_LANG" : "__cplusplus";
-    QList<QByteArray> options = standardOption(macros, version, cppStandards, "c++", "gnu++");
+    // GNU compilers have these in older versions too, by options; clang does not.
+    const bool isLike20 =
+        findMacro(macros, "__cpp_concepts") || findMacro(macros, "__cpp_impl_coroutine");
+    QList<QByteArray> options =
+        standardOption(macros, version, cppStandards, "c++", "gnu++", isLike20 ? 202002 : 0);
     for (const Feature &feature : cppFeatures)
         options << optionsOf(feature, macros);
     return options;

@@ -30,7 +30,7 @@ const PassedOption passedOptionTable[] = {
      "dollars-in-identifiers|openmp|blocks|declspec|borland-extensions|asm-blocks|"
      "ms-compatibility|delayed-template-parsing))"_s,
      u"\\1"_s},
-    {u"(-ffreestanding|-fhosted|-fpack-struct=\\d+|-f(template|constexpr)-depth=\\d+|"
+    {u"(-ffreestanding|-fhosted|-W(no-)?write-strings|-fpack-struct=\\d+|-f(template|constexpr)-depth=\\d+|"
      "-m(no-)?ms-bitfields|-malign-double|-mcmse|-mzvector)"_s,
      u"\\1"_s},
     {u"(-f(no-)?gnu89-inline)"_s, u"\\1"_s, true},
@@ -51,8 +51,8 @@ const PassedOption passedOptionTable[] = {
     {u"/J"_s, u"-funsigned-char"_s},
     {u"/openmp(:.+)?"_s, u"-fopenmp"_s},
     // Clang takes -fpermissive without obeying it, and reads and writes UTF-8 alone.
-    {u"-fcond-mismatch|-fgnu-tm|-fgimple|-fsso-struct=.+|-fpermissive|-fconcepts(-ts)?|"
-     "-fcoroutines|-fimplicit-constexpr|-fno-ext-numeric-literals|"
+    {u"-fcond-mismatch|-fgnu-tm|-fgimple|-fsso-struct=.+|-fpermissive|-fconcepts-ts|"
+     "-fimplicit-constexpr|-fno-ext-numeric-literals|"
      "-fnew-ttp-matching|-fno-for-scope|-traditional(-cpp)?|-f(unsigned|no-signed)-bitfields|"
      "--unsigned_bitfields|-mstructure-size-boundary=.+|[-/]vm[gbsmv]|/G[rvz]|"
      "(-f(input|exec|wide-exec)-charset=|/(source|execution)-charset:)(?!(?i)utf-?(8|32)).+"_s,

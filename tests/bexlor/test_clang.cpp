@@ -197,6 +197,8 @@ private slots:
         row("a function of that name", "-ffreestanding -fno-builtin-printf", false,
             "char *printf(void);\n#if __STDC_HOSTED__\n#error\n#endif");
         row("old inline", "-fgnu89-inline", false, "#ifndef __GNUC_GNU_INLINE__\n#error\n#endif");
+        row("constant literals", "-Wwrite-strings", false,
+            "char *a; int b[_Generic(&\"c\", const char (*)[2]: 1, default: -1)];");
         row("wchar_t of a header", "/Zc:wchar_t-", true, "typedef short wchar_t;");
         row("words for operators", "-fno-operator-names -fno-access-control", true,
             "class a { int and; } b; int c = b.and;");
@@ -220,7 +222,7 @@ private slots:
     {
         const PassedOptions options = passedOptions(
             {"-fgimple", "-fgnu89-inline", "-Wall", "-finput-charset=utf-8", "-fexec-charset=x y",
-             "-fpack-struct=1 -fplugin=x", "-fcond-mismatch", "-fcond-mismatch"},
+             "-fpack-struct=1 -fplugin=x", "-fcond-mismatch", "-fcond-mismatch", "-fconcepts"},
             true);
         QCOMPARE(options.lacking, QStringList({"-fexec-charset=x y", "-fcond-mismatch"}));
         QCOMPARE(options.forClang, QList<QByteArray>());
@@ -250,6 +252,9 @@ private slots:
         row("short wchar_t, char8_t, exceptions", true,
             "char a[sizeof(wchar_t)==2?1:-1]; char8_t b = u8'a'; void f() { throw 1; }\n"
             "#if !__cpp_rtti\n#error\n#endif\n");
+        facts.macros.known = macros("__cplusplus=201703L __cpp_concepts");
+        row("concepts before C++20", true,
+            "template <class T> concept A = true; template <A T> void f(T); char b[] = u8\"b\";");
         facts.keywords.append({"_Accum", Keyword::Undetermined, {}});
         row("fixed point", false, "long _Accum a; unsigned _Fract b = 0.5ur;");
         facts.macros.known = macros("__arm__ __ELF__ __ARM_ARCH=7 __ARM_ARCH_7A__ __ARM_NEON "
