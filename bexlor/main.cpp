@@ -139,7 +139,8 @@ ExitStatus inWorkshop(const Work &work)
     return work(progress, workshop.path());
 }
 
-/// The same with the personality \a path; \a otherwise is the status when that cannot be read.
+/// The same with the personality \a path, where it was generated; \a otherwise is the status when
+/// that cannot be read.
 ExitStatus withPersonality(
     const QString &path, ExitStatus otherwise,
     const std::function<ExitStatus(Progress &progress, const EarlierPersonality &earlier,
@@ -151,7 +152,10 @@ ExitStatus withPersonality(
         return otherwise;
     }
     return inWorkshop([&](Progress &progress, const QString &folder) {
-        return work(progress, std::get<EarlierPersonality>(read), folder);
+        const auto &earlier = std::get<EarlierPersonality>(read);
+        if (const std::optional<QString> remark = enterFolderOf(earlier))
+            progress.say(*remark);
+        return work(progress, earlier, folder);
     });
 }
 
@@ -169,8 +173,6 @@ ExitStatus run(const AgainRequest &request)
     return withPersonality(
         request.personality, ExitStatus::Failed,
         [&request](Progress &progress, const EarlierPersonality &earlier, const QString &folder) {
-            if (!earlier.remark.isEmpty())
-                progress.say(earlier.remark);
             return request.verifiesOnly ? verify(progress, earlier, folder)
                                         : generate(progress, earlier.arguments, folder);
         });

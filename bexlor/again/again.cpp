@@ -86,14 +86,19 @@ std::variant<EarlierPersonality, QString> readEarlierPersonality(const QString &
     if (const auto *error = std::get_if<UsageError>(&parsed))
         return u"The answers in the personality are not complete. %1"_s.arg(error->sentence);
 
-    EarlierPersonality earlier {file.bytes, content, std::get<Arguments>(parsed), {}};
+    EarlierPersonality earlier {file.bytes, content, std::get<Arguments>(parsed)};
     earlier.arguments.personality = path;
     earlier.arguments.answers = answers;
-    if (!QDir::setCurrent(answers.directory))
-        earlier.remark =
-            u"There is no folder %1; what was relative to it is looked for in %2."_s.arg(
-                answers.directory, QDir::currentPath());
     return earlier;
+}
+
+std::optional<QString> enterFolderOf(const EarlierPersonality &earlier)
+{
+    const QString &folder = earlier.arguments.answers.directory;
+    if (QDir::setCurrent(folder))
+        return {};
+    return u"There is no folder %1; what was relative to it is looked for in %2."_s.arg(
+        folder, QDir::currentPath());
 }
 
 QStringList changesBetween(const QByteArray &before, const QByteArray &after)
