@@ -140,8 +140,9 @@ private slots:
         row("kinds of numbers", {"avr-gcc"}, 26,
             {"_Accum: 3", "_Fract: 3", "__int24: 3", "__builtin_va_list: 3"}, {"_Bool"});
         row("no truth values", {"cl65", "-t", "none"}, 52, {"_Bool: 6"}, {});
-        row("decimal numbers", {"gcc"}, 21, {"_Decimal32: 3 float", "_Float32: 3 float"},
-            {"_Bool"});
+        row("decimal numbers, and what no list knows", {"gcc", "-fgnu-tm"}, 21,
+            {"_Decimal32: 3 float", "_Float32: 3 float", "__transaction_atomic: 0"},
+            {"_Bool", "__transaction_cancel", "__builtin_has_attribute"});
     }
     void findsKeywords()
     {
@@ -155,9 +156,12 @@ private slots:
         TypeFacts types;
         types.basic = {{"char", 1, 1}, {"int", 2, 1}, {"float", 4, 1}};
         QMap<QByteArray, QByteArray> forms;
-        for (const Keyword &keyword : learnKeywords(
-                 subject.questions, {{"__near", UsedInHeader}, {"ordinary", UsedInHeader}},
-                 {{{"__xdata", ""}}, {"__idata"}}, types)) {
+        for (const Keyword &keyword : learnKeywords(subject.questions,
+                                                    {{"__transaction_atomic", UsedInHeader},
+                                                     {"__transaction_cancel", InBinary},
+                                                     {"__builtin_has_attribute", UsedInHeader},
+                                                     {"ordinary", UsedInHeader}},
+                                                    {{{"__xdata", ""}}, {"__idata"}}, types)) {
             const QByteArray standIn = keyword.standIn.isEmpty() ? "" : ' ' + keyword.standIn;
             forms[keyword.name] += ' ' + QByteArray::number(keyword.form) + standIn;
         }
