@@ -26,11 +26,9 @@ private slots:
         row("behind no option", "run.py odd", "$/run.py $/odd");
         row("behind a letter", "-Iinc -Linc /Iinc", "-I$/inc -L$/inc /I$/inc");
         row("apart", "-I inc -isystem inc --dlib_config odd",
-            "-I $/inc -isystem $/inc "
-            "--dlib_config $/odd");
+            "-I $/inc -isystem $/inc --dlib_config $/odd");
         row("behind a sign", "--sysroot=inc -fi=odd --sysroot inc",
-            "--sysroot=$/inc -fi=$/odd "
-            "--sysroot $/inc");
+            "--sysroot=$/inc -fi=$/odd --sysroot $/inc");
         row("prefixes", "-iprefix inc/ -iwithprefix inc -iwithprefixbefore inc -iwithprefixinc",
             "-iprefix $/inc/ -iwithprefix inc -iwithprefixbefore inc -iwithprefixinc");
         row("no file", "-Inowhere -O2", "-Inowhere -O2");
