@@ -1,6 +1,7 @@
 #include "fact_forms.h"
 
 #include "clang.h"
+#include "template_options.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -51,6 +52,12 @@ QString languageOption(const Personality &personality, const QByteArray &start)
     return QString();
 }
 
+/// The macros that the code sees: those of the compiler, and what a template has changed.
+QList<Macro> macrosSeen(const Personality &personality)
+{
+    return changedMacros(personality.facts.macros.known, personality.templateText);
+}
+
 } // namespace
 
 QByteArray cppcheckPlatform(const Facts &facts)
@@ -81,11 +88,11 @@ QByteArray cppcheckPlatform(const Facts &facts)
     return file;
 }
 
-QByteArray macroHeader(const Facts &facts)
+QByteArray macroHeader(const Personality &personality)
 {
     const QList<QByteArray> ofLanguage = macrosOfClang();
     QByteArray header;
-    for (const Macro &macro : facts.macros.known) {
+    for (const Macro &macro : macrosSeen(personality)) {
         // An analyser has those of the language itself by its own choice of the standard.
         if (!ofLanguage.contains(macro.name))
             header += "#define " + macro.name + ' ' + macro.value + '\n';
@@ -99,7 +106,7 @@ QByteArray vscodeProperties(const Personality &personality, bool isCpp, const QS
     for (const QString &directory : personality.facts.searchPath.directories)
         include << directory;
     QJsonArray defines;
-    for (const Macro &macro : personality.facts.macros.known)
+    for (const Macro &macro : macrosSeen(personality))
         defines << QString::fromUtf8(macro.name + '=' + macro.value);
     const QString target = languageOption(personality, "--target=");
     const auto *mode =

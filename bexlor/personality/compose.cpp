@@ -1,11 +1,11 @@
 #include "personality.h"
 
 #include "clang.h"
+#include "template_options.h"
 #include "typed_command.h"
 #include "visible_text.h"
 
 #include <QDir>
-#include <QRegularExpression>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -72,17 +72,16 @@ bool fitsOnLine(const Macro &macro)
     return canBeDefined(macro) && !hasControlCharacter(macro.value);
 }
 
-/// Those of \a macros that a line of \a templateText defines anew.
+/// Those of \a macros that \a templateText defines anew.
 QList<Macro> overridden(const QList<Macro> &macros, const QByteArray &templateText)
 {
-    static const QRegularExpression definition(u"^[ \\t]*[\"']?-D[ \\t]*[\"']?([A-Za-z_]\\w*)"_s,
-                                               QRegularExpression::MultilineOption);
-    QSet<QByteArray> names;
-    for (const auto &match : definition.globalMatch(QString::fromUtf8(templateText)))
-        names << match.captured(1).toUtf8();
+    const QList<MacroChange> changes = macroChanges(templateText);
     QList<Macro> chosen = macros;
-    chosen.removeIf(
-        [&names](const Macro &macro) { return !names.contains(macro.name.split('(').first()); });
+    chosen.removeIf([&changes](const Macro &macro) {
+        return std::none_of(changes.begin(), changes.end(), [&macro](const MacroChange &change) {
+            return change.value && change.concerns(macro);
+        });
+    });
     return chosen;
 }
 
@@ -93,17 +92,14 @@ Personality composePersonality(const Arguments &arguments, const Facts &facts,
 {
     const PassedOptions passed = passedOptions(parts.command, arguments.isCpp);
     const Language language = languageOf(facts, passed.forClang, arguments.isCpp);
-    Personality personality {typedCommand(arguments.command),
-                             arguments.switches,
-                             arguments.answers,
-                             passed.lacking,
-                             facts,
-                             language.differingTypes,
-                             templateText,
-                             {},
-                             {},
-                             {},
-                             {}};
+    Personality personality;
+    personality.command = typedCommand(arguments.command);
+    personality.switches = arguments.switches;
+    personality.answers = arguments.answers;
+    personality.lacking = passed.lacking;
+    personality.facts = facts;
+    personality.typesOfClang = language.differingTypes;
+    personality.templateText = templateText;
     if (!templateText.isEmpty() && !templateText.endsWith('\n'))
         personality.templateText += '\n';
     MacroFacts &macros = personality.facts.macros;
@@ -126,9 +122,6 @@ Personality composePersonality(const Arguments &arguments, const Facts &facts,
     personality.searchPath = searchOptions(arguments, facts, parts.includeDirectories);
     if (!arguments.forceIncludeFile.isEmpty())
         personality.includedFirst << pathOption("-include", arguments.forceIncludeFile);
-    // A name that is no path is searched for, so these stay as they are.
-    for (qsizetype i = 0; i + 1 < parts.includedFirst.size(); i += 2)
-        personality.includedFirst.append(
-            {parts.includedFirst[i].toUtf8(), parts.includedFirst[i + 1].toUtf8()});
+    personality.includedFirst << parts.includedFirst;
     return personality;
 }

@@ -1,6 +1,7 @@
 #include "personality.h"
 
 #include "clang.h"
+#include "template_options.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -337,9 +338,9 @@ QList<Option> optionsOf(const Section &section, const Personality &personality)
     return options;
 }
 
-void addWords(const Option &option, QJsonArray &words)
+void addWords(const QList<QByteArray> &more, QJsonArray &words)
 {
-    for (const QByteArray &word : option)
+    for (const QByteArray &word : more)
         words << QString::fromUtf8(word);
 }
 
@@ -419,6 +420,8 @@ QJsonObject personalityFacts(const Personality &personality)
     collector.facts["predefined"_L1] = macros;
     QJsonArray options;
     for (const Section &section : sections) {
+        if (&section == &behindTemplate)
+            addWords(templateWords(personality.templateText), options);
         for (const Option &option : optionsOf(section, personality))
             addWords(option, options);
     }

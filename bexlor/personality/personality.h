@@ -32,7 +32,7 @@ struct CommandParts
 {
     QStringList command;            ///< the program and its options
     QStringList includeDirectories; ///< those that it names by -I
-    QStringList includedFirst;      ///< options of clang, each followed by its file
+    QList<Option> includedFirst;    ///< each with a name as it is searched for, or a path
 };
 
 /// The personality of the compiler of \a facts, which is called as \a parts say, with what the user

@@ -8,6 +8,7 @@
 
 #include <QFileInfo>
 #include <QJsonDocument>
+#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -16,8 +17,9 @@ namespace {
 ExitStatus write(Progress &progress, const QString &file, const QByteArray &content)
 {
     if (file.isEmpty()) {
-        progress.say(QString::fromUtf8(content).trimmed());
-        return ExitStatus::Done;
+        // As it is: another encoding than that of the file would be no JSON.
+        std::fwrite(content.constData(), 1, std::size_t(content.size()), stdout);
+        return std::fflush(stdout) == 0 ? ExitStatus::Done : ExitStatus::Failed;
     }
     if (!platform::writeFile(file, content)) {
         progress.say(notWritten(u"file"_s, file));
@@ -80,16 +82,16 @@ ExitStatus writeForClang(Progress &progress, const ExportRequest &request,
 }
 
 /// Writes the platform, and beside it the header of the macros.
-ExitStatus writeForCppcheck(Progress &progress, const QString &file, const Facts &facts)
+ExitStatus writeForCppcheck(Progress &progress, const QString &file, const Personality &personality)
 {
-    const QByteArray types = cppcheckPlatform(facts);
+    const QByteArray types = cppcheckPlatform(personality.facts);
     if (types.isEmpty()) {
         progress.say(u"The personality holds no type that cppcheck can express."_s);
         return ExitStatus::Missing;
     }
     const QString header = file + ".h"_L1;
     const bool isWritten = write(progress, file, types) == ExitStatus::Done
-                        && write(progress, header, macroHeader(facts)) == ExitStatus::Done;
+                        && write(progress, header, macroHeader(personality)) == ExitStatus::Done;
     if (!isWritten)
         return ExitStatus::Failed;
     progress.say(
@@ -110,7 +112,7 @@ ExitStatus exportPersonality(Progress &progress, const ExportRequest &request,
     case ExportRequest::Clangd:
         return writeForClang(progress, request, arguments, folder);
     case ExportRequest::Cppcheck:
-        return writeForCppcheck(progress, request.output, content.facts);
+        return writeForCppcheck(progress, request.output, content);
     case ExportRequest::VsCode:
         return write(progress, request.output,
                      vscodeProperties(content, arguments.isCpp,

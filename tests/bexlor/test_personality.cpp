@@ -1,4 +1,5 @@
 #include "personality.h"
+#include "template_options.h"
 
 #include "clang.h"
 #include "dialects.h"
@@ -50,8 +51,9 @@ Personality fullPersonality()
     facts.attributes = {"h", "i"};
     facts.leniencies = {"return-type", "implicit-int"};
     facts.searchPath = {{"/a b", "/c"}, {"/q"}};
-    const CommandParts parts {
-        {"cc", "-fcond-mismatch", "/Zc:wchar_t-"}, {}, {"-include", "x.h", "-imacros", "y z.h"}};
+    const CommandParts parts {{"cc", "-fcond-mismatch", "/Zc:wchar_t-"},
+                              {},
+                              {{"-include", "x.h"}, {"-imacros", "y z.h"}}};
     return composePersonality(arguments, facts, parts,
                               "-DFROM_TEMPLATE=1\n# Search path\n#: keyword __f qualifier");
 }
@@ -124,21 +126,25 @@ private slots:
         writeTestFile(folder.filePath("first/x.h"), "#define X 1\n");
         writeTestFile(folder.filePath("own/x.h"), "#error\n");
         facts.searchPath.directories = QStringList {folder.filePath("own")};
-        const QByteArray overriding = "-DOVERRIDDEN=2\n \"-DALSO=2 -DM5\"\n-isystem "
-                                    + folder.filePath("first").toLocal8Bit() + "\n-include x.h";
+        const QByteArray overriding =
+            "# -DNONE\n-DOTHER -D OVERRIDDEN=2 -UM9\n \"-DALSO=2 -DM5\"\n-isystem "
+            + folder.filePath("first").toLocal8Bit() + "\n-include x.h";
         const QString path = folder.filePath("odd \"name\".p_c");
-        writeTestFile(path, personalityText(composePersonality(arguments, facts, {}, overriding)));
+        const Personality made = composePersonality(arguments, facts, {}, overriding);
+        writeTestFile(path, personalityText(made));
         const platform::ProgramRun seen = platform::runProgram(
             {"clang", "--config", path, "-dM", "-E", source}, folder.path(), 60'000);
         QCOMPARE(seen.errors, QByteArray());
         QList<Macro> macros = macrosIn(seen.output);
         const QList<Macro> added = keywordDefinitions(facts);
         macros.removeIf([&added](const Macro &macro) { return added.contains(macro); });
-        facts.macros.known.removeOne(Macro {"OVERRIDDEN", "1"});
-        facts.macros.known.removeOne(Macro {"ALSO(a)", "1"});
-        facts.macros.known << Macro {"OVERRIDDEN", "2"} << Macro {"ALSO", "2 -DM5"}
-                           << Macro {"X", "1"};
-        QCOMPARE(sorted(macros), sorted(facts.macros.known));
+        QCOMPARE(sorted(macros),
+                 sorted(changedMacros(facts.macros.known, overriding) + QList<Macro> {{"X", "1"}}));
+        const QStringList options = personalityFacts(made)["options"].toVariant().toStringList()
+                                 << "-dM"
+                                 << "-E" << source;
+        QCOMPARE(platform::runProgram(QStringList("clang") + options, folder.path(), 60'000).output,
+                 seen.output);
     }
 
     void searchesInOrder()
