@@ -6,30 +6,23 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <cstdio>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-void complain(const QString &text)
-{
-    std::fprintf(stderr, "calyx: %s\n", text.toLocal8Bit().constData());
-}
-
-} // namespace
 
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     const platform::Installation installation = platform::installation();
-    for (const QString &file : bringUpToDate(installation.shipped, installation.folder))
-        complain(u"cannot bring %1 up to date"_s.arg(QDir::toNativeSeparators(file)));
+    const QStringList left = bringUpToDate(installation.shipped, installation.folder);
+    if (!left.isEmpty()) {
+        platform::complain(
+            u"cannot bring %1 up to date"_s.arg(QDir::toNativeSeparators(left.join(", "_L1))));
+    }
     const QString workingDirectory = QDir(installation.folder).filePath(u"bin"_s);
     const std::optional<int> status = platform::continueAs(
         installation.wizard, QCoreApplication::arguments().mid(1), workingDirectory);
     if (!status) {
-        complain(u"cannot start %1 in %2"_s.arg(installation.wizard, workingDirectory));
+        platform::complain(u"cannot start %1 in %2"_s.arg(installation.wizard, workingDirectory));
         return 1;
     }
     return *status;

@@ -19,4 +19,14 @@ QString commandLine(const QStringList &command)
     return words.join(u' ');
 }
 
+QString commandFileLine(const QStringList &command)
+{
+    return commandLine(command);
+}
+
+QStringList splitCommandLine(const QString &line)
+{
+    return shellWords(line);
+}
+
 } // namespace platform

@@ -19,6 +19,9 @@ struct Installation
 /// directories are. On Windows all is one folder, in which the user may write.
 Installation installation();
 
+/// Tells the user of a program that no console may belong to what has gone wrong.
+void complain(const QString &text);
+
 /// Goes on as \a program, whose exit status is returned unless it takes this process's place.
 /// Nothing when it cannot be started in \a workingDirectory.
 std::optional<int> continueAs(const QString &program, const QStringList &arguments,

@@ -1,5 +1,7 @@
 #include "installation.h"
 
+#include "console.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QStandardPaths>
@@ -15,6 +17,11 @@ Installation installation()
     const QString prefix = QDir::cleanPath(QCoreApplication::applicationDirPath() + "/.."_L1);
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     return {prefix + "/lib/calyx/calyx"_L1, prefix + "/share/calyx"_L1, data + "/calyx"_L1};
+}
+
+void complain(const QString &text)
+{
+    print(stderr, "calyx: "_L1 + text + u'\n');
 }
 
 std::optional<int> continueAs(const QString &program, const QStringList &arguments,

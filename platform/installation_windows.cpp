@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QProcess>
+#include <qt_windows.h>
 
 using namespace Qt::StringLiterals;
 
@@ -13,6 +14,11 @@ Installation installation()
     const QString bin = QCoreApplication::applicationDirPath();
     const QString folder = QDir::cleanPath(bin + "/.."_L1);
     return {bin + "/calyx.exe"_L1, folder, folder};
+}
+
+void complain(const QString &text)
+{
+    MessageBoxW(nullptr, text.toStdWString().c_str(), L"Calyx", MB_OK | MB_ICONWARNING);
 }
 
 std::optional<int> continueAs(const QString &program, const QStringList &arguments,

@@ -39,11 +39,5 @@ QString withoutMarks(const QString &text);
 /// whole rest.
 QStringList splitCommand(const QString &command);
 
-/// The words of a text that no user has typed: apart at white space outside quotes of either kind,
-/// a backslash making a quote, a space or a backslash behind it literal, as clang's manual says of
-/// compilation databases. Response files of the GNU compilers are read alike; any other character
-/// behind a backslash is taken for a part of a path of Windows.
-QStringList shellWords(const QString &text);
-
 /// Why \a text cannot be read, behind "since"; empty when it can be.
 QString quotingProblem(const QString &text);

@@ -1,5 +1,6 @@
 #include "path_options.h"
 
+#include "command_line.h"
 #include "quoting.h"
 #include "text_file.h"
 
@@ -11,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const int deepestResponseFile = 10; // one that names itself has no end
+const int mostResponseFiles = 200; // those that name themselves have no end
 
 /// Options that name what the compiler reads, be it in the same word, there perhaps behind a sign,
 /// or in the next. From the manuals of the GNU compilers, clang, cc65, sdcc, Open Watcom, and of
@@ -83,21 +84,23 @@ std::optional<QStringList> wordsOfResponseFile(const QString &path)
 {
     const std::optional<QString> text = platform::readTextFile(path);
     if (text && (text->contains(u'\'') || text->contains("\\ "_L1)))
-        return shellWords(*text);
+        return platform::shellWords(*text);
     if (!text || !quotingProblem(*text).isEmpty())
         return {};
     return splitCommand(*text);
 }
 
-QStringList withoutResponseFiles(const QStringList &words, const QDir &folder, int depth)
+/// The same as below for at most \a left files, from which those that are read are taken away.
+QStringList withoutResponseFiles(const QStringList &words, const QDir &folder, int &left)
 {
     QStringList expanded;
     for (const QString &word : words) {
         const QString path = folder.filePath(word.mid(1));
-        const bool isNamed = word.startsWith(u'@') && depth > 0 && QFileInfo(path).isFile();
+        const bool isNamed = word.startsWith(u'@') && left > 0 && QFileInfo(path).isFile();
+        left -= isNamed ? 1 : 0;
         const auto inside = isNamed ? wordsOfResponseFile(path) : std::nullopt;
         if (inside)
-            expanded << withoutResponseFiles(*inside, folder, depth - 1);
+            expanded << withoutResponseFiles(*inside, folder, left);
         else
             expanded << word;
     }
@@ -108,7 +111,8 @@ QStringList withoutResponseFiles(const QStringList &words, const QDir &folder, i
 
 QStringList withoutResponseFiles(const QStringList &words, const QDir &folder)
 {
-    return withoutResponseFiles(words, folder, deepestResponseFile);
+    int left = mostResponseFiles;
+    return withoutResponseFiles(words, folder, left);
 }
 
 QStringList withAbsolutePaths(const QStringList &words, const CommandLayout &layout,

@@ -1,6 +1,7 @@
 #include "clang_program.h"
 
 #include "program_search.h"
+#include "text_file.h"
 
 #include <QDir>
 #include <QRegularExpression>
@@ -22,14 +23,14 @@ std::optional<Clang> findClang(const QString &word)
     const platform::ProgramRun run =
         platform::runProgram({clang.program, u"--version"_s}, QDir::tempPath(), patience);
     static const QRegularExpression version(u"clang version (\\d+)"_s);
-    const QRegularExpressionMatch found = version.match(QString::fromLocal8Bit(run.output));
+    const QRegularExpressionMatch found = version.match(platform::decodedText(run.output));
     if (!run.succeeded() || !found.hasMatch())
         return {};
     clang.version = "clang "_L1 + found.captured(1);
     const QByteArray folder =
         platform::runProgram({clang.program, u"-print-resource-dir"_s}, QDir::tempPath(), patience)
             .output.trimmed();
-    clang.headers = QDir::cleanPath(QString::fromLocal8Bit(folder) + "/include"_L1);
+    clang.headers = QDir::cleanPath(platform::decodedText(folder) + "/include"_L1);
     return clang;
 }
 

@@ -1,6 +1,6 @@
 #include "compile_database.h"
 
-#include "quoting.h"
+#include "command_line.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -34,7 +34,7 @@ std::optional<QList<CompileCommand>> parseDatabase(const QByteArray &json, const
                                 value[fileKey].toString(),
                                 value[argumentsKey].toVariant().toStringList()};
         if (command.words.isEmpty())
-            command.words = shellWords(value[commandKey].toString());
+            command.words = platform::splitCommandLine(value[commandKey].toString());
         if (command.file.isEmpty() || command.words.isEmpty())
             return {};
         commands << command;

@@ -39,8 +39,9 @@ private slots:
             "-oodd -oddodd --odd odd --odd=odd");
         row("response file", "@words.rsp -g", "-I$/inc -DA=b c.h -g");
         row("response file of a GNU compiler", "@gnu.rsp", "-DA=b c -DC=\"x\" -Id\\e");
-        row("response files without an end or a mark", "@loop.rsp @half.rsp",
-            "@$/loop.rsp @$/half.rsp");
+        row("response file without a mark", "@half.rsp", "@$/half.rsp");
+        row("response files without an end", "@loop.rsp",
+            QString("@$/loop.rsp ").repeated(200 * 3 + 1).trimmed());
     }
     void makesRelativePathsAbsolute()
     {
@@ -52,7 +53,7 @@ private slots:
             writeTestFile(folder.filePath(name));
         writeTestFile(folder.filePath("words.rsp"), "-Iinc\n\"-DA=b c.h\" -MF d");
         writeTestFile(folder.filePath("gnu.rsp"), "'-DA=b c' -DC=\\\"x\\\" -Id\\e");
-        writeTestFile(folder.filePath("loop.rsp"), "@loop.rsp");
+        writeTestFile(folder.filePath("loop.rsp"), "@loop.rsp @loop.rsp @loop.rsp @loop.rsp");
         writeTestFile(folder.filePath("half.rsp"), "\"-DA");
         QDir::setCurrent(folder.path());
         const QStringList made = compilerCalledWith(typed).command.mid(1);

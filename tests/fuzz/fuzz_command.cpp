@@ -2,6 +2,7 @@
 
 #include "comma_list.h"
 #include "command_check.h"
+#include "command_line.h"
 #include "compiler.h"
 #include "order_tokens.h"
 #include "quoting.h"
@@ -14,7 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const char *data, std::size_t size)
     commandWords(text, [](const QString &word) { return word.size() % 2 == 0; });
 
     splitCommand(text);
-    shellWords(text);
+    platform::shellWords(text);
     const QStringList items = splitCommaList(toCommaList(text));
     for (const QString &item : items) {
         if (item.isEmpty() || item != item.trimmed())
