@@ -115,6 +115,22 @@ QString problemWithQuoting(QLatin1StringView name, const QStringList &texts)
     return QString();
 }
 
+/// What stands behind the define flag must be a define: the flag could be one that names a file to
+/// be written. Without a flag the define may bring its own.
+QString problemWithDefines(const Arguments &arguments)
+{
+    static const QRegularExpression named(u"^[\\p{L}_$][\\w$]*($|[=(#\\s])"_s,
+                                          QRegularExpression::UseUnicodePropertiesOption);
+    static const QRegularExpression ownFlag(u"^[-/]"_s);
+    for (QString define : arguments.defines) {
+        if (arguments.layout.defineFlag.isEmpty())
+            define.remove(ownFlag);
+        if (!define.contains(named))
+            return u"The define does not begin with a name: %1"_s.arg(visibleText(define));
+    }
+    return QString();
+}
+
 QString problemWithTexts(const Arguments &arguments)
 {
     const QStringList texts = QStringList {arguments.command, arguments.personality}
@@ -136,6 +152,7 @@ QString refusalReason(const Arguments &arguments)
                                 problemWithTexts(arguments),
                                 problemWithQuoting("command"_L1, {typedCommand(arguments.command)}),
                                 problemWithQuoting("define"_L1, arguments.defines),
+                                problemWithDefines(arguments),
                                 problemWithQuoting("switch"_L1, arguments.switches)};
     const auto problem = std::find_if(problems.begin(), problems.end(),
                                       [](const QString &text) { return !text.isEmpty(); });

@@ -208,9 +208,10 @@ QList<QByteArray> macroCandidates(const QList<ScannedName> &names, const QString
         if (!isUsedOnly || name.text.startsWith('_'))
             chosen << name.text;
     }
-    static const QRegularExpression behindName(u"[=(]"_s);
+    static const QRegularExpression nameOfDefine(u"^[A-Za-z_]\\w*"_s);
     for (const QString &define : defines)
-        chosen << define.section(behindName, 0, 0).toUtf8();
+        chosen << nameOfDefine.match(define).captured().toUtf8();
+    chosen.remove(QByteArray());
     QList<QByteArray> sorted(chosen.begin(), chosen.end());
     sorted.removeIf(&isSpecialName);
     std::sort(sorted.begin(), sorted.end());

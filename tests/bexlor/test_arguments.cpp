@@ -137,6 +137,9 @@ private slots:
             "The command cannot be read, since a quotation mark is not closed: cc -DA=\"");
         row("define in half", "cc", 2, {"-xd", "A=1,B=\"x,C=2"},
             "The define cannot be read, since a quotation mark is not closed: B=\"x,C=2");
+        row("define that is a path", "-o", 5, {"-xd", "A=1,/etc/x"},
+            "The define does not begin with a name: /etc/x");
+        row("define with its flag", "", 5, {"-xd", "-DA=1,/DB"}, "");
         row("switch in apostrophes", "cc", 2, {"-xs", "-DA='\"1\"',-c"},
             "The switch cannot be read, since there is an apostrophe before");
         row("line feed in a file's name", "cc", 2, {"-fi", "x\n-DX"},
