@@ -9,6 +9,7 @@
 #include "catalogue_answers.h"
 #include "check_steps.h"
 #include "compiler_names.h"
+#include "console.h"
 #include "process_tree.h"
 #include "request.h"
 #include "steps.h"
@@ -16,18 +17,15 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QTemporaryDir>
-#include <cstdio>
 #include <functional>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Prints \a text at once.
 void print(const QString &text)
 {
-    std::fputs(text.toLocal8Bit().constData(), stdout);
-    std::fflush(stdout);
+    platform::print(stdout, text);
 }
 
 /// Asks the compiler of \a runner for all facts, with \a folder for temporary files. Nothing when a
@@ -92,7 +90,8 @@ std::optional<Made> makePersonality(Progress &progress, const Arguments &argumen
     if (!facts)
         return {};
     const Compiler &compiler = runner.compiler();
-    return Made {textOfPersonality(progress, *usable, compiler, *facts), compiler};
+    const auto text = textOfPersonality(progress, *usable, compiler, *facts);
+    return text ? std::optional(Made {*text, compiler}) : std::nullopt;
 }
 
 ExitStatus generate(Progress &progress, const Arguments &arguments, const QString &folder)
@@ -139,8 +138,7 @@ ExitStatus inWorkshop(const Work &work)
     return work(progress, workshop.path());
 }
 
-/// The same with the personality \a path, where it was generated; \a otherwise is the status when
-/// that cannot be read.
+/// The same with the personality \a path; \a otherwise is the status when that cannot be read.
 ExitStatus withPersonality(
     const QString &path, ExitStatus otherwise,
     const std::function<ExitStatus(Progress &progress, const EarlierPersonality &earlier,
@@ -152,11 +150,15 @@ ExitStatus withPersonality(
         return otherwise;
     }
     return inWorkshop([&](Progress &progress, const QString &folder) {
-        const auto &earlier = std::get<EarlierPersonality>(read);
-        if (const std::optional<QString> remark = enterFolderOf(earlier))
-            progress.say(*remark);
-        return work(progress, earlier, folder);
+        return work(progress, std::get<EarlierPersonality>(read), folder);
     });
+}
+
+/// Goes to the folder that \a earlier was generated in.
+void enterFolder(Progress &progress, const EarlierPersonality &earlier)
+{
+    if (const std::optional<QString> remark = enterFolderOf(earlier))
+        progress.say(*remark);
 }
 
 // run() does what a command line asks for.
@@ -173,6 +175,7 @@ ExitStatus run(const AgainRequest &request)
     return withPersonality(
         request.personality, ExitStatus::Failed,
         [&request](Progress &progress, const EarlierPersonality &earlier, const QString &folder) {
+            enterFolder(progress, earlier);
             return request.verifiesOnly ? verify(progress, earlier, folder)
                                         : generate(progress, earlier.arguments, folder);
         });
@@ -193,6 +196,7 @@ ExitStatus run(const CheckRequest &request)
     return withPersonality(
         request.personality, ExitStatus::Missing,
         [&request](Progress &progress, const EarlierPersonality &earlier, const QString &folder) {
+            enterFolder(progress, earlier);
             return checkWithPersonality(progress, request, earlier.arguments, earlier.content,
                                         folder);
         });
@@ -203,6 +207,8 @@ ExitStatus run(const ExportRequest &request)
     return withPersonality(
         request.personality, ExitStatus::Missing,
         [&request](Progress &progress, const EarlierPersonality &earlier, const QString &folder) {
+            // Nothing is said, since the export may go to the standard output.
+            enterFolderOf(earlier);
             return exportPersonality(progress, request, earlier.arguments, earlier.content, folder);
         });
 }
@@ -221,12 +227,11 @@ ExitStatus run(const VersionRequest &)
 
 ExitStatus run(const UsageError &error)
 {
-    const QString lines = error.sentence + u'\n' + usage() + u'\n';
-    std::fputs(lines.toLocal8Bit().constData(), stderr);
+    platform::print(stderr, error.sentence + u'\n' + usage() + u'\n');
     return ExitStatus::Usage;
 }
 
-/// Does the one of several things that \a request asks for.
+/// Does the one of several things that \a request asks for. Unlike std::visit() it throws nothing.
 template <typename... Wanted>
 ExitStatus runRequest(const std::variant<Wanted...> &request)
 {

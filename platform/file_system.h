@@ -17,6 +17,10 @@ bool reachDisk(QFile &file);
 /// Puts the file \a newPath in the place of \a path, in one step. False when neither has changed.
 bool replaceFile(const QString &newPath, const QString &path);
 
+/// A name for the file or folder \a path, which exists, in ASCII alone where the system has one,
+/// for programs that take it in one encoding or another.
+QString asciiPath(const QString &path);
+
 /// A number for the file system on which \a path lies, links followed; nothing when the system does
 /// not tell.
 std::optional<quint64> fileSystemOf(const QString &path);

@@ -37,6 +37,11 @@ bool replaceFile(const QString &newPath, const QString &path)
         == 0;
 }
 
+QString asciiPath(const QString &path)
+{
+    return path;
+}
+
 std::optional<quint64> fileSystemOf(const QString &path)
 {
     struct stat status

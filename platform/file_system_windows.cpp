@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 #include <io.h>
 #include <qt_windows.h>
 
@@ -23,6 +24,12 @@ std::wstring nativePath(const QString &path)
     return ("\\\\?\\UNC\\"_L1 + absolute.mid(share.size())).toStdWString();
 }
 
+/// \a path, of a file of this system or on a share, without what nativePath() adds.
+QString withoutPrefix(const QString &path)
+{
+    return path.startsWith("\\\\?\\UNC\\"_L1) ? "\\\\"_L1 + path.mid(8) : path.mid(4);
+}
+
 } // namespace
 
 bool takeOverOwner(QFile &file, const QString &path)
@@ -39,15 +46,47 @@ bool takeOverOwner(QFile &file, const QString &path)
 
 bool reachDisk(QFile &file)
 {
-    return FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(file.handle())));
+    if (FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(file.handle()))))
+        return true;
+    // Some file systems have no such thing.
+    const DWORD error = GetLastError();
+    return error == ERROR_INVALID_FUNCTION || error == ERROR_NOT_SUPPORTED;
 }
 
 bool replaceFile(const QString &newPath, const QString &path)
 {
-    // The call that would take the old file's rights over by itself leaves a file behind where the
-    // old one is open elsewhere.
-    return MoveFileExW(nativePath(newPath).c_str(), nativePath(path).c_str(),
-                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
+    const std::wstring from = nativePath(newPath), to = nativePath(path);
+    const DWORD attributes = GetFileAttributesW(to.c_str());
+    const bool isProtected =
+        attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+    const int tries = isProtected ? 1 : 20;
+    const DWORD betweenTries = 50; // milliseconds
+    for (int i = 0; i < tries; ++i) {
+        // The call that would take the old file's rights over by itself leaves a file behind where
+        // the old one is open elsewhere.
+        if (MoveFileExW(from.c_str(), to.c_str(),
+                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+            return true;
+        // A virus scanner looks at the new file now, or somebody reads the old one.
+        const DWORD error = GetLastError();
+        if (error != ERROR_ACCESS_DENIED && error != ERROR_SHARING_VIOLATION)
+            return false;
+        Sleep(betweenTries);
+    }
+    return false;
+}
+
+QString asciiPath(const QString &path)
+{
+    const auto isAscii = [](QChar character) { return character.unicode() < 0x80; };
+    if (std::all_of(path.begin(), path.end(), isAscii))
+        return path;
+    const std::wstring whole = nativePath(path);
+    std::wstring shortName(GetShortPathNameW(whole.c_str(), nullptr, 0), L'\0');
+    shortName.resize(GetShortPathNameW(whole.c_str(), shortName.data(), DWORD(shortName.size())));
+    const QString name = QString::fromStdWString(shortName);
+    // Where the volume keeps no short names the long one comes back.
+    return name.isEmpty() ? path : QDir::fromNativeSeparators(withoutPrefix(name));
 }
 
 std::optional<quint64> fileSystemOf(const QString &path)

@@ -18,7 +18,7 @@ ProgramGuard::ProgramGuard(const QString &folder)
     QDir().mkdir(temporary);
     // One system or the other, or a compiler from elsewhere, looks at each of these.
     for (const char *variable : {"TMPDIR", "TMP", "TEMP"})
-        qputenv(variable, QDir::toNativeSeparators(temporary).toLocal8Bit());
+        setVariable(variable, temporary);
 }
 
 } // namespace platform

@@ -25,6 +25,8 @@ public:
 private:
     /// \a folder may be empty.
     static void begin(const QString &folder);
+    /// Sets the environment variable \a name, for programs of any kind, to the path \a folder.
+    static void setVariable(const char *name, const QString &folder);
 };
 
 /// A program with all that it starts itself.

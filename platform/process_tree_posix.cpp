@@ -1,5 +1,6 @@
 #include "process_tree.h"
 
+#include <QFile>
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
@@ -120,6 +121,11 @@ void ProgramGuard::begin(const QString &folder)
     }
     close(ends[0]);
     reports = ends[1];
+}
+
+void ProgramGuard::setVariable(const char *name, const QString &folder)
+{
+    qputenv(name, QFile::encodeName(folder));
 }
 
 ProgramGuard::~ProgramGuard()

@@ -1,6 +1,9 @@
 #include "process_tree.h"
 
+#include "file_system.h"
+
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <array>
@@ -25,6 +28,23 @@ HANDLE openLock(const QString &folder, DWORD disposition)
                        disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
+/// Removes \a folder. The file by which it is known goes last: what a dying program still holds is
+/// left for the next who comes by.
+void removeFolder(const QString &folder)
+{
+    QDirIterator entry(folder, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    bool isEmpty = true;
+    while (entry.hasNext()) {
+        const QFileInfo info(entry.next());
+        if (info.fileName() == lockName)
+            continue;
+        isEmpty &= info.isDir() ? QDir(info.filePath()).removeRecursively()
+                                : QFile::remove(info.filePath());
+    }
+    if (isEmpty)
+        QDir(folder).removeRecursively();
+}
+
 /// Removes the folders beside \a folder, of the same name but for the letters that make it unique,
 /// whose programs have been killed.
 void removeAbandonedFolders(const QString &folder)
@@ -38,8 +58,20 @@ void removeAbandonedFolders(const QString &folder)
         if (abandoned == INVALID_HANDLE_VALUE)
             continue;
         CloseHandle(abandoned);
-        QDir(path).removeRecursively();
+        removeFolder(path);
     }
+}
+
+// For programs that have been ended to be gone, in milliseconds.
+const DWORD longestWait = 2000, usualWait = 10;
+
+/// Whether a program of \a job still runs.
+bool isRunning(HANDLE job)
+{
+    JOBOBJECT_BASIC_ACCOUNTING_INFORMATION information {};
+    return QueryInformationJobObject(job, JobObjectBasicAccountingInformation, &information,
+                                     sizeof information, nullptr)
+        && information.ActiveProcesses > 0;
 }
 
 /// The file that the system would start for \a program. It ignores dots and spaces at the end of a
@@ -113,6 +145,14 @@ ProgramGuard::~ProgramGuard()
     CloseHandle(lock);
 }
 
+void ProgramGuard::setVariable(const char *name, const QString &folder)
+{
+    // The C library's function would translate it into the local encoding first.
+    const QString value = QDir::toNativeSeparators(asciiPath(folder));
+    SetEnvironmentVariableW(QString::fromLatin1(name).toStdWString().c_str(),
+                            value.toStdWString().c_str());
+}
+
 /// The job object that holds a program and all that it starts. Closing its last handle ends them,
 /// and this program's handles are closed however it ends.
 struct ProcessTree::System
@@ -176,6 +216,9 @@ bool ProcessTree::start(const QStringList &command)
     environment.insert(percentVariable, u"%"_s);
     m_process.setProcessEnvironment(environment);
     // The interpreter takes the outermost quotation marks away.
+    const qsizetype longestLine = 8191; // Microsoft's support article 830473
+    if (line.size() > longestLine)
+        return false;
     m_process.setNativeArguments("/e:on /v:off /d /s /c \""_L1 + line + u'"');
     m_process.start(commandInterpreter(), QStringList());
     return m_process.waitForStarted();
@@ -188,6 +231,9 @@ void ProcessTree::end()
     // Not a status that a program would return: QProcess takes it for an end by force, as
     // elsewhere.
     TerminateJobObject(m_system->job, STATUS_CONTROL_C_EXIT);
+    // It returns before they are gone, and until then they hold their files and folders.
+    for (DWORD waited = 0; waited < longestWait && isRunning(m_system->job); waited += usualWait)
+        Sleep(usualWait);
     CloseHandle(m_system->job);
     m_system->job = nullptr;
 }

@@ -11,7 +11,7 @@ namespace platform {
 
 namespace {
 
-const int milliseconds = 50; // between two looks at what the program has written
+const int betweenLooks = 50; // at what the program has written, in milliseconds
 
 /// The environment, with messages in English and without what makes the GNU compilers and clang
 /// write or print more than their command says: GCC's manual, "Environment Variables Affecting
@@ -20,6 +20,7 @@ QProcessEnvironment quietEnvironment()
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"LC_ALL"_s, u"C"_s);
+    environment.insert(u"VSLANG"_s, u"1033"_s); // what Microsoft's compiler looks at
     for (const QString &variable :
          {u"DEPENDENCIES_OUTPUT"_s, u"SUNPRO_DEPENDENCIES"_s, u"GCC_EXTRA_DIAGNOSTIC_OUTPUT"_s,
           u"CC_PRINT_OPTIONS"_s, u"CC_PRINT_HEADERS"_s, u"CC_LOG_DIAGNOSTICS"_s,
@@ -53,7 +54,7 @@ ProgramRun runProgram(const QStringList &command, const QString &directory, int 
 
     const QDeadlineTimer deadline(timeLimit);
     while (process.state() != QProcess::NotRunning && !deadline.hasExpired()) {
-        process.waitForReadyRead(milliseconds);
+        process.waitForReadyRead(betweenLooks);
         keep(run.output, process.readAllStandardOutput(), outputLimit);
         keep(run.errors, process.readAllStandardError(), outputLimit);
     }

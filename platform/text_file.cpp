@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
+#include <QStringDecoder>
+#include <QTemporaryFile>
 
 using namespace Qt::StringLiterals;
 
@@ -71,12 +73,13 @@ FileContent readFile(const QString &path, qint64 sizeLimit)
     if (path.isEmpty() || (!info.exists() && !info.isSymLink()))
         return {};
     QFile file(path);
-    if (!info.isFile() || info.size() > sizeLimit || !file.open(QIODevice::ReadOnly))
+    const qint64 size = info.size(); // as much memory is taken at once
+    if (!info.isFile() || size > sizeLimit || !file.open(QIODevice::ReadOnly))
         return {FileContent::Unusable, {}};
-    // One byte more than allowed shows that it has grown since.
-    const QByteArray bytes = file.read(sizeLimit + 1);
+    // One byte more than there were shows that it has grown since.
+    const QByteArray bytes = file.read(size + 1);
     const bool isWhole =
-        bytes.size() <= sizeLimit && file.error() == QFileDevice::NoError && file.atEnd();
+        bytes.size() <= size && file.error() == QFileDevice::NoError && file.atEnd();
     return isWhole ? FileContent {FileContent::Whole, bytes}
                    : FileContent {FileContent::Unusable, {}};
 }
@@ -87,6 +90,13 @@ std::optional<QString> readTextFile(const QString &path, qint64 sizeLimit)
     if (content.state != FileContent::Whole)
         return {};
     return QString::fromLocal8Bit(content.bytes);
+}
+
+QString decodedText(const QByteArray &bytes)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    const QString text = decoder(bytes);
+    return decoder.hasError() ? QString::fromLocal8Bit(bytes) : text;
 }
 
 FileReplacement::FileReplacement(const QString &path)
@@ -153,6 +163,11 @@ bool FileReplacement::writeInPlace(const Writer &writer)
     file.close();
     writeScratchFile(m_path, old.bytes);
     return false;
+}
+
+bool canCreateFileIn(const QString &folder)
+{
+    return QTemporaryFile(folder + "/XXXXXX"_L1).open();
 }
 
 bool writeFile(const QString &path, const QByteArray &content)

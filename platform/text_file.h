@@ -35,6 +35,10 @@ FileContent readFile(const QString &path, qint64 sizeLimit = usualSizeLimit);
 /// valid in the encoding become replacement characters.
 std::optional<QString> readTextFile(const QString &path, qint64 sizeLimit = usualSizeLimit);
 
+/// The text of \a bytes from elsewhere: in UTF-8, which clang and newer GNU compilers write on
+/// every system, where they can be that, otherwise in the local encoding.
+QString decodedText(const QByteArray &bytes);
+
 /// A file that is to be replaced, and is kept from other programs that go the same way while this
 /// lives. Others are waited for, for some seconds.
 class FileReplacement
@@ -66,6 +70,9 @@ private:
     const std::unique_ptr<QLockFile> m_lock;
     bool m_isLocked = false;
 };
+
+/// Whether a file can be made in \a folder, which only an attempt tells on every system.
+bool canCreateFileIn(const QString &folder);
 
 /// Replaces or creates a file as FileReplacement does.
 bool writeFile(const QString &path, const QByteArray &content);

@@ -78,7 +78,9 @@ std::variant<EarlierPersonality, QString> readEarlierPersonality(const QString &
     const platform::FileContent file = platform::readFile(path);
     if (file.state != platform::FileContent::Whole)
         return u"The personality cannot be read: %1"_s.arg(path);
-    const Personality content = parsePersonality(file.bytes);
+    QByteArray text = file.bytes;
+    text.replace("\r\n", "\n"); // git, for one, writes text files so on Windows
+    const Personality content = parsePersonality(text);
     const CommandLine &answers = content.answers;
     if (answers.arguments.isEmpty())
         return u"The personality does not say by which answers it was generated: %1"_s.arg(path);
@@ -86,7 +88,7 @@ std::variant<EarlierPersonality, QString> readEarlierPersonality(const QString &
     if (const auto *error = std::get_if<UsageError>(&parsed))
         return u"The answers in the personality are not complete. %1"_s.arg(error->sentence);
 
-    EarlierPersonality earlier {file.bytes, content, std::get<Arguments>(parsed)};
+    EarlierPersonality earlier {text, content, std::get<Arguments>(parsed)};
     earlier.arguments.personality = path;
     earlier.arguments.answers = answers;
     return earlier;

@@ -53,7 +53,7 @@ int repetitionsAfter(const ProbeAnswer &first)
 QByteArray printedBy(const QString &folder)
 {
     // A compiler that takes no name for its output leaves the one that is usual.
-    for (const QString &name : {u"probe.exe"_s, u"a.out"_s}) {
+    for (const QString &name : {u"probe.exe"_s, u"a.out"_s, u"a.exe"_s}) {
         const QString program = folder + u'/' + name;
         if (QFile::exists(program))
             return platform::runProgram({program}, folder, timeLimit()).output;

@@ -116,7 +116,7 @@ QStringList undefinedKeywords(const Personality &personality)
 
 QString firstLine(const platform::ProgramRun &run)
 {
-    return QString::fromLocal8Bit(run.errors + run.output).trimmed().section(u'\n', 0, 0);
+    return platform::decodedText(run.errors + run.output).trimmed().section(u'\n', 0, 0);
 }
 
 /// What comparing the code that both see has come to.

@@ -1,5 +1,6 @@
 #include "checked_source.h"
 
+#include "file_system.h"
 #include "path_options.h"
 #include "probe_options.h"
 #include "text_file.h"
@@ -88,7 +89,8 @@ QString includingFile(const QString &path, const QString &folder)
 {
     const QString file = folder + u'/' + QFileInfo(path).fileName();
     QDir().mkdir(folder);
-    platform::writeScratchFile(file, "#include \"" + path.toLocal8Bit() + "\"\n");
+    platform::writeScratchFile(file,
+                               "#include \"" + platform::asciiPath(path).toLocal8Bit() + "\"\n");
     return file;
 }
 

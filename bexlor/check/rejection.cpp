@@ -1,5 +1,7 @@
 #include "rejection.h"
 
+#include "text_file.h"
+
 #include <QRegularExpression>
 #include <algorithm>
 
@@ -37,7 +39,7 @@ Rejection rejectionIn(const QByteArray &messages)
 {
     static const QRegularExpression error(u"^.*\\b(fatal )?error: .*$"_s,
                                           QRegularExpression::MultilineOption);
-    const QString text = QString::fromLocal8Bit(messages);
+    const QString text = platform::decodedText(messages);
     const QString found = error.match(text).captured().trimmed();
     // A clang that crashes leaves no error.
     const QString message = found.isEmpty() ? text.section(u'\n', 0, 0) : found;

@@ -1,5 +1,8 @@
 #include "token_stream.h"
 
+#include "text_file.h"
+
+#include <QDir>
 #include <QSet>
 #include <algorithm>
 #include <cctype>
@@ -195,7 +198,9 @@ void TokenStream::readMarker(QByteArrayView directive)
     const qsizetype end = directive.lastIndexOf('"');
     QByteArray name =
         directive.sliced(quote + 1, std::max<qsizetype>(end - quote - 1, 0)).toByteArray();
-    m_file = QString::fromLocal8Bit(name.replace("\\\\", "\\"));
+    // On Windows clang joins the parts of a name with either separator.
+    m_file = QDir::cleanPath(
+        QDir::fromNativeSeparators(platform::decodedText(name.replace("\\\\", "\\"))));
     // Behind the name stand flags, of which 3 is that of a system header. What such a header's
     // macro stands for in another file has the flag, too.
     const bool isSystem = directive.sliced(end + 1).contains('3');

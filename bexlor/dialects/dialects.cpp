@@ -1,5 +1,6 @@
 #include "dialects.h"
 
+#include "text_file.h"
 #include "visible_text.h"
 
 #include <QDir>
@@ -57,7 +58,7 @@ bool isAnswered(Topic topic, const DialectAnswers &answers)
 /// The folder of headers beside that of cc65's target systems, \a targets.
 QStringList directoryBeside(const QByteArray &targets)
 {
-    const QString headers = QString::fromLocal8Bit(targets.trimmed()) + "/../include"_L1;
+    const QString headers = platform::decodedText(targets.trimmed()) + "/../include"_L1;
     return QDir(headers).exists() ? QStringList {QDir(headers).canonicalPath()} : QStringList();
 }
 
@@ -201,7 +202,7 @@ QStringList directoriesBehind(const QByteArray &heading, const QByteArray &listi
         if (line.endsWith(':') || line.startsWith("End of"))
             isBehind = line == heading;
         else if (isBehind && !line.isEmpty())
-            directories << QString::fromLocal8Bit(line);
+            directories << platform::decodedText(line);
     }
     const auto exists = [](const QString &directory) { return QDir(directory).exists(); };
     if (std::any_of(directories.begin(), directories.end(), exists)) {
@@ -220,7 +221,7 @@ QByteArray versionLineIn(const QByteArray &banner)
         line = line.simplified();
         // Such as what colours the text of a terminal.
         line.removeIf([](char character) { return hasControlCharacter(QByteArray(1, character)); });
-        if (version.match(QString::fromLocal8Bit(line)).hasMatch())
+        if (version.match(platform::decodedText(line)).hasMatch())
             return line;
     }
     return {};

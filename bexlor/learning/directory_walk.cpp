@@ -20,8 +20,9 @@ const std::size_t mostLinkedFiles = 50'000;
 
 bool isLink(const fs::directory_entry &entry)
 {
-    std::error_code ignored;
-    return entry.is_symlink(ignored) || QFileInfo(entry.path()).isJunction();
+    // The library of MinGW does not know links.
+    const QFileInfo info(entry.path());
+    return info.isSymbolicLink() || info.isJunction();
 }
 
 /// \a path without links, of whatever kind the system has, in any of its parts.

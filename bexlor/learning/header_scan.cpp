@@ -259,10 +259,10 @@ bool isNamedAsHeader(const fs::path &file)
 /// Puts what \a file holds into \a content, between two line feeds. False when it cannot be read.
 bool readBetweenLineFeeds(const fs::path &file, std::string &content)
 {
-    std::error_code error;
-    const std::uintmax_t wholeSize = fs::file_size(file, error);
-    const std::uintmax_t size = error ? 0 : std::min(wholeSize, largestFile);
-    std::ifstream stream(file, std::ios::binary);
+    std::ifstream stream(file, std::ios::binary | std::ios::ate);
+    const std::streamoff wholeSize = stream.tellg();
+    const std::streamoff size = std::clamp<std::streamoff>(wholeSize, 0, largestFile);
+    stream.seekg(0);
     content.resize(std::size_t(size) + 2);
     content.front() = '\n';
     // One byte more than there are, so that a file that cannot be read shows even if it has none.

@@ -1,6 +1,7 @@
 #include "learning.h"
 
 #include "header_directories.h"
+#include "text_file.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -24,9 +25,8 @@ QSet<QString> setOf(const QStringList &names)
 /// Whether the compiler's \a answer names a file whose path ends with \a path.
 bool namesFile(const ProbeAnswer &answer, const QString &path)
 {
-    const QByteArray messages = answer.run.output + answer.run.errors;
-    return messages.contains(path.toLocal8Bit())
-        || messages.contains(QString(path).replace(u'/', u'\\').toLocal8Bit());
+    QString messages = platform::decodedText(answer.run.output + answer.run.errors);
+    return messages.replace(u'\\', u'/').contains(QString(path).replace(u'\\', u'/'));
 }
 
 /// Which of \a names the compiler finds when they are included.

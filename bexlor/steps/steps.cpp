@@ -49,9 +49,14 @@ void leaveLogs(const QString &folder, const QStringList &command, const platform
 {
     const QDir logs(folder);
     platform::writeTextFile(logs.filePath(generator::attemptedCommand),
-                            platform::commandLine(command) + u'\n');
+                            platform::commandFileLine(command) + u'\n');
     platform::writeFile(logs.filePath(generator::standardOutput), run.output);
     platform::writeFile(logs.filePath(generator::standardError), run.errors);
+}
+
+QString templateUnreadable(const Arguments &arguments)
+{
+    return u"The template cannot be read: %1"_s.arg(arguments.templateFile);
 }
 
 /// Why \a arguments are refused, or the files that they name cannot be used, or an empty text.
@@ -62,10 +67,10 @@ QString problemWith(const Arguments &arguments)
     const QFileInfo destination(QFileInfo(arguments.personality).absolutePath());
     if (!destination.isDir())
         return u"The folder of the personality does not exist: %1"_s.arg(destination.filePath());
-    if (!destination.isWritable())
+    if (!platform::canCreateFileIn(destination.filePath()))
         return u"The folder of the personality is not writable: %1"_s.arg(destination.filePath());
     if (!arguments.templateFile.isEmpty() && !platform::readTextFile(arguments.templateFile))
-        return u"The template cannot be read: %1"_s.arg(arguments.templateFile);
+        return templateUnreadable(arguments);
     if (!arguments.forceIncludeFile.isEmpty() && !QFileInfo(arguments.forceIncludeFile).isFile())
         return u"The force-include file does not exist: %1"_s.arg(arguments.forceIncludeFile);
     if (!arguments.substituteHeaders.isEmpty() && !QFileInfo(arguments.substituteHeaders).isDir()) {
@@ -397,14 +402,19 @@ bool checkCompleteness(Progress &progress, const Facts &facts, bool lacksSearchP
     return hasTypes && !lacksSearchPath;
 }
 
-QByteArray textOfPersonality(Progress &progress, const Arguments &arguments,
-                             const Compiler &compiler, const Facts &facts)
+std::optional<QByteArray> textOfPersonality(Progress &progress, const Arguments &arguments,
+                                            const Compiler &compiler, const Facts &facts)
 {
-    const QByteArray templateText =
-        platform::readTextFile(arguments.templateFile).value_or(QString()).toUtf8();
+    const platform::FileContent templateFile = platform::readFile(arguments.templateFile);
+    if (!arguments.templateFile.isEmpty() && templateFile.state != platform::FileContent::Whole) {
+        progress.say(templateUnreadable(arguments));
+        return {};
+    }
+    // Clang reads it in UTF-8.
+    const QByteArray templateText = platform::decodedText(templateFile.bytes).toUtf8();
     CommandParts parts {compiler.command, includeDirectories(compiler.command), {}};
     for (const IncludedFile &included : compiler.includedFirst)
-        parts.includedFirst << included.option << included.file;
+        parts.includedFirst.append({included.option.toUtf8(), included.file.toUtf8()});
     const Personality personality = composePersonality(arguments, facts, parts, templateText);
     for (const QString &option : personality.lacking)
         progress.say(u"Clang has no option like the compiler's %1."_s.arg(visibleText(option)));

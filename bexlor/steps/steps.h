@@ -70,8 +70,9 @@ bool worksStill(Progress &progress, const ProbeRunner &runner, const QString &lo
 bool checkCompleteness(Progress &progress, const Facts &facts, bool lacksSearchPath);
 
 /// The text of the personality of the compiler of \a facts. Says what clang cannot be told of it.
-QByteArray textOfPersonality(Progress &progress, const Arguments &arguments,
-                             const Compiler &compiler, const Facts &facts);
+/// Nothing when the template can no longer be read.
+std::optional<QByteArray> textOfPersonality(Progress &progress, const Arguments &arguments,
+                                            const Compiler &compiler, const Facts &facts);
 
 /// Writes the personality \a text to \a path, over one that has been there before, and says how
 /// clang and clang-tidy take it.

@@ -205,7 +205,8 @@ private slots:
         const QByteArray text = readTestFile(workshop.personality);
         const QString elsewhere = workshop.folder.filePath("elsewhere");
         QDir().mkdir(elsewhere);
-        QFile::rename(workshop.personality, elsewhere + "/moved.p_c");
+        QFile::remove(workshop.personality);
+        writeTestFile(elsewhere + "/moved.p_c", QByteArray(text).replace("\n", "\r\n"));
         QFile::remove(workshop.folder.filePath("compile.bat"));
         const auto again = [&elsewhere](const QStringList &more) {
             return platform::runProgram(QStringList {GENERATOR, "again", "moved.p_c"} + more,
@@ -336,7 +337,7 @@ private slots:
         QVERIFY2(cross.output.contains("order.c: same\n") && cross.output.contains("other.c:4, "),
                  cross.output);
         // Clang has its own of this header, too, and asks for a macro that gcc has not got.
-        workshop.write("t.p_c", "-DNEW=2\n"); // which stays in the place of the compiler's
+        workshop.write("t.p_c", "-DX -DNEW=2\n"); // which stays in the place of the compiler's
         workshop.generate("kov", "arm-none-eabi-gcc -mcpu=cortex-m33",
                           {"-xd", "NEW=1", "-tpl", "t.p_c"});
         workshop.write("acle.c", "#include <arm_acle.h>\nvoid f(void) { __asm__(\"nop\"); }\n");
