@@ -21,17 +21,16 @@ private slots:
 
     void passesArgumentsOnAsTheyAre_data()
     {
-        const Columns<QString, bool> row("program", "throughShell");
+        const Columns<QString, bool> row("program", "isInFile");
         row("program", "odd folder & co/program.exe", false);
         if (isWindows)
             row("batch file", "odd folder & co/compiler.bat", false);
-        else
-            row("in one line", "odd folder & co/program.exe", true);
+        row("in a file of commands", "odd folder & co/program.exe", true);
     }
     void passesArgumentsOnAsTheyAre()
     {
         QFETCH(QString, program);
-        QFETCH(bool, throughShell);
+        QFETCH(bool, isInFile);
         const QTemporaryDir folder;
         QVERIFY(QDir(folder.path()).mkdir("odd folder & co"));
         QVERIFY(QFile::copy(standIn, folder.filePath("odd folder & co/program.exe")));
@@ -53,15 +52,20 @@ private slots:
                                    "*",
                                    "#",
                                    "!!"};
-        for (const QStringList &arguments : {plain, special}) {
+        for (QStringList arguments : {plain, special}) {
+            if (isInFile && isWindows)
+                arguments.removeOne("größe µ"); // in which encoding depends on the console
             QStringList command = QStringList(folder.filePath(program)) + arguments;
-            if (throughShell)
-                command = {"sh", "-c", platform::commandLine(command)};
+            if (isInFile) {
+                const QString file = folder.filePath("commands.bat");
+                writeTestFile(file, platform::commandFileLine(command).toLocal8Bit());
+                command = isWindows ? QStringList {file} : QStringList {"sh", file};
+            }
             const platform::ProgramRun run = platform::runProgram(command, folder.path(), patience);
             QVERIFY2(run.succeeded(), run.errors);
             const QByteArray record = readTestFile(folder.filePath("arguments.txt"));
             const QStringList arrived = QString::fromUtf8(record).remove('\r').split('\n');
-            if (arguments == plain || !program.endsWith(".bat"))
+            if (!program.endsWith(".bat") || arguments.first().isEmpty())
                 QCOMPARE(arrived.mid(0, arrived.size() - 1), arguments);
         }
         QCOMPARE(QDir(folder.path()).entryList({"injected*"}), QStringList());
