@@ -158,8 +158,8 @@ private slots:
         QList<QList<QByteArray>> variants {{}};
         for (const QByteArray &option : layoutOptions(target)) {
             // Options are the same in both, and all targets are packed alike.
-            if (clang != "clang-14"
-                && (!option.startsWith("-fpack-struct") || option.endsWith("=2")))
+            const bool isPacked = option.startsWith("-fpack-struct");
+            if (clang != "clang-14" && (!isPacked || target == targetNames().first()))
                 variants << QList {option};
         }
         for (const QList<QByteArray> &variant : variants) {

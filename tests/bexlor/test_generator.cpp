@@ -128,8 +128,7 @@ private slots:
         const Columns<QString, QString> row("product", "attributes");
         const QString gnu = "externally_visible no_icf no_reorder noclone ";
         const QString ofGcc = gnu + "noipa nonstring noplt optimize stack_protect symver";
-        for (const char *compiler :
-             {"gcc -nostdinc", "arm-none-eabi-gcc -nostdinc", "x86_64-w64-mingw32-gcc -nostdinc"})
+        for (const char *compiler : {"gcc -nostdinc", "x86_64-w64-mingw32-gcc -nostdinc"})
             row(compiler, "kov", ofGcc);
         row("avr-gcc -nostdinc", "kov",
             "OS_main OS_task address " + gnu + "optimize progmem stack_protect");
@@ -622,16 +621,13 @@ private slots:
     {
         // "$" stands for the folder of the user's files.
         const Columns<QString, QList<QByteArray>> row("command", "variables");
-        row("in its own words",
+        row("in its own words and in the environment",
             "gcc -nostdinc -isystem include -MD -MF a.d -aux-info c.i -o f.o -og.o -save-temps",
-            {});
-        row("handed on",
-            "gcc -nostdinc -Wp,-MMD,$/b.d,-DA -Wl,-Map,$/d.map -Wa,-adhln=$/e.lst "
-            "-Xpreprocessor -MD -Xpreprocessor $/a.d",
-            {});
-        row("in a response file", "gcc -nostdinc @words.rsp", {});
-        row("in the environment", "gcc -nostdinc",
             {"DEPENDENCIES_OUTPUT=$/a.d", "SUNPRO_DEPENDENCIES=$/b.d x"});
+        row("handed on and in a response file",
+            "gcc -nostdinc -Wp,-MMD,$/b.d,-DA -Wl,-Map,$/d.map -Wa,-adhln=$/e.lst "
+            "-Xpreprocessor -MD -Xpreprocessor $/a.d @words.rsp",
+            {});
         row("of clang",
             "clang -nostdinc -Xclang -dependency-file -Xclang $/a.d -MJ b.d -ftime-trace=c.i",
             {"CC_PRINT_OPTIONS=1", "CC_PRINT_OPTIONS_FILE=$/e.lst"});
@@ -646,7 +642,7 @@ private slots:
         for (const QString &name : mine)
             workshop.write(name, "mine");
         workshop.write("include/tried.h", "");
-        workshop.write("words.rsp", "-MD -MF " + top.toLocal8Bit() + "/a.d");
+        workshop.write("words.rsp", "-MD -MF " + top.toLocal8Bit() + "/c.i");
         for (QByteArray &variable : variables)
             qputenv(variable.split('=').first(),
                     variable.replace("$", top.toLocal8Bit()).split('=').last());
