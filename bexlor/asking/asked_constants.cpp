@@ -25,7 +25,7 @@ bool AskedConstants::arePossible(const Controls &controls)
 QList<bool> AskedConstants::accepted(const QByteArray &prelude,
                                      const QList<QByteArray> &items) const
 {
-    if (!prelude.isEmpty() && !m_runner.ask(prelude + acceptedProbe).compiled())
+    if (!preludeCompiles(m_runner, prelude))
         return QList<bool>(items.size(), false);
     return acceptedItems(askProbes(m_runner), prelude, items, m_runner.limits(), false);
 }

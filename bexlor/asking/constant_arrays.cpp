@@ -226,6 +226,7 @@ QList<Batch> ConstantArrays::readBatches(const QByteArray &prelude, const QList<
             failed << batches[i];
             continue;
         }
+        m_soundPrelude = prelude;
         readContents(sources[i], batches[i], answers[i], characters, contents);
     }
     return failed;
@@ -239,9 +240,12 @@ QList<std::optional<QByteArray>> ConstantArrays::readBack(const QByteArray &prel
     const ProbeLimits limits = m_runner.limits();
     QList<std::optional<QByteArray>> contents(items.size());
     // All are tried together first; what keeps a batch from compiling is left out afterwards.
+    const QList<Batch> failed =
+        readBatches(prelude, items, batchesOf(items, prelude.size(), limits), characters, contents);
+    if (failed.isEmpty() || (prelude != m_soundPrelude && !preludeCompiles(m_runner, prelude)))
+        return contents;
     QList<Batch> rests;
-    for (const Batch &batch : readBatches(prelude, items, batchesOf(items, prelude.size(), limits),
-                                          characters, contents)) {
+    for (const Batch &batch : failed) {
         QList<QByteArray> own;
         for (const int index : batch)
             own << items[index];

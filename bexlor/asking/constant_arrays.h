@@ -57,6 +57,7 @@ private:
     const CompileTo m_goal;
     const Form *m_form = nullptr; ///< which has proven that constants come back
     bool m_readsTexts = false;
-    bool m_isProven = false; ///< that what is there comes back
+    bool m_isProven = false;           ///< that what is there comes back
+    mutable QByteArray m_soundPrelude; ///< the last one that is known to compile
     QByteArray m_characters; ///< that the compiler's 256 codes stand for; empty if for themselves
 };

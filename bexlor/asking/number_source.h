@@ -9,6 +9,12 @@ inline AskProbes askProbes(const ProbeRunner &runner)
     return [&runner](const QList<QByteArray> &sources) { return runner.askAll(sources); };
 }
 
+/// Whether \a prelude, which may be empty, compiles with nothing but a declaration behind it.
+inline bool preludeCompiles(const ProbeRunner &runner, const QByteArray &prelude)
+{
+    return prelude.isEmpty() || runner.ask(prelude + acceptedProbe).compiled();
+}
+
 /// A way in which a compiler tells constant integers. An answer is missing where an expression does
 /// not compile behind its prelude.
 class NumberSource

@@ -504,11 +504,11 @@ private slots:
         row("answers otherwise each time", counting + "[ $n -lt 2 ] || exit $n\n" + good,
             "otherwise each time");
         row("loses its licence",
-            counting + "[ $n -lt 60 ] || { echo \"probe.c: no licence\" >&2; exit 1; }\n" + good,
+            counting + "[ $n -lt 50 ] || { echo \"probe.c: no licence\" >&2; exit 1; }\n" + good,
             "no longer answers as it did: the compiler returned 1.");
-        row("breaks down", counting + "[ $n -lt 60 ] || kill -KILL $$\n" + good,
+        row("breaks down", counting + "[ $n -lt 50 ] || kill -KILL $$\n" + good,
             "no longer answers as it did: the compiler crashed.");
-        row("stops midway", counting + "[ $n -lt 60 ] || exit 0\n" + good,
+        row("stops midway", counting + "[ $n -lt 50 ] || exit 0\n" + good,
             "no longer answers as it did: the compiler returned 0 and left no object file.");
         const QByteArray lacking = "returned 0 and left out something of a probe";
         row("drops constants", counting + "[ $n -lt 40 ] || sed -i 's/\\(const " + arrays + good,
@@ -516,7 +516,7 @@ private slots:
         row("drops all", counting + good + " || exit\n[ $n -lt 40 ] || echo nothing >probe.o",
             lacking);
         row("takes the temporary folder away",
-            counting + "[ $n -lt 60 ] || rm -r \"${0%/*}\"/temp*/*\n" + good,
+            counting + "[ $n -lt 50 ] || rm -r \"${0%/*}\"/temp*/*\n" + good,
             "the probe could not be written to the temporary folder.");
     }
     void neverSucceedsWithWrongFacts()
