@@ -211,11 +211,14 @@ qsizetype rejectedForThemselves(const AskProbes &ask, const QByteArray &prelude,
 
 /// Those of \a suspects for which it takes a probe of their own to tell whether they are rejected.
 Batch doubtful(const AskProbes &ask, const QByteArray &prelude, const QList<QByteArray> &items,
-               const Batch &suspects, const QByteArray &separator)
+               const Batch &suspects, const QByteArray &separator, ProbeLimits limits)
 {
+    // A harmless declaration stands behind each.
+    const qsizetype most = std::max(1, limits.declarations / 3);
     Batch open = suspects, alone;
     while (!open.isEmpty()) {
-        const qsizetype count = rejectedForThemselves(ask, prelude, items, open, separator);
+        const qsizetype count =
+            rejectedForThemselves(ask, prelude, items, open.mid(0, most), separator);
         if (count == 0 && open.size() == suspects.size())
             return suspects; // it goes astray, or names no line
         open.remove(0, count);
@@ -227,9 +230,10 @@ Batch doubtful(const AskProbes &ask, const QByteArray &prelude, const QList<QByt
 
 /// Sets in \a accepted whether \a suspects are accepted apart from one another.
 void confirm(const AskProbes &ask, const QByteArray &prelude, const QList<QByteArray> &items,
-             const Batch &suspects, const QByteArray &separator, QList<bool> &accepted)
+             const Batch &suspects, const QByteArray &separator, ProbeLimits limits,
+             QList<bool> &accepted)
 {
-    const Batch alone = doubtful(ask, prelude, items, suspects, separator);
+    const Batch alone = doubtful(ask, prelude, items, suspects, separator, limits);
     QList<QByteArray> sources;
     for (const int index : alone)
         sources << prelude + items[index];
@@ -244,7 +248,8 @@ QList<Batch> batchesOf(const QList<QByteArray> &items, qsizetype preludeSize, Pr
     QList<Batch> batches;
     qsizetype size = 0;
     for (int index = 0; index < items.size(); ++index) {
-        const bool isFull = batches.isEmpty() || batches.last().size() * 2 >= limits.declarations
+        const bool isFull = batches.isEmpty()
+                         || (batches.last().size() + 2) * 2 > limits.declarations
                          || size + items[index].size() > limits.bytes;
         if (isFull) {
             batches << Batch();
@@ -270,7 +275,7 @@ QList<bool> acceptedItems(const AskProbes &ask, const QByteArray &prelude,
     Bisection bisection(ask, prelude, items, limits);
     bisection.run();
     if (confirms)
-        confirm(ask, prelude, items, bisection.suspects, {}, bisection.accepted);
+        confirm(ask, prelude, items, bisection.suspects, {}, limits, bisection.accepted);
     return bisection.accepted;
 }
 
@@ -279,7 +284,7 @@ QList<bool> itemsAcceptedApart(const AskProbes &ask, const QByteArray &prelude,
 {
     QList<bool> accepted(items.size(), false);
     for (const Batch &batch : batchesOf(items, prelude.size(), limits))
-        confirm(ask, prelude, items, batch, endOfFunction, accepted);
+        confirm(ask, prelude, items, batch, endOfFunction, limits, accepted);
     return accepted;
 }
 

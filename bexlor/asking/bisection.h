@@ -16,7 +16,8 @@ using AskProbes = std::function<QList<ProbeAnswer>(const QList<QByteArray> &sour
 using Batch = QList<int>;
 
 /// All of \a items in batches, each small enough to stand behind a prelude of \a preludeSize bytes
-/// in one probe. An item counts as two declarations, as the largest ones are.
+/// in one probe, with one more item behind it. An item counts as two declarations, as the largest
+/// ones are.
 QList<Batch> batchesOf(const QList<QByteArray> &items, qsizetype preludeSize, ProbeLimits limits);
 
 /// Those of \a items whose flag is set.

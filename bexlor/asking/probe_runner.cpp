@@ -26,8 +26,11 @@ const int mostMended = 3;
 const QString withoutErrorLimit = u"-ferror-limit=0"_s;
 const int manyErrors = 30;
 
+// What is put behind each probe, see askIn().
+const int declarationsBehind = 3;
+
 const ProbeLimits usualLimits {20'000, 500'000};
-const ProbeLimits smallLimits {99, 4000};
+const ProbeLimits smallLimits {99 - declarationsBehind, 4000};
 const ProbeLimits widerLimits {2000, 50'000};
 
 // Behind every probe: a compiler that has lost the rest of the source leaves an object without this

@@ -176,6 +176,7 @@ private slots:
         for (const Batch &batch : batchesOf(items(500, {}), 900, limits))
             QVERIFY(!batch.isEmpty() && batch.size() <= limits.declarations / 2);
         QCOMPARE(batchesOf(items(150, {}), 0, limits).size(), 2);
+        QCOMPARE(batchesOf(items(49, {}), 0, {99, 1000}).size(), 2); // one more comes behind them
         QCOMPARE(batchesOf({QByteArray(5000, 'x'), "y\n"}, 0, limits).size(), 2);
     }
 
