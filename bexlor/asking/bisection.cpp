@@ -12,7 +12,8 @@ const QByteArray harmless = "extern int calyx_harmless;\n";
 const QByteArray endOfFunction = "{ }\n";
 
 /// Those of \a batch, whose items stand one after the other behind \a prelude, that \a lines name.
-Batch itemsOn(const QSet<int> &lines, const QByteArray &prelude, const QList<QByteArray> &items,
+template <typename Lines>
+Batch itemsOn(const Lines &lines, const QByteArray &prelude, const QList<QByteArray> &items,
               const Batch &batch)
 {
     Batch named;
@@ -305,7 +306,7 @@ std::optional<QList<bool>> itemsWithoutMessage(const AskProbes &ask, const QByte
         const QList<ProbeAnswer> answers = ask(sources);
         QList<Batch> next;
         for (qsizetype i = 0; i < open.size(); ++i) {
-            const Batch named = itemsOn(answers[i].allLines, prelude, all, open[i]);
+            const Batch named = itemsOn(answers[i].messageCounts, prelude, all, open[i]);
             const Batch silent = without(open[i], named);
             if (named.isEmpty())
                 return {};

@@ -39,7 +39,7 @@ bool areAlike(const ProbeAnswer &first, const ProbeAnswer &second)
     return first.isAsked && second.isAsked && first.compiled() == second.compiled()
         && first.run.ending == second.run.ending && first.run.exitCode == second.run.exitCode
         && hasMessages(first.run) == hasMessages(second.run)
-        && first.allLines.isEmpty() == second.allLines.isEmpty();
+        && first.messageCounts.isEmpty() == second.messageCounts.isEmpty();
 }
 
 /// The answer to \a source that is like one of those \a known, or that has come twice.
@@ -69,14 +69,14 @@ bool Controls::isExpected(const ProbeAnswer &answer) const
 {
     if (answer.compiled())
         return answer.namesEnd || !namesEnds;
-    return isRejection(answer) && !(namesLines && answer.allLines.isEmpty());
+    return isRejection(answer) && !(namesLines && answer.messageCounts.isEmpty());
 }
 
 std::optional<Controls> askControls(const std::function<ProbeAnswer(const QByteArray &)> &ask,
                                     const ProbeAnswer &accepted)
 {
     Controls controls;
-    controls.isQuiet = accepted.allLines.isEmpty();
+    controls.isQuiet = accepted.messageCounts.isEmpty();
     controls.namesEnds = accepted.namesEnd;
     QList<ProbeAnswer> rejections;
     for (const auto &control : controlProbes) {
@@ -90,7 +90,7 @@ std::optional<Controls> askControls(const std::function<ProbeAnswer(const QByteA
         rejections << *answer;
         controls.exitCodes << answer->run.exitCode;
         controls.givesReasons &= hasMessages(answer->run);
-        controls.namesLines &= !answer->allLines.isEmpty();
+        controls.namesLines &= !answer->messageCounts.isEmpty();
     }
     return controls;
 }

@@ -1,7 +1,6 @@
 #include "messages.h"
 
 #include <QRegularExpression>
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -17,10 +16,9 @@ bool isError(const QString &text)
     return error.match(text).hasMatch();
 }
 
-/// The line number that a message gives for a source that it names: \a before is what stands before
-/// that name, \a behind the rest. Nothing if it gives none, or \a ofErrors is set and it is no
-/// error.
-std::optional<int> lineIn(const QString &before, const QString &behind, bool ofErrors)
+/// Adds the line number that a message gives for a source that it names: \a before is what stands
+/// before that name, \a behind the rest.
+void addLine(const QString &before, const QString &behind, NamedLines &lines)
 {
     static const QRegularExpression lineBefore(u"\\bline ([0-9]+)\\D*$"_s,
                                                QRegularExpression::CaseInsensitiveOption);
@@ -31,15 +29,17 @@ std::optional<int> lineIn(const QString &before, const QString &behind, bool ofE
         match = number.match(behind);
         text = behind.mid(match.capturedEnd());
     }
-    if (!match.hasMatch() || (ofErrors && !isError(text)))
-        return {};
-    return match.captured(1).toInt();
+    if (!match.hasMatch())
+        return;
+    const int line = match.captured(1).toInt();
+    ++lines.all[line];
+    if (isError(text))
+        lines.ofErrors << line;
 }
 
-/// The line number of each of \a messages, one a line, that gives one for \a source.
-QList<int> allLines(const QByteArray &messages, const QByteArray &source, bool ofErrors)
+/// Adds the line number of each of \a messages, one a line, that gives one for \a source.
+void addLines(const QByteArray &messages, const QByteArray &source, NamedLines &lines)
 {
-    QList<int> lines;
     // Only what names the source is looked at: a compiler may print millions of other lines.
     for (qsizetype name = messages.indexOf(source), end; name >= 0;
          name = messages.indexOf(source, end)) {
@@ -47,26 +47,17 @@ QList<int> allLines(const QByteArray &messages, const QByteArray &source, bool o
         const qsizetype lineFeed = messages.indexOf('\n', name);
         end = lineFeed < 0 ? messages.size() : lineFeed;
         const qsizetype behind = name + source.size();
-        const QString textBefore = QString::fromLatin1(messages.mid(start, name - start));
-        const QString textBehind = QString::fromLatin1(messages.mid(behind, end - behind));
-        if (const std::optional<int> line = lineIn(textBefore, textBehind, ofErrors))
-            lines << *line;
+        addLine(QString::fromLatin1(messages.mid(start, name - start)),
+                QString::fromLatin1(messages.mid(behind, end - behind)), lines);
     }
-    return lines;
 }
 
 } // namespace
 
-QSet<int> namedLines(const QByteArray &messages, const QByteArray &source, bool ofErrors)
+NamedLines namedLines(const QByteArray &messages, const QByteArray &source)
 {
-    const QList<int> lines = allLines(messages, source, ofErrors);
-    return {lines.begin(), lines.end()};
-}
-
-QHash<int, int> messagesOnLines(const QByteArray &messages, const QByteArray &source)
-{
-    QHash<int, int> counts;
-    for (const int line : allLines(messages, source, false))
-        ++counts[line];
-    return counts;
+    NamedLines lines;
+    for (const QByteArray &name : {source, source.toUpper()})
+        addLines(messages, name, lines);
+    return lines;
 }

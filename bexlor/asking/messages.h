@@ -4,10 +4,13 @@
 #include <QHash>
 #include <QSet>
 
-/// The line numbers that \a messages give for the file \a source, whatever stands around them:
-/// "x.c:12", "x.c(12)", "\"x.c\", line 12", "line 12 of x.c". Those of errors only, if \a ofErrors
-/// is set.
-QSet<int> namedLines(const QByteArray &messages, const QByteArray &source, bool ofErrors = false);
+/// The line numbers that a compiler's messages give for a source; the first line is 1.
+struct NamedLines
+{
+    QHash<int, int> all; ///< how many messages give each
+    QSet<int> ofErrors;
+};
 
-/// How many of \a messages give each of these line numbers.
-QHash<int, int> messagesOnLines(const QByteArray &messages, const QByteArray &source);
+/// Those that \a messages give for the file \a source, whatever stands around them: "x.c:12",
+/// "x.c(12)", "\"x.c\", line 12", "line 12 of x.c". Its name may be in capitals, too.
+NamedLines namedLines(const QByteArray &messages, const QByteArray &source);

@@ -11,9 +11,8 @@ struct ProbeAnswer
 {
     bool isAsked = false; ///< not when the probe could not be written
     platform::ProgramRun run;
-    QSet<int> lines;    ///< of the probe that its errors name, or else its other messages
-    QSet<int> allLines; ///< that any message names; the first line is 1
-    QHash<int, int> messageCounts; ///< how many messages name each line
+    QSet<int> lines; ///< of the probe that its errors name, or else its other messages
+    QHash<int, int> messageCounts; ///< how many messages name each line; the first line is 1
     QByteArray bytes; ///< of the object file, read from hexadecimal text where it is that; of a
                       ///< program what it prints
 

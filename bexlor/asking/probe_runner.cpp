@@ -233,12 +233,11 @@ ProbeAnswer ProbeRunner::askIn(const QString &folder, const QByteArray &source,
         return answer;
     ++m_started;
     answer.run = platform::runProgram(command(goal), folder, timeLimit(), mostMessages);
-    const QByteArray messages = answer.run.errors + '\n' + answer.run.output;
-    answer.messageCounts = messagesOnLines(messages, name.toLatin1());
-    answer.allLines = QSet<int>(answer.messageCounts.keyBegin(), answer.messageCounts.keyEnd());
-    answer.lines = namedLines(messages, name.toLatin1(), true);
-    if (answer.lines.isEmpty())
-        answer.lines = answer.allLines;
+    const NamedLines named =
+        namedLines(answer.run.errors + '\n' + answer.run.output, name.toLatin1());
+    answer.messageCounts = named.all;
+    answer.lines = named.ofErrors.isEmpty() ? QSet<int>(named.all.keyBegin(), named.all.keyEnd())
+                                            : named.ofErrors;
     const QByteArray left = bytesLeftIn(folder, name, layout.objectExtension);
     answer.leftNothing = left.isEmpty();
     answer.namesEnd = goal == CompileTo::Program || left.contains(endName);

@@ -45,7 +45,8 @@ struct FakeCompiler
         answer.lines = QSet<int>(first.begin(), first.end());
         if (names == "none")
             answer.lines.clear();
-        answer.allLines = answer.lines;
+        for (const int line : std::as_const(answer.lines))
+            answer.messageCounts[line] = 1;
         return answer;
     }
 };

@@ -15,6 +15,7 @@ private slots:
         const Columns<QByteArray, Lines, Lines> row("messages", "lines", "errors");
         row("colons", "/t/1/x.c:12:4: error: no\n  12 | int\n", {12}, {12});
         row("parentheses", "x.c(7): Error: no", {7}, {7});
+        row("capitals", "x.c\nX.C(3): error 2: no", {3}, {3});
         row("words", "\"x.c\", line 30: Fatal", {30}, {30});
         row("warnings", "x.c:5: warning: A redefined\nx.c:9: note: b", {5, 9}, {});
         row("warnings and errors", "x.c:5: warning: 1\nx.c:9: error: 2\nx.c:3: syntax error",
@@ -32,8 +33,10 @@ private slots:
         QFETCH(QByteArray, messages);
         QFETCH(QList<int>, lines);
         QFETCH(QList<int>, errors);
-        QCOMPARE(namedLines(messages, "x.c"), QSet<int>(lines.begin(), lines.end()));
-        QCOMPARE(namedLines(messages, "x.c", true), QSet<int>(errors.begin(), errors.end()));
+        const NamedLines named = namedLines(messages, "x.c");
+        QCOMPARE(QSet<int>(named.all.keyBegin(), named.all.keyEnd()),
+                 QSet<int>(lines.begin(), lines.end()));
+        QCOMPARE(named.ofErrors, QSet<int>(errors.begin(), errors.end()));
     }
 
     void readsObjectFiles_data()
