@@ -1,5 +1,7 @@
 #include "accepted_options.h"
 
+#include "path_options.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -19,13 +21,19 @@ bool AcceptedOptions::isTaken(const QStringList &option, const QString &director
     const QString flag = option.first().left(2);
     if ((flag == "-I"_L1 || flag == "-D"_L1) && option.join(QString()) != flag)
         return true;
-    const auto known = m_known.constFind(option);
+    // What is included first may be found only with the other options.
+    if ((option.first() == "-include"_L1 || option.first() == "-imacros"_L1) && option.size() == 2)
+        return true;
+    // What one names in a directory may be another file, or missing, in the next.
+    const QStringList asked =
+        withAbsolutePaths(QStringList {m_clang.program} + option, {}, directory);
+    const auto known = m_known.constFind(asked);
     if (known != m_known.constEnd())
         return *known;
     // An option that is only warned of would be told of in every file.
     const QStringList arguments =
         QStringList {u"-fsyntax-only"_s, u"-Werror"_s} + option + QStringList {m_source};
-    return m_known[option] =
+    return m_known[asked] =
                runClang(m_clang, m_personality, arguments, directory, patience).succeeded();
 }
 

@@ -25,6 +25,6 @@ private:
     const Clang m_clang;
     const QString m_personality;
     const QString m_source;
-    QHash<QStringList, bool> m_known;
+    QHash<QStringList, bool> m_known; ///< of clang with an option, its paths absolute
     QSet<QString> m_refused;
 };
