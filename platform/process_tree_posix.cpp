@@ -51,11 +51,12 @@ bool endDetached(const std::string &folder)
     const std::string sought = "\nTMPDIR=" + folder + '/';
     bool isFound = false;
     std::error_code ignored;
-    for (const auto &process : std::filesystem::directory_iterator("/proc", ignored)) {
-        const pid_t number = std::atoi(process.path().filename().c_str());
+    for (std::filesystem::directory_iterator process("/proc", ignored), end;
+         !ignored && process != end; process.increment(ignored)) {
+        const pid_t number = std::atoi(process->path().filename().c_str());
         if (number <= 0)
             continue;
-        std::ifstream file(process.path() / "environ", std::ios::binary);
+        std::ifstream file(process->path() / "environ", std::ios::binary);
         std::string environment = '\n' + std::string(std::istreambuf_iterator<char>(file), {});
         std::replace(environment.begin(), environment.end(), '\0', '\n');
         if (environment.find(sought) == environment.npos)
@@ -159,10 +160,12 @@ ProcessTree::~ProcessTree()
 bool ProcessTree::start(const QStringList &command)
 {
     m_process.start(command.first(), command.mid(1));
-    if (!m_process.waitForStarted())
-        return false;
+    // Also what cannot be started has reported itself by then, and is to be taken from the list.
     m_system->group = static_cast<pid_t>(m_process.processId());
-    return true;
+    if (m_process.waitForStarted())
+        return true;
+    end();
+    return false;
 }
 
 void ProcessTree::end()
