@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <algorithm>
 #include <unordered_set>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -45,6 +46,13 @@ QString passedOver(const QString &reason, const fs::path &path)
     return u"Passed over, since it %1: %2"_s.arg(reason, visibleText(slashed(path)));
 }
 
+/// What stands in a directory.
+struct Entries
+{
+    std::vector<fs::path> directories;                ///< where they lead
+    std::vector<std::pair<fs::path, fs::path>> files; ///< each with where it leads
+};
+
 class Walker
 {
 public:
@@ -67,23 +75,24 @@ public:
             found.remarks << passedOver(u"lies on another file system"_s, directory);
             return;
         }
-        std::vector<fs::path> directories;
-        const std::size_t firstFile = found.files.size();
+        Entries entries;
         std::error_code error;
         for (fs::directory_iterator entry(directory, error), end; !error && entry != end;
              entry.increment(error))
-            visit(*entry, isOutside, directories);
+            visit(*entry, isOutside, entries);
         if (error)
             found.remarks << cannotBeRead(directory);
         // Which of two ways to one file or directory is taken must not depend on the file system.
-        std::sort(found.files.begin() + std::ptrdiff_t(firstFile), found.files.end());
-        std::sort(directories.begin(), directories.end());
-        for (const fs::path &next : directories)
+        std::sort(entries.files.begin(), entries.files.end());
+        std::sort(entries.directories.begin(), entries.directories.end());
+        for (const auto &[file, target] : std::exchange(entries.files, {}))
+            found.files.push_back({file, isNew(target)});
+        for (const fs::path &next : entries.directories)
             walk(next, isOutside || !isGiven(next));
     }
 
 private:
-    void visit(const fs::directory_entry &entry, bool isOutside, std::vector<fs::path> &directories)
+    void visit(const fs::directory_entry &entry, bool isOutside, Entries &entries)
     {
         std::error_code ignored;
         const bool isDirectory = entry.is_directory(ignored);
@@ -94,9 +103,9 @@ private:
         if (!problem.isEmpty())
             found.remarks << passedOver(problem, entry.path());
         else if (isDirectory)
-            directories.push_back(target);
+            entries.directories.push_back(target);
         else if (countFile(isOutside))
-            found.files.push_back({entry.path(), target == entry.path() || isNew(target)});
+            entries.files.emplace_back(entry.path(), target);
     }
 
     /// Why \a path, which leads to \a target, is not followed. Empty when it is.

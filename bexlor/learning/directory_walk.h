@@ -9,8 +9,6 @@ struct WalkedFile
 {
     std::filesystem::path path; ///< where it was seen, which may be a link
     bool isRead;                ///< not when another way to it has been found before
-
-    bool operator<(const WalkedFile &other) const { return path < other.path; }
 };
 
 /// The regular files below some directories, and sentences on what has been passed over.

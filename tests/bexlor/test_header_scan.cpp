@@ -1,5 +1,6 @@
 #include "beside_compiler.h"
 #include "compiler_names.h"
+#include "directory_walk.h"
 #include "header_sample.h"
 #include "header_scan.h"
 
@@ -112,6 +113,11 @@ private slots:
         QCOMPARE(headers, QStringList({"/one/a.h", "/one/link.h", "/one/two/b.h"}));
         QCOMPARE(progress.found, scan.files);
         QCOMPARE(progress.read, scan.files);
+        std::atomic<qint64> found = 0;
+        int read = 0;
+        for (const WalkedFile &file : walkDirectories({folder.filePath("one")}, found).files)
+            read += file.isRead;
+        QCOMPARE(read, 2);
         QCOMPARE(scan.remarks, QStringList {"Passed over, since it does not exist: "
                                             + folder.filePath("missing")});
     }
