@@ -18,6 +18,12 @@ struct Integer
     int size;                       ///< of its type, in bytes; 0 if not known
 
     quint64 magnitude() const { return isNegative ? 0 - bits : bits; }
+    /// Whether it is the least that a type of so many bytes holds.
+    bool isLeastOf(int bytes) const
+    {
+        return isNegative && bytes > 0 && bytes <= 8
+            && magnitude() == quint64(1) << (8 * bytes - 1);
+    }
 };
 
 /// The sizes of the integer types in bytes, the least that ISO C allows where they are not told.
@@ -122,14 +128,6 @@ QList<Macro> likelyDefinitions(const QByteArray &name, const Integer &value,
     if (isMask)
         digits.swapItemsAt(0, 1);
     QList<Macro> definitions;
-    if (value.isNegative && (magnitude & (magnitude - 1)) == 0) {
-        // The least of a type has no constant of its own.
-        QByteArray largest = name;
-        largest.replace("MIN", "MAX");
-        const QByteArray suffix = suffixesFor(value, sizes).first();
-        definitions.append({name, "(-" + QByteArray::number(magnitude - 1) + suffix + " - 1)"});
-        definitions.append({name, "(-" + largest + " - 1)"});
-    }
     for (const QByteArray &suffix : suffixesFor(value, sizes)) {
         for (const QByteArray &number : digits) {
             if (value.isNegative) {
@@ -140,7 +138,16 @@ QList<Macro> likelyDefinitions(const QByteArray &name, const Integer &value,
             }
         }
     }
-    return definitions;
+    // The least of a type has no constant of its own. That of a smaller one is often written alike.
+    QList<Macro> differences;
+    if (value.isLeastOf(1) || value.isLeastOf(2) || value.isLeastOf(4) || value.isLeastOf(8)) {
+        QByteArray largest = name;
+        largest.replace("MIN", "MAX");
+        const QByteArray suffix = suffixesFor(value, sizes).first();
+        differences = {{name, "(-" + QByteArray::number(magnitude - 1) + suffix + " - 1)"},
+                       {name, "(-" + largest + " - 1)"}};
+    }
+    return value.isLeastOf(value.size) ? differences + definitions : definitions + differences;
 }
 
 /// The names of other macros that a definition may consist of: of those \a others with the same
