@@ -73,7 +73,7 @@ void takeApart(const QStringList &words, const QString &outputFlag, CheckedSourc
 QString sourceWord(const QStringList &words, const CompileCommand &entry)
 {
     const auto found = std::find_if(words.begin() + 1, words.end(), [&entry](const QString &word) {
-        return CompileCommand {entry.directory, word, {}}.absoluteFile() == entry.absoluteFile();
+        return entry.isNamedBy(word);
     });
     return found == words.end() ? entry.file : *found;
 }

@@ -22,6 +22,11 @@ QString CompileCommand::absoluteFile() const
     return QDir::cleanPath(QDir(directory).absoluteFilePath(file));
 }
 
+bool CompileCommand::isNamedBy(const QString &word) const
+{
+    return CompileCommand {directory, word, {}}.absoluteFile() == absoluteFile();
+}
+
 std::optional<QList<CompileCommand>> parseDatabase(const QByteArray &json, const QString &folder)
 {
     const QJsonDocument document = QJsonDocument::fromJson(json);

@@ -11,6 +11,8 @@ struct CompileCommand
     QStringList words;
 
     QString absoluteFile() const;
+    /// Whether \a word of the command is the path of its file, however that is written.
+    bool isNamedBy(const QString &word) const;
 };
 
 /// The entries of the database \a json, which is a file in \a folder. Nothing if it is none.

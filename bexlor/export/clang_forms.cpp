@@ -24,9 +24,7 @@ QList<QStringList> optionsOf(const CompileCommand &command)
     const QStringList words =
         withoutOtherPurposes(withoutResponseFiles(command.words, command.directory));
     for (const QString &word : words.mid(1)) {
-        const bool isSource =
-            CompileCommand {command.directory, word, {}}.absoluteFile() == command.absoluteFile();
-        if (word == "--"_L1 || isSource)
+        if (word == "--"_L1 || command.isNamedBy(word))
             continue;
         // What stands before all options belongs to one who starts the compiler.
         if (word.startsWith(u'-'))
