@@ -19,6 +19,11 @@ const Macro *findMacro(const MacroFacts &macros, const QByteArray &name)
     return itemCalled(macros.known, name);
 }
 
+QByteArray bareName(const Macro &macro)
+{
+    return macro.name.split('(').first();
+}
+
 bool hasKeyword(const Facts &facts, const QByteArray &name)
 {
     return itemCalled(facts.keywords, name);

@@ -15,7 +15,7 @@ QSet<QByteArray> macroNames(const MacroFacts &macros)
 {
     QSet<QByteArray> names(macros.undetermined.begin(), macros.undetermined.end());
     for (const Macro &macro : macros.known)
-        names << macro.name.split('(').first();
+        names << bareName(macro);
     return names;
 }
 
