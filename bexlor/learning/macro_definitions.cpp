@@ -43,6 +43,8 @@ QList<QList<QByteArray>> parameterLists(qsizetype count)
                                                      {"x", "y", "z", "w", "v", "u"},
                                                      {"A", "B", "C", "D", "E", "F"}};
     QList<QList<QByteArray>> lists;
+    if (count == 0)
+        return {{}};
     if (count == 1) {
         for (const QByteArray &parameter : singleNames)
             lists << QList<QByteArray> {parameter};
