@@ -58,6 +58,12 @@ QStringList withOptions(const QStringList &command, const QStringList &options,
     return command.first(place) + options + command.sliced(flag < 0 ? place : place + 1);
 }
 
+void removeOutput(const CheckedSource &source)
+{
+    if (!source.output.isEmpty())
+        QFile::remove(source.output);
+}
+
 platform::ProgramRun compile(const Checking &checking, const CheckedSource &source)
 {
     const QStringList command =
@@ -66,7 +72,7 @@ platform::ProgramRun compile(const Checking &checking, const CheckedSource &sour
             : source.command;
     const platform::ProgramRun run =
         platform::runProgram(command, source.directory, timeLeft(checking));
-    QFile::remove(source.output);
+    removeOutput(source);
     return run;
 }
 
@@ -81,7 +87,7 @@ platform::ProgramRun preprocess(const Checking &checking, const CheckedSource &s
         source.directory, timeLeft(checking), largestSource);
     if (run.output.isEmpty())
         run.output = platform::readFile(source.output, largestSource).bytes;
-    QFile::remove(source.output);
+    removeOutput(source);
     return run;
 }
 
