@@ -10,6 +10,7 @@
 #include "check_steps.h"
 #include "compiler_names.h"
 #include "console.h"
+#include "export_steps.h"
 #include "process_tree.h"
 #include "request.h"
 #include "steps.h"

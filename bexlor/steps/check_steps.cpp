@@ -5,6 +5,7 @@
 #include "report.h"
 #include "steps.h"
 #include "text_file.h"
+#include "tools_and_files.h"
 #include "type_assertions.h"
 
 #include <QDir>
@@ -17,10 +18,8 @@ namespace {
 
 const int headersAtMost = 100;
 const int headerTimeLimit = 2000; // milliseconds
-const qint64 largestDatabase = 1'000'000'000;
 
-/// The sources that \a request names, and how many more there are in another language; a sentence
-/// if they cannot be read.
+/// The sources that are to be checked, and how many more there are in another language.
 struct Sources
 {
     QList<CheckedSource> list;
@@ -38,6 +37,7 @@ void addEntries(const QList<CompileCommand> &entries, const Compiler &compiler,
     }
 }
 
+/// The sources that \a request names; a sentence if they cannot be read.
 std::variant<Sources, QString> sourcesOf(const CheckRequest &request, const Compiler &compiler,
                                          const QString &folder)
 {
@@ -55,6 +55,54 @@ std::variant<Sources, QString> sourcesOf(const CheckRequest &request, const Comp
     return sources;
 }
 
+/// Why the check that \a request asks for, with the compiler of \a arguments, may not begin; empty
+/// when it may.
+QString problemWith(const CheckRequest &request, const Arguments &arguments)
+{
+    // The answers may be somebody else's, and name what is started.
+    if (const QString reason = refusalReason(arguments); !reason.isEmpty())
+        return reason;
+    // Many sources take long, and their verdicts should not be lost then.
+    if (!request.jsonFile.isEmpty() && !QFileInfo(request.jsonFile).absoluteDir().exists())
+        return notWritten(u"verdicts"_s, request.jsonFile);
+    return {};
+}
+
+struct PreparedCheck
+{
+    Checking checking;
+    QList<CheckedSource> sources;
+};
+
+/// Finds what the check that \a request asks for needs; nothing, which is then said, when it is not
+/// there.
+std::optional<PreparedCheck> prepareCheck(Progress &progress, const CheckRequest &request,
+                                          const Arguments &arguments, const Personality &content,
+                                          const QString &folder)
+{
+    if (const QString problem = problemWith(request, arguments); !problem.isEmpty()) {
+        progress.say(problem);
+        return {};
+    }
+    const std::optional<Clang> clang = findClang(progress, request.clang);
+    ProbeRunner runner(findCompiler(arguments), folder, false);
+    if (!clang || !compileFirstProbe(progress, runner, folder))
+        return {};
+    const Compiler &compiler = runner.compiler();
+    const auto read = sourcesOf(request, compiler, folder);
+    if (const auto *problem = std::get_if<QString>(&read)) {
+        progress.say(*problem);
+        return {};
+    }
+    const auto &sources = std::get<Sources>(read);
+    if (sources.passedOver > 0)
+        progress.say(u"Passed over, being in another language: %1."_s.arg(sources.passedOver));
+    const Checking checking {
+        *clang,          request.personality, content,
+        compiler.layout, request.preprocess,  canCheckSyntaxOnly(compiler, folder)};
+    return PreparedCheck {checking, sources.list};
+}
+
 /// The headers of the search path, a sample of them first. Those that clang has its own of tell
 /// nothing about the compiler's.
 QStringList headersToTry(const Personality &content, bool isCpp)
@@ -64,6 +112,39 @@ QStringList headersToTry(const Personality &content, bool isCpp)
     directories.removeIf(
         [&ownHeaders](const QString &directory) { return ownHeaders.contains(directory); });
     return headersInTurn(directories, isCpp);
+}
+
+/// A source that includes each of the first of \a headers, in \a folder.
+QList<CheckedSource> headerSources(const QStringList &headers, const Compiler &compiler,
+                                   const QString &folder)
+{
+    QList<CheckedSource> sources;
+    for (const QString &name : headers.mid(0, headersAtMost)) {
+        const QString file =
+            folder + u"/header_%1_"_s.arg(sources.size()) + probeName(compiler.isCpp);
+        if (platform::writeScratchFile(file, "#include <" + QFile::encodeName(name) + ">\n"))
+            sources << sourceOfFile(compiler, file, folder, sources.size());
+    }
+    return sources;
+}
+
+/// Says how many headers \a clang accepts by \a verdicts, on a sample of \a found, and the first
+/// that it rejects.
+void sayHowMany(Progress &progress, const Clang &clang, const QList<Verdict> &verdicts,
+                qsizetype found)
+{
+    if (verdicts.isEmpty())
+        progress.say(u"None of them was compiled within %1 seconds."_s.arg(headerTimeLimit / 1000));
+    if (acceptedByCompiler(verdicts) == 0)
+        return;
+    progress.say(acceptanceSentence(clang.version, verdicts, u"headers"_s)
+                 + u" A sample: %1 of the %2 found were tried."_s.arg(verdicts.size()).arg(found));
+    const auto rejected =
+        std::find_if(verdicts.begin(), verdicts.end(), [](const Verdict &verdict) {
+            return verdict.result == Verdict::RejectedByClang;
+        });
+    if (rejected != verdicts.end())
+        progress.say(u"The first that it rejects: %1"_s.arg(rejected->rejection.message));
 }
 
 /// What \a verdict, on the assertions in \a file, tells of the compiler and of \a clang.
@@ -87,70 +168,20 @@ QString typeSentence(const Verdict &verdict, const QString &file, const Clang &c
 
 } // namespace
 
-std::optional<Clang> findClang(Progress &progress, const QString &word)
-{
-    const std::optional<Clang> clang = findClang(word);
-    if (!clang)
-        progress.say(u"There is no clang that can be started: %1"_s.arg(word));
-    return clang;
-}
-
-QString notWritten(const QString &noun, const QString &path)
-{
-    const QString folder = QFileInfo(path).absolutePath();
-    return QFileInfo::exists(folder)
-             ? u"The %1 cannot be written: %2"_s.arg(noun, path)
-             : u"The folder of the %1 does not exist: %2"_s.arg(noun, folder);
-}
-
-std::variant<QList<CompileCommand>, QString> readDatabase(const QString &path)
-{
-    const platform::FileContent file = platform::readFile(path, largestDatabase);
-    if (file.state != platform::FileContent::Whole)
-        return u"The compilation database cannot be read: %1"_s.arg(path);
-    const auto commands = parseDatabase(file.bytes, QFileInfo(path).absolutePath());
-    if (!commands)
-        return u"This is no compilation database: %1"_s.arg(path);
-    return *commands;
-}
-
 ExitStatus checkWithPersonality(Progress &progress, const CheckRequest &request,
                                 const Arguments &arguments, const Personality &content,
                                 const QString &folder)
 {
-    // The answers may be somebody else's, and name what is started.
-    if (const QString reason = refusalReason(arguments); !reason.isEmpty()) {
-        progress.say(reason);
+    const auto prepared = prepareCheck(progress, request, arguments, content, folder);
+    if (!prepared)
         return ExitStatus::Missing;
-    }
-    // Many sources take long, and their verdicts should not be lost then.
-    if (!request.jsonFile.isEmpty() && !QFileInfo(request.jsonFile).absoluteDir().exists()) {
-        progress.say(notWritten(u"verdicts"_s, request.jsonFile));
-        return ExitStatus::Missing;
-    }
-    const std::optional<Clang> clang = findClang(progress, request.clang);
-    ProbeRunner runner(findCompiler(arguments), folder, false);
-    if (!clang || !compileFirstProbe(progress, runner, folder))
-        return ExitStatus::Missing;
-    const Compiler &compiler = runner.compiler();
-    const auto read = sourcesOf(request, compiler, folder);
-    if (const auto *problem = std::get_if<QString>(&read)) {
-        progress.say(*problem);
-        return ExitStatus::Missing;
-    }
-    const auto &sources = std::get<Sources>(read);
-    if (sources.passedOver > 0)
-        progress.say(u"Passed over, being in another language: %1."_s.arg(sources.passedOver));
-    const Checking checking {
-        *clang,          request.personality, content,
-        compiler.layout, request.preprocess,  canCheckSyntaxOnly(compiler, folder)};
+    const auto &[checking, sources] = *prepared;
     QList<Verdict> verdicts;
-    checkSources(checking, sources.list, [&](const Verdict &verdict) {
+    checkSources(checking, sources, [&, count = sources.size()](const Verdict &verdict) {
         verdicts << verdict;
-        progress.say(u"[%1/%2] "_s.arg(verdicts.size()).arg(sources.list.size())
-                     + verdictLine(verdict));
+        progress.say(u"[%1/%2] "_s.arg(verdicts.size()).arg(count) + verdictLine(verdict));
     });
-    for (const QString &line : summaryLines(clang->version, verdicts))
+    for (const QString &line : summaryLines(checking.clang.version, verdicts))
         progress.say(line);
     if (!request.jsonFile.isEmpty()
         && !platform::writeFile(request.jsonFile, verdictsAsJson(checking, verdicts))) {
@@ -168,13 +199,7 @@ void checkHeaders(Progress &progress, const Compiler &compiler, const QString &p
         return;
     const Personality content = parsePersonality(text);
     const QStringList headers = headersToTry(content, compiler.isCpp);
-    QList<CheckedSource> sources;
-    for (const QString &name : headers.mid(0, headersAtMost)) {
-        const QString file =
-            folder + u"/header_%1_"_s.arg(sources.size()) + probeName(compiler.isCpp);
-        if (platform::writeScratchFile(file, "#include <" + QFile::encodeName(name) + ">\n"))
-            sources << sourceOfFile(compiler, file, folder, sources.size());
-    }
+    const QList<CheckedSource> sources = headerSources(headers, compiler, folder);
     if (sources.isEmpty())
         return;
     const Checking checking {*clang,
@@ -191,19 +216,7 @@ void checkHeaders(Progress &progress, const Compiler &compiler, const QString &p
         checkSources(checking, sources,
                      [&verdicts](const Verdict &verdict) { verdicts << verdict; });
     }
-    if (verdicts.isEmpty())
-        progress.say(u"None of them was compiled within %1 seconds."_s.arg(headerTimeLimit / 1000));
-    if (acceptedByCompiler(verdicts) == 0)
-        return;
-    progress.say(
-        acceptanceSentence(clang->version, verdicts, u"headers"_s)
-        + u" A sample: %1 of the %2 found were tried."_s.arg(verdicts.size()).arg(headers.size()));
-    const auto rejected =
-        std::find_if(verdicts.begin(), verdicts.end(), [](const Verdict &verdict) {
-            return verdict.result == Verdict::RejectedByClang;
-        });
-    if (rejected != verdicts.end())
-        progress.say(u"The first that it rejects: %1"_s.arg(rejected->rejection.message));
+    sayHowMany(progress, *clang, verdicts, headers.size());
 }
 
 ExitStatus checkTypes(Progress &progress, const Compiler &compiler, const QString &personality,

@@ -1,17 +1,12 @@
 #pragma once
 
-#include "clang_program.h"
-#include "compile_database.h"
 #include "compiler.h"
 #include "exit_status.h"
 #include "personality.h"
 #include "progress.h"
 #include "request.h"
 
-#include <variant>
-
-/// The steps that use a personality that is there: they let clang read code with it, or write it in
-/// another form.
+/// The steps that let clang read code with a personality that is there.
 
 /// Checks the sources of \a request with its personality, which holds \a content and was generated
 /// by \a arguments; \a folder is for temporary files.
@@ -29,18 +24,3 @@ void checkHeaders(Progress &progress, const Compiler &compiler, const QString &p
 /// one line whether the compiler and clang accept them.
 ExitStatus checkTypes(Progress &progress, const Compiler &compiler, const QString &personality,
                       const QByteArray &text, const QString &folder);
-
-/// Writes the personality that holds \a content as \a request asks; the rest as above.
-ExitStatus exportPersonality(Progress &progress, const ExportRequest &request,
-                             const Arguments &arguments, const Personality &content,
-                             const QString &folder);
-
-/// The clang that \a word names; nothing, which is then said, when there is none.
-std::optional<Clang> findClang(Progress &progress, const QString &word);
-
-/// The sentence on the file \a path, called \a noun, that cannot be written: why, if it is for want
-/// of its folder.
-QString notWritten(const QString &noun, const QString &path);
-
-/// The entries of the database \a path, or a sentence if they cannot be read.
-std::variant<QList<CompileCommand>, QString> readDatabase(const QString &path);

@@ -1,10 +1,12 @@
-#include "check_steps.h"
+#include "export_steps.h"
+
 #include "clang_forms.h"
 #include "command_line.h"
 #include "compiler.h"
 #include "fact_forms.h"
 #include "steps.h"
 #include "text_file.h"
+#include "tools_and_files.h"
 
 #include <QFileInfo>
 #include <QJsonDocument>

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "clang_program.h"
+#include "compile_database.h"
+#include "progress.h"
+
+#include <variant>
+
+/// The programs and files of others that the steps on a personality work with.
+
+/// The clang that \a word names; nothing, which is then said, when there is none.
+std::optional<Clang> findClang(Progress &progress, const QString &word);
+
+/// The sentence on the file \a path, called \a noun, that cannot be written: why, if it is for want
+/// of its folder.
+QString notWritten(const QString &noun, const QString &path);
+
+/// The entries of the database \a path, or a sentence if they cannot be read.
+std::variant<QList<CompileCommand>, QString> readDatabase(const QString &path);
