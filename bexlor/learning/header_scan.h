@@ -11,7 +11,9 @@ enum NameUse : unsigned char {
     TestedInHeader = 1, ///< by a preprocessor conditional
     UsedInHeader = 2,   ///< outside comments and literals
     InBinary = 4,       ///< stands in a compiler's binary file
-    DefinedByOption = 8 ///< behind "-D" or "/D", in a file that is no header
+    /// Behind "-D" or "/D" in a file that is no header or in the compiler's command, or formed of
+    /// words as the names are that a compiler's options define.
+    DefinedByOption = 8
 };
 
 struct ScannedName
