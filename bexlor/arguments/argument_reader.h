@@ -1,6 +1,6 @@
 #pragma once
 
-#include "request.h"
+#include "arguments.h"
 
 /// Walks along a list of arguments; every take fails once one has failed.
 class ArgumentReader

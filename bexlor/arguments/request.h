@@ -2,6 +2,8 @@
 
 #include "arguments.h"
 
+#include <variant>
+
 // What a command line may ask for. Paths are the host's and do not depend on the working directory.
 
 /// To generate a personality once more.

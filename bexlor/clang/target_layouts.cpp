@@ -1,6 +1,7 @@
 #include "target_layouts.h"
 
 #include <algorithm>
+#include <array>
 
 namespace {
 

@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
