@@ -18,7 +18,7 @@ QList<QByteArray> templateWords(const QByteArray &templateText)
 
 bool MacroChange::concerns(const Macro &macro) const
 {
-    return macro.name.split('(').first() == name.split('(').first();
+    return bareName(macro) == name.split('(').first();
 }
 
 QList<MacroChange> macroChanges(const QByteArray &templateText)

@@ -19,7 +19,7 @@ private slots:
         row("white space and markers", "# 1 \"x.c\"\nint  a;\n# 9 \"y.h\" 2\n b", "int a ;\n\nb\n",
             "");
         row("place", "# 1 \"x.c\"\na\n#line 7 \"odd \\\\ y.h\"\nb\nc\n", "a b d",
-            "odd \\ y.h:8 c d");
+            QDir::fromNativeSeparators("odd \\ y.h") + ":8 c d");
         row("an end", "# 1 \"x.c\"\na\nb", "a", "x.c:2 b ");
         row("the other end", "a", "# 5 \"x.c\"\na b", "x.c:5  b");
         row("glued signs", "# 1 \"x.c\"\na # 7 + +b", "a # 7 ++b", "x.c:1 + ++");
