@@ -38,8 +38,7 @@ Calyx::Calyx(QWidget *parent, const char *name, bool modal, Qt::WindowFlags flag
     readSettings();
     loadCatalogue();
     exeCommandMenu.setStyle(style());
-    buildExeCommandMenu();
-    applyProductToMenus(answers.productCode);
+    showCatalogue();
     updateCommandPreview();
     checkExeCommand();
 

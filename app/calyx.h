@@ -133,11 +133,14 @@ private:
     QString askForDirectory(const QString &start, const QString &caption);
 
     // calyx_catalogue.cpp
+    /// Puts the catalogue into the menu, as the product filters it.
+    void showCatalogue();
     void applyRecord(const CompilerRecord &record);
     void downloadIntegration(const QString &package);
 
     // calyx_generation.cpp
     void moveOrderItem(int distance);
+    void showFailedStart();
     /// Whether the pointer over the review tells that the generator works.
     void showBusy(bool on);
 

@@ -38,6 +38,12 @@ void Calyx::buildExeCommandMenu()
     ExeCommandBtn->setMenu(&exeCommandMenu);
 }
 
+void Calyx::showCatalogue()
+{
+    buildExeCommandMenu();
+    applyProductToMenus(answers.productCode);
+}
+
 void Calyx::applyProductToMenus(const QString &code)
 {
     exeCommandMenu.applyProduct(code);
@@ -80,9 +86,12 @@ void Calyx::applyRecord(const CompilerRecord &record)
 {
     answers = currentAnswers();
     ::applyRecord(record, answers);
-    // Empties and disables the output flag of a cross compiler, which then shows the stored one.
+    // Empties and disables the output flag of a cross compiler, which then shows the stored one,
+    // and clears its box, which stays so where the order says nothing of it.
     CrossCmpCheckBox->setChecked(answers.crossCompiler);
     CrossCmpCheckBox_clicked();
+    answers = currentAnswers();
+    ::applyRecord(record, answers);
     showAnswers(answers, *this, AnswerField::Recorded);
     updateCommandPreview();
 }
@@ -96,6 +105,11 @@ void Calyx::resetCompilerFields()
 
 void Calyx::AddCompilerBtn_clicked()
 {
+    // Others may have changed it; what the user sees is what is overwritten.
+    if (const std::optional<CompilerCatalogue> now = catalogueFile.reload()) {
+        catalogue = *now;
+        showCatalogue();
+    }
     SaveCompilerDetails dialog;
     dialog.families = catalogue.families;
     dialog.compilers = catalogue.compilers;
@@ -119,8 +133,7 @@ void Calyx::AddCompilerBtn_clicked()
         DetailsText->append("Compiler Saved: "_L1 + name);
     catalogue = CompilerCatalogue();
     loadCatalogue();
-    buildExeCommandMenu();
-    applyProductToMenus(answers.productCode);
+    showCatalogue();
     answers.selectedCompilerName = name;
     answers.selectedCompilerFamily = family;
 }

@@ -124,14 +124,21 @@ void Calyx::accept()
     connect(generatorProcess, &QProcess::readyReadStandardOutput, this, &Calyx::readFromStdout);
     connect(generatorProcess, &QProcess::finished, this, &Calyx::processExit);
     connect(generatorProcess, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
-        if (error == QProcess::FailedToStart) {
-            showBusy(false);
-            DetailsText->append(u"Compiler Personality Generation could not be executed: Please "
-                                "ensure Bexlor is set on the path.\n"_s);
-        }
+        if (error == QProcess::FailedToStart)
+            showFailedStart();
     });
     generatorProcess->startProgram(generatorArguments(currentAnswers()));
     setFinishEnabled(Page4, false);
+}
+
+void Calyx::showFailedStart()
+{
+    showBusy(false);
+    DetailsText->append(u"Compiler Personality Generation could not be executed: Please ensure "
+                        "Bexlor is set on the path.\n"_s);
+    // It is, and something else is wrong, such as more defines than a command line may have.
+    if (QFileInfo(generatorProcess->program()).isAbsolute())
+        DetailsText->append(generatorProcess->errorString() + u'\n');
 }
 
 void Calyx::readFromStdout()
@@ -161,6 +168,7 @@ void Calyx::processExit()
             QMessageBox::about(nullptr, u"Calyx"_s,
                                u"Personality Generation Failed!\nPlease check the details on "
                                "screen and try again."_s);
+            showPage(Page4); // any other way there makes the review anew
             showFailureDetails();
         }
     }

@@ -100,6 +100,15 @@ CompilerCatalogue CatalogueFile::load()
     return m_loaded;
 }
 
+std::optional<CompilerCatalogue> CatalogueFile::reload()
+{
+    const platform::FileContent content = platform::readFile(m_path);
+    if (content.state != platform::FileContent::Whole)
+        return {};
+    m_loaded = parseCatalogue(content.bytes);
+    return m_loaded;
+}
+
 CatalogueFile::Result CatalogueFile::update(const QByteArray &whole,
                                             const std::function<QByteArray(QByteArray)> &change)
 {

@@ -3,6 +3,7 @@
 #include "compiler_catalogue.h"
 
 #include <functional>
+#include <optional>
 
 /// The file of the catalogue, which others may change as well: a second wizard, or a text editor.
 class CatalogueFile
@@ -12,6 +13,9 @@ public:
 
     /// What the file holds. A file that cannot be read gives an empty catalogue.
     CompilerCatalogue load();
+
+    /// The same once more; nothing when it cannot be read whole, or is no longer there.
+    std::optional<CompilerCatalogue> reload();
 
     enum class Result {
         Saved,

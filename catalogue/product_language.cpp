@@ -26,6 +26,11 @@ bool isOffered(const QString &name, const QString &productCode)
     return name != other && !name.endsWith("- "_L1 + other);
 }
 
+bool tellsLanguage(const QString &name)
+{
+    return !isOffered(name, generator::productC) || !isOffered(name, generator::productCpp);
+}
+
 QString conflictWith(const QString &name, const QString &productCode)
 {
     if (!name.endsWith(otherLanguage(productCode)))

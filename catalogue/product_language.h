@@ -8,6 +8,9 @@
 /// "C++" nor those that end with "- C++", under "kovpp" likewise "C" and "- C".
 bool isOffered(const QString &name, const QString &productCode);
 
+/// Whether \a name tells a language, so that one product is not offered it.
+bool tellsLanguage(const QString &name);
+
 /// What to say when the chosen compiler \a name is of the other language than the product: under
 /// "kov" when it ends with "C++", under "kovpp" with a capital "C". Otherwise an empty text.
 QString conflictWith(const QString &name, const QString &productCode);

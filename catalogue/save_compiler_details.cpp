@@ -1,5 +1,7 @@
 #include "save_compiler_details.h"
 
+#include "product_language.h"
+
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QEvent>
@@ -16,6 +18,12 @@ namespace {
 QString translated(const char *text)
 {
     return QCoreApplication::translate("Calyx", text);
+}
+
+/// \a text as it will come back from the catalogue's file, in which white space is single spaces.
+QString storedText(const QString &text)
+{
+    return (u'<' + text + u'>').simplified().mid(1).chopped(1);
 }
 
 /// Makes the last of \a list's items from \a firstItem on that equals \a text current.
@@ -190,13 +198,15 @@ void SaveCompilerDetails::accept()
         return;
     }
 
-    const QString family = NewCmpFamEdit->text();
-    const QString name = NewCmpNameEdit->text();
-    // A known name has its language already. The list's empty entry is no name.
+    const QString family = storedText(NewCmpFamEdit->text());
+    const QString name = storedText(NewCmpNameEdit->text());
+    // A known name has its language already, unless it is for both and another is to have the one
+    // that is chosen. The list's empty entry is no name.
     const bool isChosen =
         name == NewCmpNameComboBox->currentText() && family == NewCmpFamComboBox->currentText();
     const bool isKnown =
-        !name.isEmpty() && (isChosen || findRecord(compilers, family, name) != nullptr);
+        !name.isEmpty()
+        && (isChosen || (tellsLanguage(name) && findRecord(compilers, family, name) != nullptr));
     const QString savedName = isKnown ? name : withLanguage(name);
 
     bool accepted = true;

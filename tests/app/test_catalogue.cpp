@@ -5,14 +5,15 @@
 
 namespace {
 
-CompilerRecord compiler(const QString &name, const QString &isCross, const QString &templateValue)
+CompilerRecord compiler(const QString &name, const QString &isCross, const QString &templateValue,
+                        const QString &order = "%c %s %o%e ")
 {
     return {.Name = name,
             .Family = "Family",
             .ExeCommand = "cc -m32",
             .CrossCompiler = isCross,
             .OutputFlag = "-o",
-            .Order = "%c %s %o%e ",
+            .Order = order,
             .ReduceFileSize = "yes",
             .CompilerDefines = "A=1,B",
             .Template = templateValue};
@@ -24,9 +25,10 @@ struct CatalogueFolder : ProgramFolder
     CatalogueFolder()
     {
         write("bin/compilers.txt",
-              catalogueText({{"Family"},
-                             {compiler("a - C", "no", "t"), compiler("b&c - C++", "yes", ""),
-                              compiler("get", "no", "Integration - g&t.exe")}}));
+              catalogueText(
+                  {{"Family"},
+                   {compiler("a - C", "no", "t"), compiler("b&c - C++", "yes", "", "%c %s "),
+                    compiler("get", "no", "Integration - g&t.exe")}}));
     }
 };
 
@@ -70,8 +72,10 @@ private slots:
         QVERIFY(user.nextIsEnabled());
 
         messageOf([&] { user.click(user->KOVPPRadioButton); });
+        user->CmpExeFlagChkBox->setChecked(true);
         choose(user, 1);
         QVERIFY(user->CrossCmpCheckBox->isChecked() && !user->CmpExeFlagEdit->isEnabled());
+        QVERIFY(!user->CmpExeFlagChkBox->isChecked()); // of which the order says nothing
         QCOMPARE(user->CmpExeFlagEdit->text(), "-o");
     }
 
@@ -137,9 +141,10 @@ private slots:
                        });
             return parseCatalogue(readTestFile(file));
         };
-        // Over the chosen one, whose name and files stay.
+        // Over the chosen one, whose name and files stay, as others have them by now.
+        folder.write("bin/compilers.txt", readTestFile(file).replace(">t<", ">theirs<"));
         CompilerCatalogue saved = save([](SaveCompilerDetails &) {});
-        CompilerRecord expected = compiler("a - C", "no", "t");
+        CompilerRecord expected = compiler("a - C", "no", "theirs");
         expected.ExeCommand = "cc -x";
         QCOMPARE(saved.compilers.size(), 3);
         QCOMPARE(saved.compilers.first(), expected);
@@ -150,6 +155,7 @@ private slots:
             dialog.NewCmpNameEdit->setText("dd");
             dialog.CPPRadioButton->click();
         });
+        expected.Template = "t"; // what was chosen
         expected.Name = "dd - C++";
         expected.Family = "Fam & Co";
         QCOMPARE(saved.families, QStringList({"Family", "Fam & Co"}));

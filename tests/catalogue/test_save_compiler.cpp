@@ -14,13 +14,13 @@ const QString overwrite = "Compiler Family and Compiler Name match an existing c
 const QString noName = "Compiler Name cannot be empty if language: Both is selected.";
 const QString otherLanguage = "Compiler Name provided does not match";
 
-/// The dialog on the screen, which knows three compilers; one of them is chosen.
+/// The dialog on the screen, which knows four compilers; one of them is chosen.
 struct ShownDialog : SaveCompilerDetails
 {
     ShownDialog()
     {
         families = QStringList {"Alpha", "Beta"};
-        compilers = {{"b - C", "Beta"}, {"a - C", "Alpha"}, {"C++", "Beta"}};
+        compilers = {{"b - C", "Beta"}, {"a - C", "Alpha"}, {"C++", "Beta"}, {"e", "Beta"}};
         currentRecord = {"C++", "Beta"};
         show();
     }
@@ -124,6 +124,8 @@ private slots:
         row("typed, exists, declined", newEntry("Beta", "", cpp), {"No" + overwrite}, "");
         row("typed as it exists", newEntry("Alpha", "a - C", cpp), {"Yes" + overwrite},
             "Alpha/a - C");
+        row("typed like one for both", newEntry("Beta", "e", c), {}, "Beta/e - C");
+        row("typed with more than a space", newEntry("My  Fam", "c  c ", both), {}, "My Fam/c c ");
         row("from the list, confirmed", fromTheList, {"Yes" + overwrite}, "Alpha/a - C");
         row("from the list, then typed into", typedInto, {}, "Beta/C++x - C");
         row("preselected as new, its language declined", newOne,
