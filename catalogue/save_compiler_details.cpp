@@ -162,6 +162,16 @@ QString SaveCompilerDetails::withLanguage(const QString &name) const
     return name.isEmpty() ? language : name + " - "_L1 + language;
 }
 
+bool SaveCompilerDetails::isKnown(const QString &family, const QString &name)
+{
+    if (name.isEmpty())
+        return false; // the lists' empty entry
+    if (name == NewCmpNameComboBox->currentText() && family == NewCmpFamComboBox->currentText())
+        return true;
+    // One for both languages leaves room for one of its name for the language that is chosen.
+    return tellsLanguage(name) && findRecord(compilers, family, name) != nullptr;
+}
+
 bool SaveCompilerDetails::contradictsLanguage(const QString &name) const
 {
     const bool namesC = name == "C"_L1;
@@ -200,20 +210,14 @@ void SaveCompilerDetails::accept()
 
     const QString family = storedText(NewCmpFamEdit->text());
     const QString name = storedText(NewCmpNameEdit->text());
-    // A known name has its language already, unless it is for both and another is to have the one
-    // that is chosen. The list's empty entry is no name.
-    const bool isChosen =
-        name == NewCmpNameComboBox->currentText() && family == NewCmpFamComboBox->currentText();
-    const bool isKnown =
-        !name.isEmpty()
-        && (isChosen || (tellsLanguage(name) && findRecord(compilers, family, name) != nullptr));
-    const QString savedName = isKnown ? name : withLanguage(name);
+    const bool isOld = isKnown(family, name);
+    const QString savedName = isOld ? name : withLanguage(name);
 
     bool accepted = true;
     if (family.isEmpty() && name.isEmpty()) {
         accepted = showProblem(translated(
             QT_TRANSLATE_NOOP("Calyx", "Compiler Family and Compiler Name cannot be empty.")));
-    } else if (isKnown || findRecord(compilers, family, savedName)) {
+    } else if (isOld || findRecord(compilers, family, savedName)) {
         accepted = isConfirmed(translated(QT_TRANSLATE_NOOP(
             "Calyx", "Compiler Family and Compiler Name match an existing compiler, do you want to "
                      "overwrite this?")));

@@ -40,6 +40,8 @@ private:
     /// Makes the one mode or the other the chosen one, by its button.
     void choose(const QRadioButton *mode);
     QString withLanguage(const QString &name) const;
+    /// Whether a new entry would be one that is there, which has its language in its name already.
+    bool isKnown(const QString &family, const QString &name);
     bool contradictsLanguage(const QString &name) const;
     bool showProblem(const QString &text);
     bool isConfirmed(const QString &question);
