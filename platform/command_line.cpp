@@ -8,7 +8,7 @@ QStringList shellWords(const QString &text)
     bool isInWord = false;
     QChar quote;
     for (qsizetype i = 0; i < text.size(); ++i) {
-        QChar character = text[i];
+        const QChar character = text[i];
         if (quote.isNull() && character.isSpace()) {
             isInWord = false;
             continue;

@@ -1,6 +1,5 @@
 #include "console.h"
 
-#include <algorithm>
 #include <io.h>
 #include <qt_windows.h>
 

@@ -13,21 +13,24 @@ namespace platform {
 
 namespace {
 
+// What begins a path on a share, and paths of any length on a share or elsewhere.
+const QLatin1StringView share("\\\\"), longShare("\\\\?\\UNC\\"), longPath("\\\\?\\");
+
 /// \a path as the system takes it at any length. Without the prefix it would be limited to 260
 /// characters: Microsoft's "Naming Files, Paths, and Namespaces".
 std::wstring nativePath(const QString &path)
 {
     const QString absolute = QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath());
-    const QLatin1StringView share("\\\\");
     if (!absolute.startsWith(share))
-        return ("\\\\?\\"_L1 + absolute).toStdWString();
-    return ("\\\\?\\UNC\\"_L1 + absolute.mid(share.size())).toStdWString();
+        return (longPath + absolute).toStdWString();
+    return (longShare + absolute.mid(share.size())).toStdWString();
 }
 
-/// \a path, of a file of this system or on a share, without what nativePath() adds.
+/// \a path without what nativePath() adds.
 QString withoutPrefix(const QString &path)
 {
-    return path.startsWith("\\\\?\\UNC\\"_L1) ? "\\\\"_L1 + path.mid(8) : path.mid(4);
+    return path.startsWith(longShare) ? share + path.mid(longShare.size())
+                                      : path.mid(longPath.size());
 }
 
 } // namespace
