@@ -3,7 +3,7 @@
 #include "text_file.h"
 
 #include <QTextStream>
-#include <algorithm>
+#include <map>
 
 namespace {
 
@@ -23,61 +23,127 @@ QByteArray written(Write write, const Value &value)
     return text.toLocal8Bit();
 }
 
-/// Puts \a record in the place of its entry in \a file, or at the end.
-void putRecord(QByteArray &file, const CompilerRecord &record)
-{
-    const QByteArray block = written(&writeCompilerBlock, record);
-    const QList<CatalogueEntry> entries = parseEntries(file);
-    const auto same = std::find_if(entries.begin(), entries.end(), [&](const auto &entry) {
-        return entry.kind == CatalogueEntry::Record && entry.record.Family == record.Family
-            && entry.record.Name == record.Name;
-    });
-    if (same != entries.end()) {
-        file.replace(same->begin, same->end - same->begin,
-                     block.chopped(1)); // its empty line stays
-        return;
-    }
-    if (!file.isEmpty() && !file.endsWith('\n'))
-        file += '\n';
-    if (!entries.isEmpty() && entries.last().isCutShort)
-        file += " </Compiler>\n\n";
-    file += block;
-}
-
-/// Puts \a family behind the families of \a file, if it is not among them.
-void putFamily(QByteArray &file, const QString &family)
+/// Where the last family of \a entries ends; 0 where there is none.
+qsizetype endOfFamilies(const QList<CatalogueEntry> &entries)
 {
     qsizetype end = 0;
-    for (const CatalogueEntry &entry : parseEntries(file)) {
-        if (entry.kind != CatalogueEntry::Family)
-            continue;
-        if (entry.family == family)
-            return;
-        end = entry.end;
+    for (const CatalogueEntry &entry : entries) {
+        if (entry.kind == CatalogueEntry::Family)
+            end = entry.end;
     }
-    if (end > 0 && file[end - 1] != '\n')
-        file.insert(end++, '\n');
-    file.insert(end, written(&writeFamilyLine, family));
+    return end;
+}
+
+/// The lines of those of \a families that are not among \a entries.
+QByteArray newFamilies(const QList<CatalogueEntry> &entries, const QStringList &families)
+{
+    QStringList known;
+    for (const CatalogueEntry &entry : entries) {
+        if (entry.kind == CatalogueEntry::Family)
+            known << entry.family;
+    }
+    QByteArray lines;
+    for (const QString &family : families) {
+        if (known.contains(family))
+            continue;
+        known << family;
+        lines += written(&writeFamilyLine, family);
+    }
+    return lines;
+}
+
+/// Blocks of records by the indexes of entries. Those of new records come behind, in their order.
+using Blocks = std::map<qsizetype, QByteArray>;
+
+/// The blocks of \a records, each at the first of \a entries with its family and name. Of records
+/// that have the same the last counts.
+Blocks blocksByEntry(const QList<CatalogueEntry> &entries, const QList<CompilerRecord> &records)
+{
+    std::map<std::pair<QString, QString>, qsizetype> indexes;
+    for (qsizetype i = 0; i < entries.size(); ++i) {
+        const CompilerRecord &record = entries[i].record;
+        if (entries[i].kind == CatalogueEntry::Record)
+            indexes.try_emplace({record.Family, record.Name}, i);
+    }
+    Blocks blocks;
+    for (qsizetype i = 0; i < records.size(); ++i) {
+        const auto index =
+            indexes.try_emplace({records[i].Family, records[i].Name}, entries.size() + i);
+        blocks[index.first->second] = written(&writeCompilerBlock, records[i]);
+    }
+    return blocks;
+}
+
+void endLine(QByteArray &file)
+{
+    if (!file.isEmpty() && !file.endsWith('\n'))
+        file += '\n';
+}
+
+/// \a file with those of \a families that it lacks behind its own, and with each of \a records in
+/// the place of its entry, or at the end.
+QByteArray withEntries(const QByteArray &file, const QStringList &families,
+                       const QList<CompilerRecord> &records)
+{
+    // Read once, however many come: a user may have thousands.
+    const QList<CatalogueEntry> entries = parseEntries(file);
+    const QByteArray familyLines = newFamilies(entries, families);
+    const qsizetype placeOfFamilies = endOfFamilies(entries);
+    const Blocks blocks = blocksByEntry(entries, records);
+
+    QByteArray made = placeOfFamilies == 0 ? familyLines : QByteArray();
+    qsizetype taken = 0;
+    const auto takeUpTo = [&](qsizetype end) {
+        made += QByteArrayView(file).sliced(taken, end - taken);
+        taken = end;
+    };
+    for (qsizetype i = 0; i < entries.size(); ++i) {
+        if (const auto block = blocks.find(i); block != blocks.end()) {
+            takeUpTo(entries[i].begin);
+            made += block->second.chopped(1); // its empty line stays
+            taken = entries[i].end;
+        } else if (entries[i].end == placeOfFamilies && !familyLines.isEmpty()) {
+            takeUpTo(placeOfFamilies);
+            endLine(made);
+            made += familyLines;
+        }
+    }
+    takeUpTo(file.size());
+
+    const auto firstNew = blocks.lower_bound(entries.size());
+    if (firstNew == blocks.end())
+        return made;
+    endLine(made);
+    if (!entries.isEmpty() && entries.last().isCutShort && !blocks.contains(entries.size() - 1))
+        made += " </Compiler>\n\n";
+    for (auto block = firstNew; block != blocks.end(); ++block)
+        made += block->second;
+    return made;
 }
 
 } // namespace
 
-QByteArray withChanges(QByteArray file, const CompilerCatalogue &before,
+QByteArray withChanges(const QByteArray &file, const CompilerCatalogue &before,
                        const CompilerCatalogue &now)
 {
+    QStringList families;
     for (const QString &family : now.families) {
         if (!before.families.contains(family))
-            putFamily(file, family);
+            families << family;
     }
+    QList<CompilerRecord> records;
     for (qsizetype i = 0; i < now.compilers.size(); ++i) {
         if (i >= before.compilers.size() || now.compilers[i] != before.compilers[i])
-            putRecord(file, now.compilers[i]);
+            records << now.compilers[i];
     }
-    return file;
+    return withEntries(file, families, records);
 }
 
-QByteArray withShipped(QByteArray file, CompilerCatalogue before, const CompilerCatalogue &shipped)
+QByteArray withShipped(const QByteArray &file, CompilerCatalogue before,
+                       const CompilerCatalogue &shipped)
 {
+    QStringList families;
+    QList<CompilerRecord> records;
     QList<CompilerRecord> own = parseCatalogue(file).compilers;
     for (const CompilerRecord &record : shipped.compilers) {
         const CompilerRecord *const mine = findRecord(own, record.Family, record.Name);
@@ -86,10 +152,10 @@ QByteArray withShipped(QByteArray file, CompilerCatalogue before, const Compiler
         const bool isUntouched = mine && old && *mine == *old && *mine != record;
         if (!isNew && !isUntouched)
             continue;
-        putFamily(file, record.Family);
-        putRecord(file, record);
+        families << record.Family;
+        records << record;
     }
-    return file;
+    return withEntries(file, families, records);
 }
 
 CatalogueFile::CatalogueFile(const QString &path) : m_path(path) { }

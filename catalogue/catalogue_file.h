@@ -40,10 +40,11 @@ private:
 /// \a file, the bytes of a catalogue file, with what \a now has and \a before had not in its place:
 /// a record takes the place of the first with its family and name, and stands at the end where
 /// there is none.
-QByteArray withChanges(QByteArray file, const CompilerCatalogue &before,
+QByteArray withChanges(const QByteArray &file, const CompilerCatalogue &before,
                        const CompilerCatalogue &now);
 
 /// \a file, the bytes of a catalogue file, with the records of \a shipped that are new since
 /// \a before, and with those that have changed and that the user has left as they were. What the
 /// user has changed, added or removed stays so.
-QByteArray withShipped(QByteArray file, CompilerCatalogue before, const CompilerCatalogue &shipped);
+QByteArray withShipped(const QByteArray &file, CompilerCatalogue before,
+                       const CompilerCatalogue &shipped);
