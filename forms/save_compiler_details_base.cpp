@@ -5,6 +5,7 @@
 #include "form_table.h"
 #include "picture.h"
 
+#include <QButtonGroup>
 #include <QCoreApplication>
 #include <QGroupBox>
 #include <QLabel>
@@ -122,6 +123,11 @@ SaveCompilerDetailsBase::SaveCompilerDetailsBase(QWidget *parent, const char *na
     setSizeGripEnabled(true);
     setModal(true);
     createWidgets(this, this, std::span<const WidgetRow<SaveCompilerDetailsBase>>(widgets));
+    // Without a group of their own they would share one with NewSaveRadioButton, and of a group the
+    // tab key reaches one button only.
+    auto *languages = new QButtonGroup(this);
+    for (QRadioButton *button : {CRadioButton, CPPRadioButton, BothRadioButton})
+        languages->addButton(button);
     buttonOk->setDefault(true);
     languageChange();
     resize(QSize(547, 463).expandedTo(minimumSizeHint()));
