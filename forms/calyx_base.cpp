@@ -380,7 +380,7 @@ const char *const orderItems[] = {
     QT_TRANSLATE_NOOP("CalyxBase", "Object Flag"), QT_TRANSLATE_NOOP("CalyxBase", "<src file>"),
 };
 
-const char *const tabOrder[] = {
+const char *const tabStops[] = {
     "KOVRadioButton",
     "PersonDestEdit",
     "PersonDestBrowseBtn",
@@ -463,9 +463,7 @@ CalyxBase::CalyxBase(QWidget *parent, const char *name, bool modal, Qt::WindowFl
     createPages();
     languageChange();
     resize(QSize(768, 455).expandedTo(minimumSizeHint()));
-    for (std::size_t i = 1; i < std::size(tabOrder); ++i)
-        setTabOrder(findChild<QWidget *>(QLatin1StringView(tabOrder[i - 1])),
-                    findChild<QWidget *>(QLatin1StringView(tabOrder[i])));
+    setTabStops(this, tabStops);
     // The first page is current before the window is shown, so that showing it does not go back
     // there once another page has been chosen.
     restart();

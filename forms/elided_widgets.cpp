@@ -58,6 +58,12 @@ void ElidedComboBox::initStyleOption(QStyleOptionComboBox *option) const
         fontMetrics().elidedText(option->currentText, Qt::ElideRight, field.width() - 2);
 }
 
+bool WholeTitleGroupBox::event(QEvent *event)
+{
+    // Where Enter presses buttons, the toolkit presses the title, which is none here.
+    return event->type() == QEvent::KeyPress ? QWidget::event(event) : QGroupBox::event(event);
+}
+
 void WholeTitleGroupBox::paintEvent(QPaintEvent *)
 {
     QStyleOptionGroupBox option;

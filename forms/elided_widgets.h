@@ -37,7 +37,8 @@ protected:
 };
 
 /// A group box whose title is drawn whole in every script. The style reckons with the height of the
-/// form's face, and cuts off what is taller, as the faces of Chinese and Japanese are.
+/// form's face, and cuts off what is taller, as the faces of Chinese and Japanese are. Leaves Enter
+/// to the default button of the form on every desktop.
 class WholeTitleGroupBox : public QGroupBox
 {
     Q_OBJECT
@@ -46,5 +47,6 @@ public:
     using QGroupBox::QGroupBox;
 
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 };

@@ -98,3 +98,14 @@ void setNames(QWidget *form, std::span<const NameRow> rows)
             ->setAccessibleName(caption.toString().simplified());
     }
 }
+
+void setTabStops(const QWidget *form, std::span<const char *const> names)
+{
+    QWidget *previous = nullptr;
+    for (const char *name : names) {
+        auto *widget = form->findChild<QWidget *>(QLatin1StringView(name));
+        if (previous)
+            QWidget::setTabOrder(previous, widget);
+        previous = widget;
+    }
+}

@@ -103,3 +103,6 @@ void setTexts(QWidget *form, const char *context, std::span<const TextRow> rows)
 /// Names every widget of \a rows after its caption, in one line, for those who do not see that. To
 /// be called when the texts have been set.
 void setNames(QWidget *form, std::span<const NameRow> rows);
+
+/// Lets the tab key go through the widgets below \a form with these object names, in their order.
+void setTabStops(const QWidget *form, std::span<const char *const> names);

@@ -8,6 +8,7 @@
 #include <QButtonGroup>
 #include <QCoreApplication>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -19,7 +20,26 @@ namespace {
 
 #define ROW(member) FORM_WIDGET(SaveCompilerDetailsBase, member)
 #define LIST(member) FORM_WIDGET_AS(SaveCompilerDetailsBase, member, ElidedComboBox)
+#define MODE(member) FORM_WIDGET_AS(SaveCompilerDetailsBase, member, ModeButton)
 #define GROUP(member) FORM_WIDGET_AS(SaveCompilerDetailsBase, member, WholeTitleGroupBox)
+
+// Some desktops press buttons by Enter. One that is chosen cannot be pressed, and leaves Enter to
+// the default button, as all do elsewhere: Enter saves when the dialog has just come.
+class ModeButton : public QRadioButton
+{
+public:
+    using QRadioButton::QRadioButton;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if (isEnter && isChecked())
+            event->ignore();
+        else
+            QRadioButton::keyPressEvent(event);
+    }
+};
 
 const WidgetRow<SaveCompilerDetailsBase> widgets[] = {
     {ROW(pixmapLabel3),
@@ -30,7 +50,7 @@ const WidgetRow<SaveCompilerDetailsBase> widgets[] = {
     {ROW(textLabel1_3), {{10, 20, 90, 20}}, "SaveNewGrpBox"},
     {ROW(textLabel1_2_2), {{10, 60, 90, 20}}, "SaveNewGrpBox"},
     {ROW(textLabel1_2_2_2), {{10, 90, 90, 20}}, "SaveNewGrpBox"},
-    {ROW(NewSaveRadioButton), {{10, -2, 16, 20}}, "SaveNewGrpBox"},
+    {MODE(NewSaveRadioButton), {{10, -2, 16, 20}}, "SaveNewGrpBox"},
     {LIST(NewCmpFamComboBox), {{110, 20, 150, 21}, SetUp::Disabled}, "SaveNewGrpBox"},
     {ROW(NewCmpFamEdit), {{270, 20, 220, 25}, SetUp::Disabled}, "SaveNewGrpBox"},
     {LIST(NewCmpNameComboBox), {{110, 60, 150, 21}, SetUp::Disabled}, "SaveNewGrpBox"},
@@ -43,7 +63,7 @@ const WidgetRow<SaveCompilerDetailsBase> widgets[] = {
     {ROW(textLabel1), {{10, 20, 90, 20}}, "SaveExstGrpBox"},
     {ROW(textLabel1_2), {{10, 50, 90, 20}}, "SaveExstGrpBox"},
     {LIST(ExstCmpNameComboBox), {{110, 50, 150, 21}}, "SaveExstGrpBox"},
-    {ROW(ExstSaveRadioButton), {{10, -2, 16, 20}, SetUp::Checked}, "SaveExstGrpBox"},
+    {MODE(ExstSaveRadioButton), {{10, -2, 16, 20}, SetUp::Checked}, "SaveExstGrpBox"},
     {LIST(ExstCmpFamComboBox), {{110, 20, 150, 21}}, "SaveExstGrpBox"},
     {ROW(line1_2), {{526, 50, 20, 380}, SetUp::SeparatorLine}},
     {ROW(line1), {{-3, 50, 20, 380}, SetUp::SeparatorLine}},
@@ -104,6 +124,13 @@ const NameRow names[] = {
     {"NewCmpNameComboBox", "textLabel1_2_2"}, {"NewCmpNameEdit", "textLabel1_2_2"},
 };
 
+const char *const tabStops[] = {
+    "ExstSaveRadioButton", "ExstCmpFamComboBox", "ExstCmpNameComboBox", "NewSaveRadioButton",
+    "NewCmpFamComboBox",   "NewCmpFamEdit",      "NewCmpNameComboBox",  "NewCmpNameEdit",
+    "CRadioButton",        "CPPRadioButton",     "BothRadioButton",     "buttonOk",
+    "buttonCancel",
+};
+
 QString translated(const char *text)
 {
     return QCoreApplication::translate("SaveCompilerDetailsBase", text);
@@ -131,6 +158,9 @@ SaveCompilerDetailsBase::SaveCompilerDetailsBase(QWidget *parent, const char *na
     buttonOk->setDefault(true);
     languageChange();
     resize(QSize(547, 463).expandedTo(minimumSizeHint()));
+    setTabStops(this, tabStops);
+    // The toolkit would start with OK.
+    ExstSaveRadioButton->setFocus();
 }
 
 void SaveCompilerDetailsBase::languageChange()

@@ -181,6 +181,30 @@ private slots:
         QTest::keyClick(dialog.buttonCancel, Qt::Key_Return);
         QVERIFY(!dialog.isVisible() && dialog.resultName.isEmpty());
     }
+
+    void canBeUsedByKeysAlone()
+    {
+        ShownDialog dialog;
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        QCOMPARE(dialog.focusWidget(), dialog.ExstSaveRadioButton);
+        const auto press = [&dialog](Qt::Key key) { QTest::keyClick(dialog.focusWidget(), key); };
+        const auto tabTo = [&](const QWidget *widget) {
+            for (int stop = 0; stop < 11 && dialog.focusWidget() != widget; ++stop)
+                press(Qt::Key_Tab);
+            QCOMPARE(dialog.focusWidget(), widget);
+        };
+        tabTo(dialog.NewSaveRadioButton);
+        press(Qt::Key_Space);
+        QVERIFY(!dialog.ExstSaveRadioButton->isChecked());
+        tabTo(dialog.CRadioButton);
+        press(Qt::Key_Right);
+        QVERIFY(dialog.CPPRadioButton->isChecked() && dialog.NewSaveRadioButton->isChecked());
+        tabTo(dialog.ExstSaveRadioButton);
+        press(Qt::Key_Space);
+        QVERIFY(!dialog.NewSaveRadioButton->isChecked());
+        press(Qt::Key_Return);
+        QCOMPARE(dialog.resultName, "C++");
+    }
 };
 
 QTEST_MAIN(TestSaveCompiler)

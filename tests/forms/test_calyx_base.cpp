@@ -177,11 +177,14 @@ private slots:
 
     void movesTheFocusDownOrToTheRight()
     {
-        const WizardUser user;
-        for (const int id : user->pageIds()) {
+        Forms forms;
+        QList<QWidget *> pages {&forms.dialog};
+        for (const int id : forms.user->pageIds())
+            pages << forms.user->page(id);
+        for (QWidget *page : pages) {
             QRect previous;
-            QWidget *page = user->page(id);
-            for (QWidget *stop = page->nextInFocusChain(); stop != page;
+            QWidget *start = page->isWindow() ? page->focusWidget() : page;
+            for (QWidget *stop = start->nextInFocusChain(); stop != start;
                  stop = stop->nextInFocusChain()) {
                 if (!page->isAncestorOf(stop) || !(stop->focusPolicy() & Qt::TabFocus))
                     continue;
