@@ -8,19 +8,33 @@
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
 #include <QToolTip>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// \a text in lines of up to a hundred characters, broken at spaces where that can be, and its end
+/// left out where they are many: a tool tip that fits the screen.
+QString inLines(const QString &text)
+{
+    static const QRegularExpression line(u"(.{1,100})(?:\\s|$)|(.{100})"_s);
+    const QStringList lines =
+        QString(text).replace(line, u"\\1\\2\n"_s).split(u'\n', Qt::SkipEmptyParts);
+    const qsizetype most = 30;
+    const QString shown = lines.first(std::min(lines.size(), most)).join(u'\n');
+    return lines.size() > most ? shown + QChar(0x2026) : shown;
+}
+
+} // namespace
 
 bool ElidedLabel::event(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip || shownText() == text())
         return QLabel::event(event);
-    // In lines of up to a hundred characters, broken at spaces, so that the longest fits the
-    // screen.
-    static const QRegularExpression line(u"(.{1,100})(\\s|$)"_s);
-    const QString lines = text().replace(line, u"\\1\n"_s).toHtmlEscaped();
-    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
-                       u"<p style='white-space: pre'>"_s + lines + u"</p>"_s, this);
+    QToolTip::showText(
+        static_cast<QHelpEvent *>(event)->globalPos(),
+        u"<p style='white-space: pre'>"_s + inLines(text()).toHtmlEscaped() + u"</p>"_s, this);
     return true;
 }
 
@@ -44,7 +58,9 @@ ElidedComboBox::ElidedComboBox(QWidget *parent) : QComboBox(parent)
 void ElidedComboBox::showPopup()
 {
     const int scrollBar = view()->verticalScrollBar()->sizeHint().width();
-    view()->setMinimumWidth(view()->sizeHintForColumn(0) + scrollBar);
+    const QMargins frame = view()->window()->contentsMargins();
+    view()->setMinimumWidth(std::min(view()->sizeHintForColumn(0) + scrollBar,
+                                     screen()->availableGeometry().marginsRemoved(frame).width()));
     QComboBox::showPopup();
 }
 

@@ -5,7 +5,7 @@
 #include <QLabel>
 
 /// A label of one line whose text ends in an ellipsis where it is too long; all of it is the tool
-/// tip then. Shows everything literally, never as markup.
+/// tip then, or as much as fits the screen. Shows everything literally, never as markup.
 class ElidedLabel : public QLabel
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ private:
 };
 
 /// A combo box whose current text ends in an ellipsis where it is too long, and whose list opens as
-/// wide as its longest item.
+/// wide as its longest item, or the screen.
 class ElidedComboBox : public QComboBox
 {
     Q_OBJECT

@@ -89,6 +89,7 @@ class TextSpy : public QProxyStyle
 public:
     mutable QString painted;
 
+    TextSpy() : QProxyStyle("windows") { }
     void drawItemText(QPainter *, const QRect &, int, const QPalette &, bool, const QString &text,
                       QPalette::ColorRole) const override
     {
@@ -290,7 +291,7 @@ private slots:
         TextSpy style; // outlives the widgets
         const Forms forms;
         forms.user->showPage(forms.user->Page1);
-        const QString text = "cc <b>" + QString("x").repeated(200) + " -c";
+        const QString text = "cc <b>" + QString("x").repeated(95) + " -c";
         QLabel *preview = forms.user->CmpCmdOrder;
         QComboBox *list = forms.dialog.ExstCmpNameComboBox;
         preview->setText(text);
@@ -307,6 +308,19 @@ private slots:
         QVERIFY(QToolTip::text().contains(text.toHtmlEscaped().replace(' ', '\n')));
         list->showPopup();
         QVERIFY(list->view()->viewport()->width() >= list->view()->sizeHintForColumn(0));
+
+        const QString longText = text + QString("x").repeated(20'000);
+        list->hidePopup();
+        list->addItem(longText);
+        list->showPopup();
+        preview->setText(longText);
+        QApplication::sendEvent(preview, &event);
+        const QRect screen = preview->screen()->availableGeometry();
+        for (const QWidget *window : QApplication::topLevelWidgets()) {
+            if (window->inherits("QTipLabel") || window == list->view()->window())
+                QVERIFY2(screen.contains(window->geometry()), window->metaObject()->className());
+        }
+        QVERIFY(QToolTip::text().contains("xx\u2026</p>"));
     }
 
     void showsSharpPictures()
