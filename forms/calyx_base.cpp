@@ -23,7 +23,44 @@ using namespace Qt::StringLiterals;
 namespace {
 
 #define ROW(member) FORM_WIDGET(CalyxBase, member)
+#define ORDER(member) FORM_WIDGET_AS(CalyxBase, member, OrderList)
 #define PREVIEW(member) FORM_WIDGET_AS(CalyxBase, member, ElidedLabel)
+
+// The rows of the order list are compared with and stored as what they are called in English. What
+// is painted is translated, and what is read out.
+class OrderList : public QListWidget
+{
+public:
+    explicit OrderList(QWidget *parent) : QListWidget(parent)
+    {
+        setItemDelegate(new ItemDelegate(this));
+    }
+
+protected:
+    void rowsInserted(const QModelIndex &parent, int start, int end) override
+    {
+        for (int row = start; row <= end; ++row)
+            item(row)->setData(Qt::AccessibleTextRole, translated(item(row)->text()));
+        QListWidget::rowsInserted(parent, start, end);
+    }
+
+private:
+    static QString translated(const QString &item)
+    {
+        return item.isEmpty() ? item : QCoreApplication::translate("CalyxBase", item.toUtf8());
+    }
+
+    class ItemDelegate : public QStyledItemDelegate
+    {
+    public:
+        using QStyledItemDelegate::QStyledItemDelegate;
+
+        QString displayText(const QVariant &value, const QLocale &) const override
+        {
+            return translated(value.toString());
+        }
+    };
+};
 
 using Place = Placement<CalyxBase>;
 
@@ -141,7 +178,7 @@ const WidgetRow<CalyxBase> page1Widgets[] = {
     {ROW(textLabel4_2_2_3), {{30, 290, 100, 40}, SetUp::TopAligned}},
     {ROW(P1_DefBtn), sideBarButton(3)},
     {ROW(P1_SrchBtn), sideBarButton(2)},
-    {ROW(CmpOrderListBox), {{320, 170, 120, 120}}},
+    {ORDER(CmpOrderListBox), {{320, 170, 120, 120}}},
     {ROW(CmpDefFlagChkBox), {{214, 212, 20, 20}}},
     {ROW(ReduceFileSizeCheckBox), {{214, 295, 100, 20}}},
     {PREVIEW(CmpCmdOrder), {{20, 335, 330, 20}, SetUp::Italic | SetUp::LiteralText}},
@@ -305,8 +342,6 @@ const TextRow texts[] = {
     {"CmpOrderListBox",
      "toolTip",
      {QT_TRANSLATE_NOOP("CalyxBase", "Specify the order of the flags specified to the compile.")}},
-    {"CmpExeFlagChkBox", "accessibleName", {QT_TRANSLATE_NOOP("CalyxBase", "Trailing Space")}},
-    {"CmpDefFlagChkBox", "accessibleName", {QT_TRANSLATE_NOOP("CalyxBase", "Trailing Space")}},
     {"CmdOrderUpBtn", "accessibleName", {QT_TRANSLATE_NOOP("CalyxBase", "Move up")}},
     {"CmdOrderDwnBtn", "accessibleName", {QT_TRANSLATE_NOOP("CalyxBase", "Move down")}},
     {"CmpPathErrorLabel", "text", {""}},
@@ -365,7 +400,9 @@ const NameRow names[] = {
     {"PersonNameEdit", "textLabel1_2"},
     {"CmpExeEdit", "ExeCommandBtn"},
     {"CmpExeFlagEdit", "textLabel4_2"},
+    {"CmpExeFlagChkBox", "textLabel4_2", "textLabel3_2_2"},
     {"CmpDefFlagEdit", "textLabel4_2_2_2"},
+    {"CmpDefFlagChkBox", "textLabel4_2_2_2", "textLabel3_2_2"},
     {"CmpCmpFlagEdit", "textLabel4_2_2"},
     {"CmpObjExtFlagEdit", "textLabel4_2_2_3"},
     {"CmpOrderListBox", "textLabel3_2"},
@@ -434,20 +471,6 @@ const char *const tabStops[] = {
     "P4_RevBtn",
 };
 
-// The rows of the order list are compared with and stored as what they are called in English, so
-// only what is painted is translated.
-class OrderItemDelegate : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QString displayText(const QVariant &value, const QLocale &) const override
-    {
-        const QByteArray item = value.toString().toUtf8();
-        return item.isEmpty() ? QString() : QCoreApplication::translate("CalyxBase", item);
-    }
-};
-
 } // namespace
 
 CalyxBase::CalyxBase(QWidget *parent, const char *name, bool modal, Qt::WindowFlags flags)
@@ -481,7 +504,6 @@ void CalyxBase::createPages()
     }
     sideBar.showBuiltInImages();
     Page4->setComplete(false);
-    CmpOrderListBox->setItemDelegate(new OrderItemDelegate(CmpOrderListBox));
     for (QTextEdit *edit : {CmpSwtchEdit, CmpDefEdit}) {
         edit->setAcceptRichText(false);
         edit->setTabChangesFocus(true);

@@ -9,6 +9,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void setUpFont(QWidget *widget, SetUps setUps)
@@ -91,11 +93,14 @@ void setTexts(QWidget *form, const char *context, std::span<const TextRow> rows)
 
 void setNames(QWidget *form, std::span<const NameRow> rows)
 {
+    const auto widget = [form](const char *name) {
+        return form->findChild<QWidget *>(QLatin1StringView(name));
+    };
     for (const NameRow &row : rows) {
-        const QVariant caption =
-            form->findChild<QWidget *>(QLatin1StringView(row.captionedBy))->property("text");
-        form->findChild<QWidget *>(QLatin1StringView(row.widget))
-            ->setAccessibleName(caption.toString().simplified());
+        QString name = widget(row.captionedBy)->property("text").toString();
+        if (row.columnCaptionedBy)
+            name += ", "_L1 + widget(row.columnCaptionedBy)->property("text").toString();
+        widget(row.widget)->setAccessibleName(name.simplified());
     }
 }
 

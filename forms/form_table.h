@@ -59,11 +59,13 @@ struct TextRow
     SourceText source;
 };
 
-/// Which other widget's text is the caption of a widget that has no text of its own.
+/// Which other widget's text is the caption of a widget that has no text of its own; in a grid, the
+/// caption of its row and that of its column.
 struct NameRow
 {
     const char *widget;
     const char *captionedBy;
+    const char *columnCaptionedBy = nullptr;
 };
 
 /// Creates the widget that the member \a Member of \a form points to.
@@ -100,7 +102,7 @@ void createWidgets(Form *form, QWidget *page, std::span<const WidgetRow<Form>> r
 /// Sets every text of \a rows, translated in \a context, on the widgets below \a form.
 void setTexts(QWidget *form, const char *context, std::span<const TextRow> rows);
 
-/// Names every widget of \a rows after its caption, in one line, for those who do not see that. To
+/// Names every widget of \a rows after its captions, in one line, for those who do not see that. To
 /// be called when the texts have been set.
 void setNames(QWidget *form, std::span<const NameRow> rows);
 

@@ -334,12 +334,16 @@ private slots:
 
     void setsItsTextsAgain()
     {
+        const Language spoken("de");
         CalyxBase form;
         form.CmpOrderListBox->insertItem(0, form.CmpOrderListBox->takeItem(5));
         form.CmpOrderListBox->addItem("extra");
         form.DestErrorLabel->setText("wrong");
         QVERIFY(QMetaObject::invokeMethod(&form, "languageChange"));
         QCOMPARE(rows(form.CmpOrderListBox), defaultOrder());
+        const auto *told = QAccessible::queryAccessibleInterface(form.CmpOrderListBox);
+        QCOMPARE(told->child(1)->text(QAccessible::Name), "Ausgabe-Flag");
+        QVERIFY(form.CmpExeFlagChkBox->accessibleName() != form.CmpDefFlagChkBox->accessibleName());
         QCOMPARE(form.DestErrorLabel->text(), "");
         QCOMPARE(form.CmpCmdOrder->text(), "          <exe> <src>");
     }
