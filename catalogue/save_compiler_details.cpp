@@ -15,11 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("Calyx", text);
-}
-
 /// \a text as it will come back from the catalogue's file, in which white space is single spaces.
 QString storedText(const QString &text)
 {
@@ -215,22 +210,22 @@ void SaveCompilerDetails::accept()
 
     bool accepted = true;
     if (family.isEmpty() && name.isEmpty()) {
-        accepted = showProblem(translated(
-            QT_TRANSLATE_NOOP("Calyx", "Compiler Family and Compiler Name cannot be empty.")));
+        accepted = showProblem(QCoreApplication::translate(
+            "Calyx", "Compiler Family and Compiler Name cannot be empty."));
     } else if (isOld || findRecord(compilers, family, savedName)) {
-        accepted = isConfirmed(translated(QT_TRANSLATE_NOOP(
+        accepted = isConfirmed(QCoreApplication::translate(
             "Calyx", "Compiler Family and Compiler Name match an existing compiler, do you want to "
-                     "overwrite this?")));
+                     "overwrite this?"));
     } else if (BothRadioButton->isChecked() && name.isEmpty()) {
-        accepted = showProblem(translated(QT_TRANSLATE_NOOP(
-            "Calyx", "Compiler Name cannot be empty if language: Both is selected.")));
+        accepted = showProblem(QCoreApplication::translate(
+            "Calyx", "Compiler Name cannot be empty if language: Both is selected."));
     }
     if (contradictsLanguage(name)) {
-        accepted &= isConfirmed(translated(QT_TRANSLATE_NOOP(
+        accepted &= isConfirmed(QCoreApplication::translate(
             "Calyx",
             "Compiler Name provided does not match the language selected,\nor describes a specific "
             "language when 'Both' is selected.\n\nIt is advisabe to ensure that the compiler name "
-            "reflects the language. Are you sure you wish to continue with this name?")));
+            "reflects the language. Are you sure you wish to continue with this name?"));
     }
     resultFamily = family;
     resultName = savedName;

@@ -131,11 +131,6 @@ const char *const tabStops[] = {
     "buttonCancel",
 };
 
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("SaveCompilerDetailsBase", text);
-}
-
 } // namespace
 
 SaveCompilerDetailsBase::SaveCompilerDetailsBase(QWidget *parent, const char *name, bool,
@@ -165,8 +160,7 @@ SaveCompilerDetailsBase::SaveCompilerDetailsBase(QWidget *parent, const char *na
 
 void SaveCompilerDetailsBase::languageChange()
 {
-    setWindowTitle(
-        translated(QT_TRANSLATE_NOOP("SaveCompilerDetailsBase", "Save Compiler Details")));
+    setWindowTitle(QCoreApplication::translate("SaveCompilerDetailsBase", "Save Compiler Details"));
     setTexts(this, "SaveCompilerDetailsBase", texts);
     setNames(this, names);
     // Their texts mark a letter, which is to be no shortcut.
@@ -175,6 +169,6 @@ void SaveCompilerDetailsBase::languageChange()
     for (QComboBox *list : {NewCmpFamComboBox, NewCmpNameComboBox}) {
         list->clear();
         list->addItem(
-            translated(QT_TRANSLATE_NOOP("SaveCompilerDetailsBase", "Select or Enter New ...")));
+            QCoreApplication::translate("SaveCompilerDetailsBase", "Select or Enter New ..."));
     }
 }
