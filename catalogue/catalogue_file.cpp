@@ -7,8 +7,8 @@
 
 namespace {
 
-/// Whether \a content is a text in the local encoding from its start to its end: what is in another
-/// encoding, or is no text, has zeros in it.
+/// Whether \a content is there to its end and can be changed line by line: a text in UTF-16, and
+/// what is no text, has zeros in it.
 bool isWholeText(const platform::FileContent &content)
 {
     return content.state == platform::FileContent::Whole && !content.bytes.contains('\0');

@@ -9,7 +9,7 @@ class QTextStream;
 /// A known compiler: what the wizard fills in when it is chosen. No field holds a line break.
 struct CompilerRecord
 {
-    QString Name; ///< ends with " - C" or " - C++", or is "C" or "C++"
+    QString Name; ///< by custom ends with " - C" or " - C++", or is "C" or "C++"
     QString Family;
     QString ExeCommand;
     QString CrossCompiler; ///< "yes" or "no"

@@ -16,7 +16,8 @@ public:
     QList<CompilerRecord> compilers;
     CompilerRecord currentRecord;
 
-    // The answer; empty texts until the dialog is accepted. The name ends with its language.
+    // The answer; empty texts until the dialog is accepted. The name ends with its language, unless
+    // it is for both.
     QString resultFamily;
     QString resultName;
 
