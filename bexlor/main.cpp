@@ -35,7 +35,8 @@ std::optional<Facts> learn(Progress &progress, ProbeRunner &runner, const Argume
                            const QString &folder, const QString &logFolder)
 {
     const std::optional<ProbeAnswer> first = compileFirstProbe(progress, runner, logFolder);
-    if (!first || !checkControls(progress, runner, *first))
+    if (!first || !compileIncludedFiles(progress, runner.compiler(), folder, logFolder)
+        || !checkControls(progress, runner, *first))
         return {};
     std::optional<DialectAnswers> listed =
         askForListings(progress, runner.compiler(), *first, folder);
@@ -79,26 +80,26 @@ struct Made
     Compiler compiler;
 };
 
-/// The personality that \a arguments ask for; see learn().
+/// The personality that \a arguments, which can be used, ask for; see learn().
 std::optional<Made> makePersonality(Progress &progress, const Arguments &arguments,
                                     const QString &folder, const QString &logFolder)
 {
-    const std::optional<Arguments> usable = checkArguments(progress, arguments);
-    if (!usable)
-        return {};
-    ProbeRunner runner(findCompiler(*usable), folder, usable->reduceFileSize);
-    const std::optional<Facts> facts = learn(progress, runner, *usable, folder, logFolder);
+    ProbeRunner runner(findCompiler(arguments), folder, arguments.reduceFileSize);
+    const std::optional<Facts> facts = learn(progress, runner, arguments, folder, logFolder);
     if (!facts)
         return {};
     const Compiler &compiler = runner.compiler();
-    const auto text = textOfPersonality(progress, *usable, compiler, *facts);
+    const auto text = textOfPersonality(progress, arguments, compiler, *facts);
     return text ? std::optional(Made {*text, compiler}) : std::nullopt;
 }
 
 ExitStatus generate(Progress &progress, const Arguments &arguments, const QString &folder)
 {
     removeLogs();
-    const std::optional<Made> made = makePersonality(progress, arguments, folder, u"."_s);
+    const std::optional<Arguments> usable = checkArguments(progress, arguments);
+    if (!usable || !checkDestination(progress, usable->personality))
+        return ExitStatus::Failed;
+    const std::optional<Made> made = makePersonality(progress, *usable, folder, u"."_s);
     if (!made || !writePersonality(progress, arguments.personality, made->text))
         return ExitStatus::Failed;
     checkHeaders(progress, made->compiler, arguments.personality, made->text, folder);
@@ -110,7 +111,9 @@ ExitStatus generate(Progress &progress, const Arguments &arguments, const QStrin
 /// Says what has changed since a personality was written.
 ExitStatus verify(Progress &progress, const EarlierPersonality &earlier, const QString &folder)
 {
-    const std::optional<Made> made = makePersonality(progress, earlier.arguments, folder, folder);
+    const std::optional<Arguments> usable = checkArguments(progress, earlier.arguments);
+    const std::optional<Made> made =
+        usable ? makePersonality(progress, *usable, folder, folder) : std::nullopt;
     if (!made)
         return ExitStatus::Failed;
     const QStringList changes = changesBetween(earlier.text, made->text);

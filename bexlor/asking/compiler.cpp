@@ -132,6 +132,13 @@ Compiler findCompiler(const Arguments &arguments)
     return compiler;
 }
 
+Compiler withIncludedFiles(Compiler compiler)
+{
+    for (const IncludedFile &included : compiler.includedFirst)
+        compiler.command << included.words;
+    return compiler;
+}
+
 bool namesOutput(const Compiler &compiler)
 {
     return compiler.namesObjects && compiler.layout.order.contains("%e"_L1)

@@ -36,6 +36,9 @@ std::optional<IncludedFile> includedFileAt(const QStringList &words, qsizetype i
 /// such program the first word stays as it was typed.
 Compiler findCompiler(const Arguments &arguments);
 
+/// \a compiler with the files that its command includes first in the command.
+Compiler withIncludedFiles(Compiler compiler);
+
 /// Whether the command that compiles a source to an object says how that is called.
 bool namesOutput(const Compiler &compiler);
 

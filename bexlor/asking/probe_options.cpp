@@ -34,7 +34,7 @@ const OtherPurpose otherPurposes[] = {
     {u"-MT"_s, 1, Maker::Others},
     {u"-MT.+|-M|-MM|-M?MD|-MG|-MP|-MV"_s, 0, Maker::Others},
     {u"-o.*[./\\\\:].*|--output(_file)?=.*|-M[FQJ].+|-Wl,.*|-aux-info=.*|-save-temps.*|"
-     "--save-temps.*|-save-stats.*|-stats-file=.*|-fdump-.*|-dumpdir.+|-fopt-info.*|"
+     "--save-temps.*|-save-stats.*|-stats-file=.*|-time=.*|-fdump-.*|-dumpdir.+|-fopt-info.*|"
      "-f(no-)?save-optimization-record.*|-foptimization-record-file=.*|-fprofile-.*|--coverage|"
      "-ftest-coverage|-fcallgraph-info.*|-fstack-usage|-fdiagnostics-add-output=.*|"
      "-ftime-trace.*|-fcrash-diagnostics-dir=.*|-fmodules-cache-path=.*|-fmodule-output.*|"

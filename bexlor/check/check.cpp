@@ -120,11 +120,6 @@ QStringList undefinedKeywords(const Personality &personality)
     return options;
 }
 
-QString firstLine(const platform::ProgramRun &run)
-{
-    return platform::decodedText(run.errors + run.output).trimmed().section(u'\n', 0, 0);
-}
-
 /// What comparing the code that both see has come to.
 struct Comparison
 {
@@ -139,7 +134,7 @@ Comparison compare(const Checking &checking, const CheckedSource &source,
 {
     const platform::ProgramRun own = preprocess(checking, source, ownDefinitions);
     if (!own.succeeded())
-        return {false, {}, firstLine(own)};
+        return {false, {}, firstError(own.errors + own.output)};
     if (own.output.isEmpty())
         return {false, {}, u"the compiler preprocesses it to nothing"_s};
     const platform::ProgramRun clang =
@@ -212,7 +207,7 @@ Verdict checkSource(const Checking &checking, const CheckedSource &source)
     }
     if (!own.succeeded()) {
         verdict.result = Verdict::RejectedByCompiler;
-        verdict.message = firstLine(own);
+        verdict.message = firstError(own.errors + own.output);
         return verdict;
     }
     const platform::ProgramRun clang = runClang(checking, source, {syntaxOnly});

@@ -94,15 +94,18 @@ QString includingFile(const QString &path, const QString &folder)
     return file;
 }
 
-/// Adds what names the output of \a source to its command.
-void nameOutput(const CommandLayout &layout, CheckedSource &source)
+/// Adds what names the output of \a source to its command, before \a file, which a compiler may
+/// compile as soon as it comes to it.
+void nameOutput(const CommandLayout &layout, const QString &file, CheckedSource &source)
 {
     QStringList words {layout.outputFlag + source.output};
     if (layout.order.contains("%o "_L1))
         words = {layout.outputFlag, source.output};
+    const qsizetype last = source.command.lastIndexOf(file);
+    const qsizetype ofFile = last < 0 ? source.command.size() : last;
     // Behind this word there are files only.
     const qsizetype files = source.command.indexOf(u"--"_s);
-    const qsizetype place = files < 0 ? source.command.size() : files;
+    const qsizetype place = files < 0 ? ofFile : std::min(files, ofFile);
     source.command = source.command.first(place) + words + source.command.sliced(place);
 }
 
@@ -111,9 +114,7 @@ void nameOutput(const CommandLayout &layout, CheckedSource &source)
 CheckedSource sourceOfFile(const Compiler &compiler, const QString &file, const QString &folder,
                            qsizetype number)
 {
-    Compiler whole = compiler;
-    for (const IncludedFile &included : compiler.includedFirst)
-        whole.command << included.words;
+    const Compiler whole = withIncludedFiles(compiler);
     const QString own = numbered(folder, number);
     if (namesOutput(compiler)) {
         const QString output = own + compiler.layout.objectExtension;
@@ -148,7 +149,7 @@ CheckedSource sourceOfEntry(const CompileCommand &entry, const Compiler &compile
     source.clangOptions << file;
     if (isNamed) {
         source.output = own + layout.objectExtension;
-        nameOutput(layout, source);
+        nameOutput(layout, file, source);
     }
     return source;
 }

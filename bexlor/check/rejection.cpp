@@ -35,14 +35,20 @@ QStringList rejectionKinds()
     return names;
 }
 
+QString firstError(const QByteArray &messages)
+{
+    static const QRegularExpression error(u"^.*\\berror( \\w+)?: .*$"_s,
+                                          QRegularExpression::MultilineOption
+                                              | QRegularExpression::CaseInsensitiveOption);
+    const QString text = platform::decodedText(messages).trimmed();
+    const QString found = error.match(text).captured().trimmed();
+    // One that crashes leaves no error.
+    return found.isEmpty() ? text.section(u'\n', 0, 0) : found;
+}
+
 Rejection rejectionIn(const QByteArray &messages)
 {
-    static const QRegularExpression error(u"^.*\\b(fatal )?error: .*$"_s,
-                                          QRegularExpression::MultilineOption);
-    const QString text = platform::decodedText(messages);
-    const QString found = error.match(text).captured().trimmed();
-    // A clang that crashes leaves no error.
-    const QString message = found.isEmpty() ? text.section(u'\n', 0, 0) : found;
+    const QString message = firstError(messages);
     const Kind *kind =
         std::find_if(std::begin(kinds), std::end(kinds), [&message](const Kind &row) {
             return QRegularExpression(row.pattern).match(message).hasMatch();

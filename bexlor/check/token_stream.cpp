@@ -303,13 +303,26 @@ std::optional<int> linesToNext(TokenStream stream)
     return {};
 }
 
+/// How long the same name is that \a one and \a other begin with, without digits at its end.
+qsizetype commonStem(QByteArrayView one, QByteArrayView other)
+{
+    const auto ends = std::mismatch(one.begin(), one.end(), other.begin(), other.end());
+    qsizetype stem = ends.first - one.begin();
+    while (stem > 0 && isDigit(one[stem - 1]))
+        --stem;
+    return stem;
+}
+
 /// Whether \a one and \a other are what both have in the place of __LINE__ in a macro's arguments
-/// that stand on several lines: the first line for GNU compilers, for clang the last. Nothing else
-/// stands on lines between them.
+/// that stand on several lines: the first line for GNU compilers, for clang the last. It may have
+/// been pasted to a name. Nothing else stands on lines between them.
 bool areLineOfCall(QByteArrayView one, const TokenStream &compiler, QByteArrayView other,
                    const TokenStream &clang)
 {
     const int longestCall = 50;
+    const qsizetype stem = commonStem(one, other);
+    one = one.sliced(stem);
+    other = other.sliced(stem);
     const std::optional<int> ofCall = linesBehind(other, clang);
     return linesBehind(one, compiler) == 0 && ofCall > 0 && ofCall < longestCall
         && linesToNext(compiler).value_or(longestCall) >= ofCall;

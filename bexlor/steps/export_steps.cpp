@@ -20,8 +20,9 @@ ExitStatus write(Progress &progress, const QString &file, const QByteArray &cont
 {
     if (file.isEmpty()) {
         // As it is: another encoding than that of the file would be no JSON.
-        std::fwrite(content.constData(), 1, std::size_t(content.size()), stdout);
-        return std::fflush(stdout) == 0 ? ExitStatus::Done : ExitStatus::Failed;
+        const auto size = std::size_t(content.size());
+        const bool isWritten = std::fwrite(content.constData(), 1, size, stdout) == size;
+        return std::fflush(stdout) == 0 && isWritten ? ExitStatus::Done : ExitStatus::Failed;
     }
     if (!platform::writeFile(file, content)) {
         progress.say(notWritten(u"file"_s, file));

@@ -64,11 +64,6 @@ QString problemWith(const Arguments &arguments)
 {
     if (const QString reason = refusalReason(arguments); !reason.isEmpty())
         return reason;
-    const QFileInfo destination(QFileInfo(arguments.personality).absolutePath());
-    if (!destination.isDir())
-        return u"The folder of the personality does not exist: %1"_s.arg(destination.filePath());
-    if (!platform::canCreateFileIn(destination.filePath()))
-        return u"The folder of the personality is not writable: %1"_s.arg(destination.filePath());
     if (!arguments.templateFile.isEmpty() && !platform::readTextFile(arguments.templateFile))
         return templateUnreadable(arguments);
     if (!arguments.forceIncludeFile.isEmpty() && !QFileInfo(arguments.forceIncludeFile).isFile())
@@ -181,6 +176,22 @@ std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arg
     return usable;
 }
 
+bool checkDestination(Progress &progress, const QString &path)
+{
+    const QFileInfo personality(path);
+    const QFileInfo folder(personality.absolutePath());
+    QString problem;
+    if (!folder.isDir())
+        problem = u"The folder of the personality does not exist: %1"_s.arg(folder.filePath());
+    else if (!platform::canCreateFileIn(folder.filePath()))
+        problem = u"The folder of the personality is not writable: %1"_s.arg(folder.filePath());
+    else if (personality.exists() && !personality.isWritable())
+        problem = u"The personality cannot be written: %1"_s.arg(path);
+    if (!problem.isEmpty())
+        progress.say(problem);
+    return problem.isEmpty();
+}
+
 std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, ProbeRunner &runner,
                                              const QString &logFolder)
 {
@@ -206,6 +217,21 @@ std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, ProbeRunner &ru
     }
     progress.say(u"Compiling the first probe failed: %1."_s.arg(howItEnded(answer)));
     return {};
+}
+
+bool compileIncludedFiles(Progress &progress, const Compiler &compiler, const QString &folder,
+                          const QString &logFolder)
+{
+    if (compiler.includedFirst.isEmpty())
+        return true;
+    const ProbeRunner runner(withIncludedFiles(compiler), folder, false);
+    const ProbeAnswer answer = runner.ask(acceptedProbe);
+    if (answer.compiled())
+        return true;
+    leaveLogs(logFolder, runner.command(), answer.run);
+    progress.say(
+        u"Compiling what the command includes first failed: %1."_s.arg(howItEnded(answer)));
+    return false;
 }
 
 bool checkControls(Progress &progress, ProbeRunner &runner, const ProbeAnswer &first)

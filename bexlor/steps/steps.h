@@ -16,9 +16,18 @@ void removeLogs();
 /// or the files that they name cannot be used. Says first which files are used that no page shows.
 std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arguments);
 
+/// Whether the personality \a path can be written.
+bool checkDestination(Progress &progress, const QString &path);
+
 /// What the compiler says to a probe that any compiler accepts. Leaves the logs in \a logFolder.
 std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, ProbeRunner &runner,
                                              const QString &logFolder);
+
+/// Whether \a compiler takes the files that its command includes first, which no other probe does:
+/// clang is to include them, too. \a folder is for temporary files; leaves the logs in \a logFolder
+/// if it does not.
+bool compileIncludedFiles(Progress &progress, const Compiler &compiler, const QString &folder,
+                          const QString &logFolder);
 
 /// Whether the answers of \a runner's compiler, \a first being that to the first probe, can be
 /// trusted as far as is needed: it must reject what is no C.

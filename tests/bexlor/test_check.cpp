@@ -42,6 +42,7 @@ private slots:
             "");
         row("a number like the line", "# 7 \"x.c\"\nf(7);\na", "# 7 \"x.c\"\nf(9);\na",
             "x.c:7 7 9");
+        row("pasted to a name", "# 17 \"x.c\"\nl_17", "# 17 \"x.c\"\nl_19", "");
         row("a number", "# 7 \"x.c\"\nf(6)", "# 7 \"x.c\"\nf(9)", "x.c:7 6 9");
         row("headers of its own", "# 1 \"/own/stddef.h\" 1\na b\n# 2 \"x.c\" 2\nc",
             "# 1 \"/clang/stddef.h\" 1\nz\n# 2 \"x.c\" 2\nc", "");
@@ -80,6 +81,8 @@ private slots:
             rejectionIn("x.c:1:1: warning: no error\n" + message + "\nx.c:2:1: error: asm\n");
         QCOMPARE(rejection.message, message);
         QCOMPARE(rejection.kind, QTest::currentDataTag());
+        QCOMPARE(firstError("In file included from a.c:1:\nb.h(2): Error: no\nc"),
+                 "b.h(2): Error: no");
         QCOMPARE(rejectionIn("PLEASE submit a report\nStack dump").message,
                  "PLEASE submit a report");
     }
@@ -100,8 +103,8 @@ private slots:
         QVERIFY(commands && commands->size() == 2);
         const CheckedSource first = sourceOfEntry(commands->first(), compiler, "/tmp", 4);
         const CheckedSource second = sourceOfEntry(commands->last(), compiler, "/tmp", 5);
-        QCOMPARE(first.command.join(' '), "cc -Iinc -isystem s -O2 -include f.h -DA=1 -D B -c a.c "
-                                          "-o /tmp/4.o");
+        QCOMPARE(first.command.join(' '), "cc -Iinc -isystem s -O2 -include f.h -DA=1 -D B -c -o "
+                                          "/tmp/4.o a.c");
         // The file is called what the compiler calls it.
         QCOMPARE(first.clangOptions.join(' '), "-Iinc -isystem s -include f.h -DA=1 -D B a.c");
         QCOMPARE(first.directory + second.directory, top + top + "/q");

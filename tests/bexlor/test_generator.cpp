@@ -562,6 +562,7 @@ private slots:
         for (const char *option : {"-tpl", "-fi", "-sub"})
             row(option, "tcc", {option, "nowhere"}, "nowhere");
         row("no compiler", "no-such-compiler", {}, "could not be started");
+        row("no file to include", "gcc -include nowhere.h", {}, "includes first failed: the comp");
         row("unknown option", "gcc --no-such-option", {"-xd", "A=\"x\\\"\""},
             "Compiling the first probe failed: the compiler returned 1.");
         row("compiles C++", "g++", {}, "Name its C compiler on the page");
