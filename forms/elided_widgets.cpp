@@ -76,8 +76,11 @@ void ElidedComboBox::initStyleOption(QStyleOptionComboBox *option) const
 
 bool WholeTitleGroupBox::event(QEvent *event)
 {
+    if (event->type() != QEvent::KeyPress)
+        return QGroupBox::event(event);
     // Where Enter presses buttons, the toolkit presses the title, which is none here.
-    return event->type() == QEvent::KeyPress ? QWidget::event(event) : QGroupBox::event(event);
+    event->ignore();
+    return false;
 }
 
 void WholeTitleGroupBox::paintEvent(QPaintEvent *)
