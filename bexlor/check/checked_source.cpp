@@ -13,34 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// An option that decides which code is seen.
-struct ReadingOption
-{
-    QLatin1StringView flag;
-    bool takesWord; ///< what belongs to it may stand in the next word
-    bool isJoined;  ///< or in the same
-};
-
-// The GNU compilers' manual, "Preprocessor Options", "Directory Options" and "C Dialect Options".
-const ReadingOption readingOptions[] = {
-    {"-I"_L1, true, true},         {"-isystem"_L1, true, true}, {"-iquote"_L1, true, true},
-    {"-idirafter"_L1, true, true}, {"-D"_L1, true, true},       {"-U"_L1, true, true},
-    {"-x"_L1, true, true},         {"-std="_L1, false, true},   {"-ansi"_L1, false, false},
-};
-
-/// How many of \a words, from \a index on, are an option of the table: 0, 1 or 2.
-qsizetype wordsOfOption(const QStringList &words, qsizetype index)
-{
-    const QString &word = words[index];
-    for (const ReadingOption &option : readingOptions) {
-        if (word == option.flag)
-            return option.takesWord && index + 1 < words.size() ? 2 : 1;
-        if (option.isJoined && word.startsWith(option.flag))
-            return 1;
-    }
-    return 0;
-}
-
 /// How many words name the output.
 qsizetype wordsOfOutput(const QStringList &words, qsizetype index, const QString &flag)
 {
@@ -49,24 +21,16 @@ qsizetype wordsOfOutput(const QStringList &words, qsizetype index, const QString
     return words[index] == flag && index + 1 < words.size() ? 2 : 1;
 }
 
-/// Takes the words of a command over into \a source, but for those that name its output.
-void takeApart(const QStringList &words, const QString &outputFlag, CheckedSource &source)
+/// The words of a command but for those that name its output.
+QStringList withoutOutput(const QStringList &words, const QString &outputFlag)
 {
-    for (qsizetype i = 0, count = 0; i < words.size(); i += count) {
-        if (const auto included = i > 0 ? includedFileAt(words, i) : std::nullopt) {
-            source.command << included->words;
-            source.clangOptions << included->option << included->file;
-            count = included->words.size();
-            continue;
-        }
-        const qsizetype ofOption = wordsOfOption(words, i);
-        const qsizetype ofOutput = ofOption == 0 ? wordsOfOutput(words, i, outputFlag) : 0;
-        count = std::max<qsizetype>({1, ofOption, ofOutput});
-        if (ofOutput == 0)
-            source.command << words.mid(i, count);
-        if (ofOption != 0)
-            source.clangOptions << words.mid(i, count);
+    QStringList kept;
+    for (qsizetype i = 0, count = 0; i < words.size(); i += std::max<qsizetype>(count, 1)) {
+        count = wordsOfOutput(words, i, outputFlag);
+        if (count == 0)
+            kept << words[i];
     }
+    return kept;
 }
 
 /// The word of a command that names the source, since what it is called may be part of the code.
@@ -81,6 +45,13 @@ QString sourceWord(const QStringList &words, const CompileCommand &entry)
 QString numbered(const QString &folder, qsizetype number)
 {
     return folder + u"/%1"_s.arg(number);
+}
+
+/// \a options of clang with the relative paths in \a directory made absolute.
+QStringList pathsMadeAbsolute(const QStringList &options, const QString &directory)
+{
+    const QStringList command = QStringList {u"clang"_s} + options;
+    return withAbsolutePaths(command, {}, directory).sliced(1);
 }
 
 /// A file in the new folder \a folder that includes \a path and is called like it. The one who
@@ -125,10 +96,11 @@ CheckedSource sourceOfFile(const Compiler &compiler, const QString &file, const 
 }
 
 CheckedSource sourceOfEntry(const CompileCommand &entry, const Compiler &compiler,
-                            const QString &folder, qsizetype number)
+                            const QStringList &clangOptions, const QString &folder,
+                            qsizetype number)
 {
     const QString path = entry.absoluteFile();
-    CheckedSource source {entry.file, entry.directory, {}, {}, {}, path, path};
+    CheckedSource source {entry.file, entry.directory, {}, {}, clangOptions, path, path};
     QStringList words = withoutOtherPurposes(withoutResponseFiles(entry.words, entry.directory));
     if (words.isEmpty())
         words = entry.words; // a response file in which there is nothing
@@ -142,10 +114,11 @@ CheckedSource sourceOfEntry(const CompileCommand &entry, const Compiler &compile
         source.directory = own;
         source.compiled = includingFile(path, own);
         words = withAbsolutePaths(words, layout, entry.directory);
+        source.clangOptions = pathsMadeAbsolute(clangOptions, entry.directory);
         std::replace(words.begin(), words.end(), sourceWord(words, entry), source.compiled);
         file = path;
     }
-    takeApart(words, layout.outputFlag, source);
+    source.command = withoutOutput(words, layout.outputFlag);
     source.clangOptions << file;
     if (isNamed) {
         source.output = own + layout.objectExtension;

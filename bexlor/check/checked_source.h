@@ -21,7 +21,9 @@ struct CheckedSource
 CheckedSource sourceOfFile(const Compiler &compiler, const QString &file, const QString &folder,
                            qsizetype number);
 
-/// The source of an entry of a database, which \a compiler's layout tells how to read; the rest as
-/// above. It is compiled where the entry says, if its output can be kept out of there.
+/// The source of an entry of a database, which \a compiler's layout tells how to read, and for
+/// which clang is given \a clangOptions; the rest as above. It is compiled where the entry says, if
+/// its output can be kept out of there.
 CheckedSource sourceOfEntry(const CompileCommand &entry, const Compiler &compiler,
-                            const QString &folder, qsizetype number);
+                            const QStringList &clangOptions, const QString &folder,
+                            qsizetype number);

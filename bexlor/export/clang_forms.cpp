@@ -1,8 +1,5 @@
 #include "clang_forms.h"
 
-#include "path_options.h"
-#include "probe_options.h"
-
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -18,32 +15,13 @@ QByteArray yamlList(const QStringList &texts)
 
 } // namespace
 
-QList<QStringList> optionsOf(const CompileCommand &command)
-{
-    QList<QStringList> options;
-    const QStringList words =
-        withoutOtherPurposes(withoutResponseFiles(command.words, command.directory));
-    for (const QString &word : words.mid(1)) {
-        if (word == "--"_L1 || command.isNamedBy(word))
-            continue;
-        // What stands before all options belongs to one who starts the compiler.
-        if (word.startsWith(u'-'))
-            options.append({word});
-        else if (!options.isEmpty())
-            options.last() << word;
-    }
-    return options;
-}
-
 QByteArray compileCommands(const QList<CompileCommand> &commands, const QString &clang,
                            const QString &personality, AcceptedOptions &accepted)
 {
     QList<CompileCommand> forClang = commands;
     for (CompileCommand &command : forClang) {
-        const QList<QStringList> options = accepted.of(optionsOf(command), command.directory);
-        command.words = {clang, u"--config"_s, personality};
-        for (const QStringList &option : options)
-            command.words << option;
+        const QStringList options = accepted.of(command);
+        command.words = QStringList {clang, u"--config"_s, personality} + options;
         command.words << command.file;
     }
     return databaseText(forClang);

@@ -3,10 +3,6 @@
 #include "accepted_options.h"
 #include "compile_database.h"
 
-/// The options of \a command, also those in response files, each with the words behind it that are
-/// no options: all but what asks for other files than an object.
-QList<QStringList> optionsOf(const CompileCommand &command);
-
 /// \a commands once more, each by \a clang with the personality \a personality and those of its
 /// options that are \a accepted: a compilation database.
 QByteArray compileCommands(const QList<CompileCommand> &commands, const QString &clang,

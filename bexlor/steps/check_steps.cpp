@@ -1,5 +1,6 @@
 #include "check_steps.h"
 
+#include "accepted_options.h"
 #include "header_sample.h"
 #include "refusal.h"
 #include "report.h"
@@ -27,19 +28,21 @@ struct Sources
 };
 
 void addEntries(const QList<CompileCommand> &entries, const Compiler &compiler,
-                const QString &folder, Sources &sources)
+                const QString &folder, AcceptedOptions &accepted, Sources &sources)
 {
     for (const CompileCommand &entry : entries) {
-        if (isInLanguage(entry.file, compiler.isCpp))
-            sources.list << sourceOfEntry(entry, compiler, folder, sources.list.size());
-        else
+        if (!isInLanguage(entry.file, compiler.isCpp)) {
             ++sources.passedOver;
+            continue;
+        }
+        const QStringList options = accepted.of(entry);
+        sources.list << sourceOfEntry(entry, compiler, options, folder, sources.list.size());
     }
 }
 
 /// The sources that \a request names; a sentence if they cannot be read.
 std::variant<Sources, QString> sourcesOf(const CheckRequest &request, const Compiler &compiler,
-                                         const QString &folder)
+                                         const QString &folder, AcceptedOptions &accepted)
 {
     Sources sources;
     for (const QString &file : request.sources) {
@@ -50,7 +53,7 @@ std::variant<Sources, QString> sourcesOf(const CheckRequest &request, const Comp
         const auto read = readDatabase(file);
         if (const auto *problem = std::get_if<QString>(&read))
             return *problem;
-        addEntries(std::get<QList<CompileCommand>>(read), compiler, folder, sources);
+        addEntries(std::get<QList<CompileCommand>>(read), compiler, folder, accepted, sources);
     }
     return sources;
 }
@@ -89,7 +92,11 @@ std::optional<PreparedCheck> prepareCheck(Progress &progress, const CheckRequest
     if (!clang || !compileFirstProbe(progress, runner, folder))
         return {};
     const Compiler &compiler = runner.compiler();
-    const auto read = sourcesOf(request, compiler, folder);
+    const std::optional<QString> empty = writeEmptySource(progress, folder, compiler.isCpp);
+    if (!empty)
+        return {};
+    AcceptedOptions accepted(*clang, request.personality, *empty);
+    const auto read = sourcesOf(request, compiler, folder, accepted);
     if (const auto *problem = std::get_if<QString>(&read)) {
         progress.say(*problem);
         return {};

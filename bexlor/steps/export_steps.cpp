@@ -79,7 +79,7 @@ ExitStatus writeForClang(Progress &progress, const ExportRequest &request,
                                      accepted));
     }
     for (const CompileCommand &command : project->commands + QList {project->ownCommand})
-        accepted.of(optionsOf(command), command.directory);
+        accepted.of(command);
     return write(progress, request.output,
                  clangdConfiguration(request.personality, accepted.refused()));
 }

@@ -285,7 +285,8 @@ private slots:
         const QString folder = QDir(workshop.folder.path()).canonicalPath();
         workshop.write("all.json", ("[{\"directory\": \"" + folder
                                     + "\", \"file\": \"same.c\", \"command\": "
-                                      "\"gcc -Iinclude -DY=1 -MD -o same.o -c same.c\"}]")
+                                      "\"gcc --include-directory include -Wp,-DY=1 -MD "
+                                      "-o same.o -c same.c\"}]")
                                        .toUtf8());
         workshop.write("gone.json", "[{\"file\": \"same.c\", \"arguments\": [\"no-such-cc\"]},"
                                     "{\"file\": \"b.c\", \"arguments\": [\"gcc\", \"b.c\"]},"

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "clang_program.h"
+#include "compile_database.h"
 
 #include <QHash>
 #include <QSet>
@@ -12,9 +13,9 @@ public:
     /// \a personality is the whole path of the file, \a source that of an empty one.
     AcceptedOptions(const Clang &clang, const QString &personality, const QString &source);
 
-    /// Those of \a options, each with the words behind it, that clang takes without a complaint in
-    /// \a directory: alone, or else with the first of those words, which is its value then.
-    QList<QStringList> of(const QList<QStringList> &options, const QString &directory);
+    /// Those of the options of \a command that clang takes without a complaint in its directory:
+    /// alone, or else with the first of the words behind it, which is its value then.
+    QStringList of(const CompileCommand &command);
 
     /// The options that clang did not take so far, without their values, in alphabetical order.
     QStringList refused() const;

@@ -1,12 +1,39 @@
 #include "accepted_options.h"
 
+#include "compiler.h"
 #include "path_options.h"
+#include "probe_options.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const int patience = 60'000; // milliseconds
+
+/// The options of \a command, also those in response files, each with the words behind it that are
+/// no options: all but what asks for other files than an object. A file that it has included first
+/// is named as clang has it.
+QList<QStringList> optionsOf(const CompileCommand &command)
+{
+    QList<QStringList> options;
+    const QStringList words =
+        withoutOtherPurposes(withoutResponseFiles(command.words, command.directory));
+    for (qsizetype i = 1; i < words.size(); ++i) {
+        const QString &word = words[i];
+        if (const auto included = includedFileAt(words, i)) {
+            options.append({included->option, included->file});
+            i += included->words.size() - 1;
+        } else if (word == "--"_L1 || command.isNamedBy(word)) {
+            continue;
+        } else if (word.startsWith(u'-')) {
+            options.append({word});
+        } else if (!options.isEmpty()) {
+            // What stands before all options belongs to one who starts the compiler.
+            options.last() << word;
+        }
+    }
+    return options;
+}
 
 } // namespace
 
@@ -19,7 +46,7 @@ bool AcceptedOptions::isTaken(const QStringList &option, const QString &director
 {
     // What these name does not matter, and there may be thousands of them.
     const QString flag = option.first().left(2);
-    if ((flag == "-I"_L1 || flag == "-D"_L1) && option.join(QString()) != flag)
+    if ((flag == "-I"_L1 || flag == "-D"_L1 || flag == "-U"_L1) && option.join(QString()) != flag)
         return true;
     // What is included first may be found only with the other options.
     if ((option.first() == "-include"_L1 || option.first() == "-imacros"_L1) && option.size() == 2)
@@ -37,10 +64,11 @@ bool AcceptedOptions::isTaken(const QStringList &option, const QString &director
                runClang(m_clang, m_personality, arguments, directory, patience).succeeded();
 }
 
-QList<QStringList> AcceptedOptions::of(const QList<QStringList> &options, const QString &directory)
+QStringList AcceptedOptions::of(const CompileCommand &command)
 {
-    QList<QStringList> taken;
-    for (const QStringList &option : options) {
+    const QString &directory = command.directory;
+    QStringList taken;
+    for (const QStringList &option : optionsOf(command)) {
         const QStringList alone = option.first(1), withValue = option.mid(0, 2);
         if (isTaken(alone, directory))
             taken << alone;
