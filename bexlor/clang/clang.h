@@ -44,6 +44,11 @@ struct Language
 /// \a passed on, and the types that a target does not settle.
 Language languageOf(const Facts &facts, const QList<QByteArray> &passed, bool isCpp);
 
+/// Options that make clang's language and processor those that the macros \a after tell, where they
+/// are others than those of \a before, which clang with \a target has been told of.
+QList<QByteArray> changedOptions(const MacroFacts &before, const MacroFacts &after,
+                                 const QByteArray &target, bool isCpp);
+
 /// The macros that clang defines even under -undef.
 QList<QByteArray> macrosOfClang();
 

@@ -264,6 +264,16 @@ Language languageOf(const Facts &facts, const QList<QByteArray> &passed, bool is
     return language;
 }
 
+QList<QByteArray> changedOptions(const MacroFacts &before, const MacroFacts &after,
+                                 const QByteArray &target, bool isCpp)
+{
+    QList<QByteArray> options = processorOptions(after, target) + versionOptions(after, isCpp);
+    for (const QByteArray &option :
+         processorOptions(before, target) + versionOptions(before, isCpp))
+        options.removeAll(option);
+    return options;
+}
+
 QList<QByteArray> macrosOfClang()
 {
     return alwaysDefined;

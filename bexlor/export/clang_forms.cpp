@@ -16,15 +16,16 @@ QByteArray yamlList(const QStringList &texts)
 } // namespace
 
 QByteArray compileCommands(const QList<CompileCommand> &commands, const QString &clang,
-                           const QString &personality, AcceptedOptions &accepted)
+                           const QString &personality, OptionsForClang &forClang)
 {
-    QList<CompileCommand> forClang = commands;
-    for (CompileCommand &command : forClang) {
-        const QStringList options = accepted.of(command);
+    QList<CompileCommand> translated = commands;
+    for (CompileCommand &command : translated) {
+        const QStringList options =
+            forClang.differences.of(command).options + forClang.accepted.of(command);
         command.words = QStringList {clang, u"--config"_s, personality} + options;
         command.words << command.file;
     }
-    return databaseText(forClang);
+    return databaseText(translated);
 }
 
 QByteArray clangdConfiguration(const QString &personality, const QStringList &refused)

@@ -1,6 +1,6 @@
 #include "check_steps.h"
 
-#include "accepted_options.h"
+#include "command_differences.h"
 #include "header_sample.h"
 #include "refusal.h"
 #include "report.h"
@@ -25,24 +25,28 @@ struct Sources
 {
     QList<CheckedSource> list;
     int passedOver = 0;
+    QStringList ofOtherTypes; ///< the commands that the personality does not fit
 };
 
 void addEntries(const QList<CompileCommand> &entries, const Compiler &compiler,
-                const QString &folder, AcceptedOptions &accepted, Sources &sources)
+                const QString &folder, OptionsForClang &forClang, Sources &sources)
 {
     for (const CompileCommand &entry : entries) {
         if (!isInLanguage(entry.file, compiler.isCpp)) {
             ++sources.passedOver;
             continue;
         }
-        const QStringList options = accepted.of(entry);
+        const CommandDifference difference = forClang.differences.of(entry);
+        const QStringList options = difference.options + forClang.accepted.of(entry);
         sources.list << sourceOfEntry(entry, compiler, options, folder, sources.list.size());
+        if (!difference.otherTypes.isEmpty())
+            sources.ofOtherTypes << difference.otherTypes;
     }
 }
 
 /// The sources that \a request names; a sentence if they cannot be read.
 std::variant<Sources, QString> sourcesOf(const CheckRequest &request, const Compiler &compiler,
-                                         const QString &folder, AcceptedOptions &accepted)
+                                         const QString &folder, OptionsForClang &forClang)
 {
     Sources sources;
     for (const QString &file : request.sources) {
@@ -53,7 +57,7 @@ std::variant<Sources, QString> sourcesOf(const CheckRequest &request, const Comp
         const auto read = readDatabase(file);
         if (const auto *problem = std::get_if<QString>(&read))
             return *problem;
-        addEntries(std::get<QList<CompileCommand>>(read), compiler, folder, accepted, sources);
+        addEntries(std::get<QList<CompileCommand>>(read), compiler, folder, forClang, sources);
     }
     return sources;
 }
@@ -74,7 +78,7 @@ QString problemWith(const CheckRequest &request, const Arguments &arguments)
 struct PreparedCheck
 {
     Checking checking;
-    QList<CheckedSource> sources;
+    Sources sources;
 };
 
 /// Finds what the check that \a request asks for needs; nothing, which is then said, when it is not
@@ -95,8 +99,8 @@ std::optional<PreparedCheck> prepareCheck(Progress &progress, const CheckRequest
     const std::optional<QString> empty = writeEmptySource(progress, folder, compiler.isCpp);
     if (!empty)
         return {};
-    AcceptedOptions accepted(*clang, request.personality, *empty);
-    const auto read = sourcesOf(request, compiler, folder, accepted);
+    OptionsForClang forClang {{content, compiler, *empty}, {*clang, request.personality, *empty}};
+    const auto read = sourcesOf(request, compiler, folder, forClang);
     if (const auto *problem = std::get_if<QString>(&read)) {
         progress.say(*problem);
         return {};
@@ -107,7 +111,7 @@ std::optional<PreparedCheck> prepareCheck(Progress &progress, const CheckRequest
     const Checking checking {
         *clang,          request.personality, content,
         compiler.layout, request.preprocess,  canCheckSyntaxOnly(compiler, folder)};
-    return PreparedCheck {checking, sources.list};
+    return PreparedCheck {checking, sources};
 }
 
 /// The headers of the search path, a sample of them first. Those that clang has its own of tell
@@ -173,6 +177,19 @@ QString typeSentence(const Verdict &verdict, const QString &file, const Clang &c
     return u"The compiler and %2 accept %1."_s.arg(file, clang.version);
 }
 
+/// Says how many sources \a commands compile, which have other types than the personality or
+/// another target, and what it should be made with instead.
+void sayWhatIsOfOtherTypes(Progress &progress, const QStringList &commands)
+{
+    if (commands.isEmpty())
+        return;
+    QStringList differing = commands;
+    differing.removeDuplicates();
+    progress.say(u"Sources with other types or another target than the personality, for which one "
+                 "should be made with their options: %1 (%2)"_s.arg(commands.size())
+                     .arg(differing.join(u", "_s)));
+}
+
 } // namespace
 
 ExitStatus checkWithPersonality(Progress &progress, const CheckRequest &request,
@@ -184,12 +201,13 @@ ExitStatus checkWithPersonality(Progress &progress, const CheckRequest &request,
         return ExitStatus::Missing;
     const auto &[checking, sources] = *prepared;
     QList<Verdict> verdicts;
-    checkSources(checking, sources, [&, count = sources.size()](const Verdict &verdict) {
+    checkSources(checking, sources.list, [&, count = sources.list.size()](const Verdict &verdict) {
         verdicts << verdict;
         progress.say(u"[%1/%2] "_s.arg(verdicts.size()).arg(count) + verdictLine(verdict));
     });
     for (const QString &line : summaryLines(checking.clang.version, verdicts))
         progress.say(line);
+    sayWhatIsOfOtherTypes(progress, sources.ofOtherTypes);
     if (!request.jsonFile.isEmpty()
         && !platform::writeFile(request.jsonFile, verdictsAsJson(checking, verdicts))) {
         progress.say(notWritten(u"verdicts"_s, request.jsonFile));

@@ -2,8 +2,8 @@
 
 #include "clang_forms.h"
 #include "command_line.h"
-#include "compiler.h"
 #include "fact_forms.h"
+#include "refusal.h"
 #include "steps.h"
 #include "text_file.h"
 #include "tools_and_files.h"
@@ -33,22 +33,22 @@ ExitStatus write(Progress &progress, const QString &file, const QByteArray &cont
 }
 
 /// What clang is to be asked about: the compile commands in the language of the personality, and
-/// the compiler's own command.
+/// the compiler with its own.
 struct Project
 {
     Clang clang;
     QList<CompileCommand> commands;
-    CompileCommand ownCommand;
+    Compiler compiler;
 };
 
 /// The project of \a request; nothing, which is then said, when it cannot be read.
 std::optional<Project> projectOf(Progress &progress, const ExportRequest &request,
-                                 const Arguments &arguments, const QString &folder)
+                                 const Arguments &arguments)
 {
     const std::optional<Clang> clang = findClang(progress, request.clang);
     if (!clang)
         return {};
-    Project project {*clang, {}, {folder, {}, findCompiler(arguments).command}};
+    Project project {*clang, {}, findCompiler(arguments)};
     if (request.database.isEmpty())
         return project;
     const auto read = readDatabase(request.database);
@@ -64,21 +64,30 @@ std::optional<Project> projectOf(Progress &progress, const ExportRequest &reques
 }
 
 ExitStatus writeForClang(Progress &progress, const ExportRequest &request,
-                         const Arguments &arguments, const QString &folder)
+                         const Arguments &arguments, const Personality &content,
+                         const QString &folder)
 {
-    const std::optional<Project> project = projectOf(progress, request, arguments, folder);
+    const std::optional<Project> project = projectOf(progress, request, arguments);
     if (!project)
         return ExitStatus::Missing;
     const std::optional<QString> source = writeEmptySource(progress, folder, arguments.isCpp);
     if (!source)
         return ExitStatus::Failed;
-    AcceptedOptions accepted(project->clang, request.personality, *source);
+    OptionsForClang forClang {{content, project->compiler, *source},
+                              {project->clang, request.personality, *source}};
     if (request.format == ExportRequest::CompileCommands) {
+        // The answers may be somebody else's, and have options for what is started.
+        if (const QString reason = refusalReason(arguments); !reason.isEmpty()) {
+            progress.say(reason);
+            return ExitStatus::Missing;
+        }
         return write(progress, request.output,
                      compileCommands(project->commands, project->clang.program, request.personality,
-                                     accepted));
+                                     forClang));
     }
-    for (const CompileCommand &command : project->commands + QList {project->ownCommand})
+    AcceptedOptions &accepted = forClang.accepted;
+    const CompileCommand ownCommand {folder, {}, project->compiler.command};
+    for (const CompileCommand &command : project->commands + QList {ownCommand})
         accepted.of(command);
     return write(progress, request.output,
                  clangdConfiguration(request.personality, accepted.refused()));
@@ -113,7 +122,7 @@ ExitStatus exportPersonality(Progress &progress, const ExportRequest &request,
     switch (request.format) {
     case ExportRequest::CompileCommands:
     case ExportRequest::Clangd:
-        return writeForClang(progress, request, arguments, folder);
+        return writeForClang(progress, request, arguments, content, folder);
     case ExportRequest::Cppcheck:
         return writeForCppcheck(progress, request.output, content);
     case ExportRequest::VsCode:

@@ -36,7 +36,8 @@ private slots:
                       "#include <a.h>\n#include <stdint.h>\n"
                       "uint32_t f(void) { return A[0] + sizeof(long double); }\n");
         writeTestFile(m_folder.filePath("inc/a.h"), "#define B 1\n");
-        writeTestFile(m_folder.filePath("more.rsp"), "-DA=\\\"x\\\" -std=gnu11 -O2 -include a.h\n");
+        writeTestFile(m_folder.filePath("more.rsp"),
+                      "-DA=\\\"x\\\" -std=gnu11 -O2 --include=a.h\n");
         writeTestFile(m_folder.filePath("b.o"), "");
         writeTestFile(m_folder.filePath("all.json"),
                       "[{\"directory\":\"" + m_folder.path().toLocal8Bit()
@@ -54,7 +55,8 @@ private slots:
         const QJsonArray entries = QJsonDocument::fromJson(read("for_clang.json")).array();
         QCOMPARE(entries.size(), 1); // the other language's is left out
         const QStringList words = entries[0]["arguments"].toVariant().toStringList();
-        for (const char *word : {"-mthumb", "-DA=\"x\"", "-std=gnu11", "-O2", "inc", "-include"})
+        for (const char *word :
+             {"-mthumb", "-DA=\"x\"", "-std=gnu11", "-D__OPTIMIZE__=1", "-O2", "inc", "-include"})
             QVERIFY2(words.contains(word), qPrintable(words.join(' ')));
         QVERIFY(!words.contains("b.o") && !words.contains("arm-none-eabi-gcc"));
         QVERIFY(!words.contains("-fno-tree-slsr") && !words.contains("-Wlogical-op"));

@@ -354,6 +354,45 @@ private slots:
                  3);
     }
 
+    void tellsClangWhatOptionsOfEntriesChange()
+    {
+        const Workshop workshop;
+        const QString compiler = workshop.compiler(
+            "case \"$*\" in *-O0*-dM*) exit 1 ;; *-dM*) echo >> \"$0.asked\" ;; esac\n"
+            "exec gcc \"$@\"");
+        workshop.write("t.p_c", "-D__pic__=7\n");
+        workshop.generate("kov", compiler, {"-xd", "N=1", "-xs", "-pthread", "-tpl", "t.p_c"});
+        QFile::remove(compiler + ".asked");
+        QByteArray json;
+        for (const auto &[options, condition] : {
+                 std::pair("-Wall -U linux", "!defined linux"),
+                 {"-std=c99", "__STDC_VERSION__ == 199901 && __STRICT_ANSI__ && !defined unix"},
+                 {"-std=c99 -DX", "__STDC_VERSION__ == 199901 && N == 1 && X"},
+                 {"-O2 -U__OPTIMIZE__", "!defined __OPTIMIZE__ && N == 1 && defined _REENTRANT"},
+                 {"-O0", "!defined __OPTIMIZE__"},
+                 {"-m32", "__SIZEOF_POINTER__ == 4 && defined __i386__ && !defined __x86_64__"},
+                 {"-fPIC", "__PIC__ == 2"},
+             }) {
+            const QByteArray name = QByteArray::number(json.size()) + ".c";
+            workshop.write(name, QByteArray("#if !(") + condition + ")\n#error\n#endif\n");
+            json += ",{'file': '" + name + "', 'command': '$ " + options
+                  + " -DN=1 -D_REENTRANT=1 -c " + name + "'}";
+        }
+        json.replace('\'', '"').replace("$", "'" + compiler.toUtf8() + "'");
+        workshop.write("all.json", '[' + json.sliced(1) + ']');
+        const ProgramRun all = workshop.run({GENERATOR, "check", workshop.personality, "all.json"});
+        QVERIFY2(all.output.contains("accepts 7 of the 7 ")
+                     && all.output.contains("with their options: 1 (odd compiler -m32)"),
+                 all.output);
+        // Once, and under four sets of options.
+        QCOMPARE(workshop.read("odd compiler.asked"), "\n\n\n\n\n");
+        const ProgramRun exported = workshop.run(
+            {GENERATOR, "export", workshop.personality, "compile-commands", "all.json"});
+        QVERIFY2(exported.output.contains("\"-U__PIE__\"")
+                     && !exported.output.contains("__pic__"), // which the template settles
+                 exported.output);
+    }
+
     void writesNothingBesideSources_data()
     {
         // script: of a compiler that cannot be told what to call an object
