@@ -175,16 +175,6 @@ QByteArray majorVersion(const MacroFacts &macros)
     return version ? version->value.split('.').first() : QByteArray();
 }
 
-/// The target that \a personality gives to clang.
-QByteArray targetOf(const Personality &personality)
-{
-    for (const Option &option : personality.language) {
-        if (option.first().startsWith("--target="))
-            return option.first().mid(9);
-    }
-    return {};
-}
-
 /// The \a words of a command, without options that change neither types nor the target.
 QString shownCommand(QStringList words)
 {
@@ -246,8 +236,8 @@ CommandDifference CommandDifferences::differenceUnder(const QStringList &words)
         difference.otherTypes = shownCommand(words);
     if (!isLikeOwn(program))
         return difference;
-    for (const QByteArray &option :
-         changedOptions(before, {macros, {}}, targetOf(m_personality), m_compiler.isCpp))
+    const QByteArray target = languageOption(m_personality, "--target=");
+    for (const QByteArray &option : changedOptions(before, {macros, {}}, target, m_compiler.isCpp))
         difference.options << QString::fromUtf8(option);
     for (const MacroDifference &macro : differing)
         difference.options << optionsFor(macro);

@@ -42,16 +42,6 @@ const struct
     {""_L1, "gcc-x86"_L1},
 };
 
-/// What stands behind \a start in the options of \a personality's language.
-QString languageOption(const Personality &personality, const QByteArray &start)
-{
-    for (const Option &option : personality.language) {
-        if (option.first().startsWith(start))
-            return QString::fromUtf8(option.first().sliced(start.size()));
-    }
-    return QString();
-}
-
 /// The macros that the code sees: those of the compiler, and what a template has changed.
 QList<Macro> macrosSeen(const Personality &personality)
 {
@@ -108,7 +98,7 @@ QByteArray vscodeProperties(const Personality &personality, bool isCpp, const QS
     QJsonArray defines;
     for (const Macro &macro : macrosSeen(personality))
         defines << QString::fromUtf8(macro.name + '=' + macro.value);
-    const QString target = languageOption(personality, "--target=");
+    const QByteArray target = languageOption(personality, "--target=");
     const auto *mode =
         std::find_if(std::begin(intelliSenseModes), std::end(intelliSenseModes),
                      [&target](const auto &row) { return target.startsWith(row.target); });
@@ -119,7 +109,7 @@ QByteArray vscodeProperties(const Personality &personality, bool isCpp, const QS
                                {"includePath"_L1, include},
                                {"defines"_L1, defines},
                                {"intelliSenseMode"_L1, mode->mode}};
-    QString standard = languageOption(personality, "-std=");
+    QString standard = QString::fromUtf8(languageOption(personality, "-std="));
     // The drafts are called otherwise there, and the amendment to C90 is not known.
     standard.replace("2x"_L1, "23"_L1).replace("2b"_L1, "23"_L1);
     if (!standard.isEmpty() && !standard.contains(u':'))

@@ -371,6 +371,15 @@ void readSections(const QByteArray &text, Personality &personality)
 
 } // namespace
 
+QByteArray languageOption(const Personality &personality, const QByteArray &start)
+{
+    for (const Option &option : personality.language) {
+        if (option.first().startsWith(start))
+            return option.first().sliced(start.size());
+    }
+    return {};
+}
+
 QByteArray personalityText(const Personality &personality)
 {
     FactWriter writer {firstLine};

@@ -41,6 +41,10 @@ struct CommandParts
 Personality composePersonality(const Arguments &arguments, const Facts &facts,
                                const CommandParts &parts, const QByteArray &templateText);
 
+/// What stands behind \a start in the options of \a personality's language; empty where there is no
+/// such option.
+QByteArray languageOption(const Personality &personality, const QByteArray &start);
+
 /// The text of a personality: a file of compiler options that clang reads under --config, one
 /// option a line. What no option can say stands in lines that begin with "#:", one fact each, which
 /// docs/architecture.md lists. In UTF-8, as clang reads it, but for what the compiler has told in

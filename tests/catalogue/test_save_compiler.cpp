@@ -183,7 +183,7 @@ private slots:
     void canBeUsedByKeysAlone()
     {
         ShownDialog dialog;
-        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        QVERIFY(QTest::qWaitForWindowActive(&dialog, patience));
         QCOMPARE(dialog.focusWidget(), dialog.ExstSaveRadioButton);
         const auto press = [&dialog](Qt::Key key) { QTest::keyClick(dialog.focusWidget(), key); };
         const auto tabTo = [&](const QWidget *widget) {
