@@ -35,14 +35,14 @@ const QRegularExpression &readingOption()
 /// or removes a macro; a flag alone stands before the name.
 bool isAboutMacro(const QString &word, const CommandLayout &layout)
 {
-    static const QRegularExpression flag(u"^(?:[-/][DU]|--?define\\b|--?undef\\b)"_s);
+    static const QRegularExpression flag(u"^(?:[-/][DU]|--?define\\b|--undef\\b)"_s);
     return word.contains(flag)
         || (!layout.defineFlag.isEmpty() && word.startsWith(layout.defineFlag));
 }
 
 bool isMacroFlag(const QString &word, const CommandLayout &layout)
 {
-    static const QRegularExpression flag(u"^(?:[-/][DU]|--?define|--?undef)$"_s);
+    static const QRegularExpression flag(u"^(?:[-/][DU]|--?define|--undef)$"_s);
     return word.contains(flag) || (!layout.defineFlag.isEmpty() && word == layout.defineFlag);
 }
 

@@ -146,6 +146,20 @@ QStringList withoutOtherPurposes(const QStringList &words)
     return kept;
 }
 
+QStringList withoutOutput(const QStringList &words, const QString &outputFlag)
+{
+    if (outputFlag.isEmpty())
+        return words;
+    QStringList kept = words.first(std::min<qsizetype>(words.size(), 1));
+    for (qsizetype i = 1; i < words.size(); ++i) {
+        if (!words[i].startsWith(outputFlag))
+            kept << words[i];
+        else if (words[i] == outputFlag)
+            ++i;
+    }
+    return kept;
+}
+
 QString optionAgainstObjects(const QStringList &words)
 {
     static const QRegularExpression option =

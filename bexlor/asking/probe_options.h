@@ -11,6 +11,10 @@
 /// clang, cc65, sdcc, and the compilers of Microsoft, IAR and Arm.
 QStringList withoutOtherPurposes(const QStringList &words);
 
+/// \a words, a program and its options, without those that begin with \a outputFlag, which may be
+/// empty, and without the name behind the flag alone.
+QStringList withoutOutput(const QStringList &words, const QString &outputFlag);
+
 /// The option in \a words that keeps the compiler from making an object file at all; empty if there
 /// is none.
 QString optionAgainstObjects(const QStringList &words);

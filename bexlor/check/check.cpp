@@ -108,7 +108,7 @@ QStringList undefinedKeywords(const Personality &personality)
     QStringList options;
     for (const Option &option : personality.keywordDefinitions) {
         const QByteArray definition = option.first().mid(2); // which somebody may have shortened
-        const QByteArray name = definition.split('=').first().split('(').first();
+        const QByteArray name = bareName(definition.split('=').first());
         const auto isNamed = [&name](const Macro &macro) { return macro.name == name; };
         const bool makesRoom = option.first().startsWith("-U"); // for a definition behind it
         if (makesRoom || std::any_of(forHeaders.begin(), forHeaders.end(), isNamed))

@@ -13,26 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// How many words name the output.
-qsizetype wordsOfOutput(const QStringList &words, qsizetype index, const QString &flag)
-{
-    if (flag.isEmpty() || index == 0 || !words[index].startsWith(flag))
-        return 0;
-    return words[index] == flag && index + 1 < words.size() ? 2 : 1;
-}
-
-/// The words of a command but for those that name its output.
-QStringList withoutOutput(const QStringList &words, const QString &outputFlag)
-{
-    QStringList kept;
-    for (qsizetype i = 0, count = 0; i < words.size(); i += std::max<qsizetype>(count, 1)) {
-        count = wordsOfOutput(words, i, outputFlag);
-        if (count == 0)
-            kept << words[i];
-    }
-    return kept;
-}
-
 /// The word of a command that names the source, since what it is called may be part of the code.
 QString sourceWord(const QStringList &words, const CompileCommand &entry)
 {

@@ -137,7 +137,7 @@ QList<Macro> keywordDefinitions(const Facts &facts)
             continue;
         // A macro takes its argument or has none; the first form, with an argument, counts.
         const bool isDefined =
-            !definitions.isEmpty() && bareName(definitions.last()) == keyword.name;
+            !definitions.isEmpty() && bareName(definitions.last().name) == keyword.name;
         const std::optional<Macro> definition = definitionOf(keyword, facts);
         if (definition && !isDefined)
             definitions << *definition;

@@ -30,9 +30,8 @@ const PassedOption passedOptionTable[] = {
      "dollars-in-identifiers|openmp|blocks|declspec|borland-extensions|asm-blocks|"
      "ms-compatibility|delayed-template-parsing))"_s,
      u"\\1"_s},
-    {u"(-ffreestanding|-fhosted|-W(no-)?write-strings|-fpack-struct=\\d+|-f(template|constexpr)-"
-     u"depth=\\d+|"
-     "-m(no-)?ms-bitfields|-malign-double|-mcmse|-mzvector)"_s,
+    {u"(-ffreestanding|-fhosted|-fpack-struct=\\d+|-f(template|constexpr)-depth=\\d+|"
+     "-W(no-)?write-strings|-m(no-)?ms-bitfields|-malign-double|-mcmse|-mzvector)"_s,
      u"\\1"_s},
     {u"(-f(no-)?gnu89-inline)"_s, u"\\1"_s, true},
     {u"-trigraphs|--trigraphs|[-/]Zc:trigraphs"_s, u"-ftrigraphs"_s},

@@ -31,7 +31,7 @@ qsizetype wordsAboutMacro(const QStringList &words, qsizetype index)
 }
 
 /// The same for those that change no predefined macro: headers, messages, and what is made.
-qsizetype wordsWithoutEffect(const QStringList &words, qsizetype index, const CommandLayout &layout)
+qsizetype wordsWithoutEffect(const QStringList &words, qsizetype index, const QString &objectFlag)
 {
     static const QRegularExpression apart(
         u"^(?:-I|-isystem|-iquote|-idirafter|-iprefix|-iwithprefix(?:before)?|"
@@ -42,19 +42,18 @@ qsizetype wordsWithoutEffect(const QStringList &words, qsizetype index, const Co
     const QString &word = words[index];
     if (const auto included = includedFileAt(words, index))
         return included->words.size();
-    if (word.contains(apart) || (!layout.outputFlag.isEmpty() && word == layout.outputFlag))
+    if (word.contains(apart))
         return std::min<qsizetype>(2, words.size() - index);
-    const bool isOutput = !layout.outputFlag.isEmpty() && word.startsWith(layout.outputFlag);
-    return isOutput || word == layout.objectFlag || word.contains(joined) ? 1 : 0;
+    return word == objectFlag || word.contains(joined) ? 1 : 0;
 }
 
 /// The words of a command, or only its options, that decide predefined macros.
-QStringList decidingWords(const QStringList &words, const CommandLayout &layout)
+QStringList decidingWords(const QStringList &words, const QString &objectFlag)
 {
     QStringList deciding;
     for (qsizetype i = 0; i < words.size();) {
         const qsizetype left =
-            std::max(wordsAboutMacro(words, i), wordsWithoutEffect(words, i, layout));
+            std::max(wordsAboutMacro(words, i), wordsWithoutEffect(words, i, objectFlag));
         if (left == 0)
             deciding << words[i];
         i += std::max<qsizetype>(left, 1);
@@ -82,14 +81,15 @@ bool isOtherInput(const QString &word, const CompileCommand &command)
 QStringList decidingWords(const CompileCommand &command, const CommandLayout &layout)
 {
     QStringList words =
-        withoutOtherPurposes(withoutResponseFiles(command.words, command.directory));
+        withoutOutput(withoutOtherPurposes(withoutResponseFiles(command.words, command.directory)),
+                      layout.outputFlag);
     if (words.isEmpty())
         return {};
     if (QDir::fromNativeSeparators(words.first()).contains(u'/'))
         words.first() = QDir(command.directory).absoluteFilePath(words.first());
     words.removeIf([&command](const QString &word) { return command.isNamedBy(word); });
     const QStringList program = words.first(firstOption(words));
-    QStringList deciding = decidingWords(words.sliced(program.size()), layout);
+    QStringList deciding = decidingWords(words.sliced(program.size()), layout.objectFlag);
     deciding.removeIf([&command](const QString &word) { return isOtherInput(word, command); });
     return withAbsolutePaths(program + deciding, layout, command.directory);
 }
@@ -106,7 +106,7 @@ QStringList wordsInAnyCase(const Compiler &compiler, const QStringList &switches
     for (const QString &define : compiler.defines)
         words << u"-D"_s + define;
     for (const QString &item : switches)
-        words << decidingWords(splitCommand(item), compiler.layout);
+        words << decidingWords(splitCommand(item), compiler.layout.objectFlag);
     return words;
 }
 
@@ -122,7 +122,7 @@ QList<QByteArray> settledNames(const Personality &personality)
 {
     QList<QByteArray> names = personality.facts.macros.undetermined;
     for (const MacroChange &change : macroChanges(personality.templateText))
-        names << change.name.split('(').first();
+        names << bareName(change.name);
     return names;
 }
 
@@ -131,9 +131,9 @@ QList<MacroDifference> differingMacros(const Personality &personality, const QLi
 {
     QMap<QByteArray, MacroDifference> named;
     for (const Macro &macro : personality.facts.macros.known)
-        named[bareName(macro)].before = macro;
+        named[bareName(macro.name)].before = macro;
     for (const Macro &macro : macros)
-        named[bareName(macro)].after = macro;
+        named[bareName(macro.name)].after = macro;
     for (const QByteArray &name : settledNames(personality))
         named.remove(name);
     QList<MacroDifference> differing;

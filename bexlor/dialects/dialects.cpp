@@ -185,7 +185,7 @@ QList<Macro> macrosIn(const QByteArray &listing)
             continue;
         const Macro macro = isUndone ? Macro {line.mid(undoing.size()), {}}
                                      : macroDefinedBy(line.mid(directive.size()));
-        const QByteArray name = bareName(macro);
+        const QByteArray name = bareName(macro.name);
         if (!isUndone && !names.contains(name))
             macros.prepend(macro);
         names << name;

@@ -19,9 +19,9 @@ const Macro *findMacro(const MacroFacts &macros, const QByteArray &name)
     return itemCalled(macros.known, name);
 }
 
-QByteArray bareName(const Macro &macro)
+QByteArray bareName(const QByteArray &name)
 {
-    return macro.name.split('(').first();
+    return name.split('(').first();
 }
 
 bool hasKeyword(const Facts &facts, const QByteArray &name)

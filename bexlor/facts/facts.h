@@ -94,8 +94,8 @@ struct Facts
 /// The macro called \a name, or null.
 const Macro *findMacro(const MacroFacts &macros, const QByteArray &name);
 
-/// The name of \a macro without its parameter list.
-QByteArray bareName(const Macro &macro);
+/// The \a name of a macro without its parameter list.
+QByteArray bareName(const QByteArray &name);
 
 /// Whether \a name is among the keywords, in whatever form.
 bool hasKeyword(const Facts &facts, const QByteArray &name);

@@ -85,6 +85,7 @@ public:
         // Which of two ways to one file or directory is taken must not depend on the file system.
         std::sort(entries.files.begin(), entries.files.end());
         std::sort(entries.directories.begin(), entries.directories.end());
+        // Not kept while what is below is walked over.
         for (const auto &[file, target] : std::exchange(entries.files, {}))
             found.files.push_back({file, isNew(target)});
         for (const fs::path &next : entries.directories)

@@ -259,6 +259,7 @@ bool isNamedAsHeader(const fs::path &file)
 /// Puts what \a file holds into \a content, between two line feeds. False when it cannot be read.
 bool readBetweenLineFeeds(const fs::path &file, std::string &content)
 {
+    // On Windows a link has a size of its own, so that its file is asked, once it is open.
     std::ifstream stream(file, std::ios::binary | std::ios::ate);
     const std::streamoff wholeSize = stream.tellg();
     const std::streamoff size = std::clamp<std::streamoff>(wholeSize, 0, largestFile);

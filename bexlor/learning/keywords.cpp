@@ -15,7 +15,7 @@ QSet<QByteArray> macroNames(const MacroFacts &macros)
 {
     QSet<QByteArray> names(macros.undetermined.begin(), macros.undetermined.end());
     for (const Macro &macro : macros.known)
-        names << bareName(macro);
+        names << bareName(macro.name);
     return names;
 }
 

@@ -118,7 +118,7 @@ Personality composePersonality(const Arguments &arguments, const Facts &facts,
         personality.keywordDefinitions.append({"-D" + macro.name + '=' + macro.value});
     // Else clang would warn of them in every file.
     for (const Macro &macro : overridden(macros.known + forKeywords, templateText))
-        personality.keywordDefinitions.append({"-U" + bareName(macro)});
+        personality.keywordDefinitions.append({"-U" + bareName(macro.name)});
     personality.searchPath = searchOptions(arguments, facts, parts.includeDirectories);
     if (!arguments.forceIncludeFile.isEmpty())
         personality.includedFirst << pathOption("-include", arguments.forceIncludeFile);

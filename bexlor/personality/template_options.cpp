@@ -18,7 +18,7 @@ QList<QByteArray> templateWords(const QByteArray &templateText)
 
 bool MacroChange::concerns(const Macro &macro) const
 {
-    return bareName(macro) == name.split('(').first();
+    return bareName(macro.name) == bareName(name);
 }
 
 QList<MacroChange> macroChanges(const QByteArray &templateText)

@@ -8,6 +8,7 @@
 #include "probe_options.h"
 #include "refusal.h"
 #include "text_file.h"
+#include "tools_and_files.h"
 #include "visible_text.h"
 
 #include <QDir>
@@ -179,17 +180,15 @@ std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arg
 bool checkDestination(Progress &progress, const QString &path)
 {
     const QFileInfo personality(path);
-    const QFileInfo folder(personality.absolutePath());
-    QString problem;
-    if (!folder.isDir())
-        problem = u"The folder of the personality does not exist: %1"_s.arg(folder.filePath());
-    else if (!platform::canCreateFileIn(folder.filePath()))
-        problem = u"The folder of the personality is not writable: %1"_s.arg(folder.filePath());
-    else if (personality.exists() && !personality.isWritable())
-        problem = u"The personality cannot be written: %1"_s.arg(path);
-    if (!problem.isEmpty())
-        progress.say(problem);
-    return problem.isEmpty();
+    const QString folder = personality.absolutePath();
+    if (!QFileInfo::exists(folder) || (personality.exists() && !personality.isWritable())) {
+        progress.say(notWritten(u"personality"_s, path));
+        return false;
+    }
+    if (platform::canCreateFileIn(folder))
+        return true;
+    progress.say(u"The folder of the personality is not writable: %1"_s.arg(folder));
+    return false;
 }
 
 std::optional<ProbeAnswer> compileFirstProbe(Progress &progress, ProbeRunner &runner,
@@ -453,7 +452,7 @@ bool writePersonality(Progress &progress, const QString &path, const QByteArray 
 {
     const bool isThere = QFileInfo::exists(path);
     if (!platform::writeFile(path, text)) {
-        progress.say(u"The personality cannot be written: %1"_s.arg(path));
+        progress.say(notWritten(u"personality"_s, path));
         return false;
     }
     progress.say((isThere ? u"Replaced %1"_s : u"Wrote %1"_s).arg(path));

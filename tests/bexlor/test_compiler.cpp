@@ -24,7 +24,7 @@ private slots:
         // "$" stands for the current folder.
         const Columns<QString, QString> row("typed", "absolute");
         row("behind no option", "run.py odd", "$/run.py $/odd");
-        row("behind a letter", "-Iinc -Linc /Iinc", "-I$/inc -L$/inc /I$/inc");
+        row("behind a letter", "-undef -Iinc -Linc /Iinc", "-undef -I$/inc -L$/inc /I$/inc");
         row("apart", "-I inc -isystem inc --dlib_config odd",
             "-I $/inc -isystem $/inc --dlib_config $/odd");
         row("behind a sign", "--sysroot=inc -fi=odd --sysroot inc",

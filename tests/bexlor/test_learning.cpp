@@ -82,7 +82,7 @@ private slots:
                 QCOMPARE(macro.name + ' ' + known->value, macro.name + ' ' + macro.value);
             else if (macro.name.startsWith("QQ_"))
                 QFAIL(macro.name);
-            else if (!macros.undetermined.contains(bareName(macro)))
+            else if (!macros.undetermined.contains(bareName(macro.name)))
                 missing << macro.name;
         }
         QVERIFY2(missing.size() <= mayMiss, missing.join(' '));
@@ -109,7 +109,7 @@ private slots:
         QVERIFY(truth.size() > 300);
         QList<ScannedName> names;
         for (const Macro &macro : truth)
-            names.append({bareName(macro), InBinary});
+            names.append({bareName(macro.name), InBinary});
         const MacroFacts macros = learnMacros(subject.questions, macroCandidates(names, {}));
         const QRegularExpression open("[.\"]|[0-9]E|^\\(\\(|\\*$");
         for (const Macro &macro : truth) {
