@@ -145,7 +145,10 @@ QByteArray verdictsAsJson(const Checking &checking, const QList<Verdict> &verdic
 
 ExitStatus exitStatus(const QList<Verdict> &verdicts)
 {
-    if (countOf(verdicts, Verdict::NotStarted) + countOf(verdicts, Verdict::Missing) > 0)
+    const bool isIncomplete =
+        countOf(verdicts, Verdict::NotStarted) + countOf(verdicts, Verdict::Missing) > 0;
+    // Nor does it tell anything of clang when the compiler has accepted nothing.
+    if (isIncomplete || acceptedByCompiler(verdicts) == 0)
         return ExitStatus::Missing;
     return countOf(verdicts, Verdict::RejectedByClang) == 0 ? ExitStatus::Done : ExitStatus::Failed;
 }

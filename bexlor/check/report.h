@@ -19,6 +19,6 @@ QString acceptanceSentence(const QString &clangVersion, const QList<Verdict> &ve
 /// All of it for other programs; the README describes the keys.
 QByteArray verdictsAsJson(const Checking &checking, const QList<Verdict> &verdicts);
 
-/// Missing when a compiler or a source is, Failed when clang rejects a source that the compiler
-/// accepts.
+/// Missing when a compiler or a source is, or when the compiler accepts none; Failed when clang
+/// rejects a source that the compiler accepts.
 ExitStatus exitStatus(const QList<Verdict> &verdicts);

@@ -35,6 +35,21 @@ QList<QStringList> optionsOf(const CompileCommand &command)
     return options;
 }
 
+/// Whether \a option, as optionsOf() has it, names a file that is to be included first.
+bool includesFirst(const QStringList &option)
+{
+    return option.size() > 1
+        && (option.first() == "-include"_L1 || option.first() == "-imacros"_L1);
+}
+
+/// Such an option for the part of clang that compiles. The one that starts it would take what GCC
+/// has left beside a header that it has precompiled, "pre.h.gch", for clang's own and reject it.
+QStringList pastTheDriver(const QStringList &option, const QString &directory)
+{
+    const QStringList words = withAbsolutePaths({u"clang"_s, option[0], option[1]}, {}, directory);
+    return {u"-Xclang"_s, words[1], u"-Xclang"_s, words[2]};
+}
+
 } // namespace
 
 AcceptedOptions::AcceptedOptions(const Clang &clang, const QString &personality,
@@ -47,9 +62,6 @@ bool AcceptedOptions::isTaken(const QStringList &option, const QString &director
     // What these name does not matter, and there may be thousands of them.
     const QString flag = option.first().left(2);
     if ((flag == "-I"_L1 || flag == "-D"_L1 || flag == "-U"_L1) && option.join(QString()) != flag)
-        return true;
-    // What is included first may be found only with the other options.
-    if ((option.first() == "-include"_L1 || option.first() == "-imacros"_L1) && option.size() == 2)
         return true;
     // What one names in a directory may be another file, or missing, in the next.
     const QStringList asked =
@@ -70,7 +82,11 @@ QStringList AcceptedOptions::of(const CompileCommand &command)
     QStringList taken;
     for (const QStringList &option : optionsOf(command)) {
         const QStringList alone = option.first(1), withValue = option.mid(0, 2);
-        if (isTaken(alone, directory))
+        // What is included first may be found only with the other options, so that it is not asked
+        // for alone.
+        if (includesFirst(option))
+            taken << pastTheDriver(option, directory);
+        else if (isTaken(alone, directory))
             taken << alone;
         else if (withValue.size() == 2 && isTaken(withValue, directory))
             taken << withValue;

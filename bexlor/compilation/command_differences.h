@@ -1,6 +1,5 @@
 #pragma once
 
-#include "accepted_options.h"
 #include "compile_database.h"
 #include "compiler.h"
 #include "personality.h"
@@ -45,12 +44,4 @@ private:
     QHash<QStringList, CommandDifference> m_known; ///< of the words that decide macros
     QHash<QStringList, bool> m_areLikeOwn;         ///< by the program that is started
     bool m_isTooSlow = false;                      ///< one has not answered in time
-};
-
-/// What clang is told of compile commands behind a personality: the differences, then those of the
-/// commands' own options that it takes.
-struct OptionsForClang
-{
-    CommandDifferences differences;
-    AcceptedOptions accepted;
 };

@@ -20,9 +20,7 @@ QByteArray compileCommands(const QList<CompileCommand> &commands, const QString 
 {
     QList<CompileCommand> translated = commands;
     for (CompileCommand &command : translated) {
-        const QStringList options =
-            forClang.differences.of(command).options + forClang.accepted.of(command);
-        command.words = QStringList {clang, u"--config"_s, personality} + options;
+        command.words = QStringList {clang, u"--config"_s, personality} + forClang.of(command);
         command.words << command.file;
     }
     return databaseText(translated);

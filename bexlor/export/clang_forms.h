@@ -1,9 +1,9 @@
 #pragma once
 
-#include "command_differences.h"
+#include "options_for_clang.h"
 
-/// \a commands once more, each by \a clang with the personality \a personality and what is said
-/// of its options by \a forClang: a compilation database.
+/// \a commands once more, each by \a clang with the personality \a personality and what
+/// \a forClang says of its options: a compilation database.
 QByteArray compileCommands(const QList<CompileCommand> &commands, const QString &clang,
                            const QString &personality, OptionsForClang &forClang);
 

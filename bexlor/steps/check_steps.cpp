@@ -1,7 +1,7 @@
 #include "check_steps.h"
 
-#include "command_differences.h"
 #include "header_sample.h"
+#include "options_for_clang.h"
 #include "refusal.h"
 #include "report.h"
 #include "steps.h"
@@ -25,7 +25,6 @@ struct Sources
 {
     QList<CheckedSource> list;
     int passedOver = 0;
-    QStringList ofOtherTypes; ///< the commands that the personality does not fit
 };
 
 void addEntries(const QList<CompileCommand> &entries, const Compiler &compiler,
@@ -36,11 +35,8 @@ void addEntries(const QList<CompileCommand> &entries, const Compiler &compiler,
             ++sources.passedOver;
             continue;
         }
-        const CommandDifference difference = forClang.differences.of(entry);
-        const QStringList options = difference.options + forClang.accepted.of(entry);
+        const QStringList options = forClang.of(entry);
         sources.list << sourceOfEntry(entry, compiler, options, folder, sources.list.size());
-        if (!difference.otherTypes.isEmpty())
-            sources.ofOtherTypes << difference.otherTypes;
     }
 }
 
@@ -78,7 +74,8 @@ QString problemWith(const CheckRequest &request, const Arguments &arguments)
 struct PreparedCheck
 {
     Checking checking;
-    Sources sources;
+    QList<CheckedSource> sources;
+    QString remark; ///< on what the personality does not fit; empty if there is nothing
 };
 
 /// Finds what the check that \a request asks for needs; nothing, which is then said, when it is not
@@ -99,7 +96,7 @@ std::optional<PreparedCheck> prepareCheck(Progress &progress, const CheckRequest
     const std::optional<QString> empty = writeEmptySource(progress, folder, compiler.isCpp);
     if (!empty)
         return {};
-    OptionsForClang forClang {{content, compiler, *empty}, {*clang, request.personality, *empty}};
+    OptionsForClang forClang({content, compiler, *empty}, {*clang, request.personality, *empty});
     const auto read = sourcesOf(request, compiler, folder, forClang);
     if (const auto *problem = std::get_if<QString>(&read)) {
         progress.say(*problem);
@@ -111,7 +108,7 @@ std::optional<PreparedCheck> prepareCheck(Progress &progress, const CheckRequest
     const Checking checking {
         *clang,          request.personality, content,
         compiler.layout, request.preprocess,  canCheckSyntaxOnly(compiler, folder)};
-    return PreparedCheck {checking, sources};
+    return PreparedCheck {checking, sources.list, forClang.remarkOnTypes()};
 }
 
 /// The headers of the search path, a sample of them first. Those that clang has its own of tell
@@ -177,19 +174,6 @@ QString typeSentence(const Verdict &verdict, const QString &file, const Clang &c
     return u"The compiler and %2 accept %1."_s.arg(file, clang.version);
 }
 
-/// Says how many sources \a commands compile, which have other types than the personality or
-/// another target, and what it should be made with instead.
-void sayWhatIsOfOtherTypes(Progress &progress, const QStringList &commands)
-{
-    if (commands.isEmpty())
-        return;
-    QStringList differing = commands;
-    differing.removeDuplicates();
-    progress.say(u"Sources with other types or another target than the personality, for which one "
-                 "should be made with their options: %1 (%2)"_s.arg(commands.size())
-                     .arg(differing.join(u", "_s)));
-}
-
 } // namespace
 
 ExitStatus checkWithPersonality(Progress &progress, const CheckRequest &request,
@@ -199,15 +183,16 @@ ExitStatus checkWithPersonality(Progress &progress, const CheckRequest &request,
     const auto prepared = prepareCheck(progress, request, arguments, content, folder);
     if (!prepared)
         return ExitStatus::Missing;
-    const auto &[checking, sources] = *prepared;
+    const auto &[checking, sources, remark] = *prepared;
     QList<Verdict> verdicts;
-    checkSources(checking, sources.list, [&, count = sources.list.size()](const Verdict &verdict) {
+    checkSources(checking, sources, [&, count = sources.size()](const Verdict &verdict) {
         verdicts << verdict;
         progress.say(u"[%1/%2] "_s.arg(verdicts.size()).arg(count) + verdictLine(verdict));
     });
     for (const QString &line : summaryLines(checking.clang.version, verdicts))
         progress.say(line);
-    sayWhatIsOfOtherTypes(progress, sources.ofOtherTypes);
+    if (!remark.isEmpty())
+        progress.say(remark);
     if (!request.jsonFile.isEmpty()
         && !platform::writeFile(request.jsonFile, verdictsAsJson(checking, verdicts))) {
         progress.say(notWritten(u"verdicts"_s, request.jsonFile));

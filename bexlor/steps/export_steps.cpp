@@ -73,19 +73,22 @@ ExitStatus writeForClang(Progress &progress, const ExportRequest &request,
     const std::optional<QString> source = writeEmptySource(progress, folder, arguments.isCpp);
     if (!source)
         return ExitStatus::Failed;
-    OptionsForClang forClang {{content, project->compiler, *source},
-                              {project->clang, request.personality, *source}};
+    AcceptedOptions accepted(project->clang, request.personality, *source);
     if (request.format == ExportRequest::CompileCommands) {
         // The answers may be somebody else's, and have options for what is started.
         if (const QString reason = refusalReason(arguments); !reason.isEmpty()) {
             progress.say(reason);
             return ExitStatus::Missing;
         }
-        return write(progress, request.output,
-                     compileCommands(project->commands, project->clang.program, request.personality,
-                                     forClang));
+        OptionsForClang forClang({content, project->compiler, *source}, accepted);
+        const QByteArray database = compileCommands(project->commands, project->clang.program,
+                                                    request.personality, forClang);
+        const QString remark = forClang.remarkOnTypes();
+        // The standard output may be the database itself.
+        if (!remark.isEmpty() && !request.output.isEmpty())
+            progress.say(remark);
+        return write(progress, request.output, database);
     }
-    AcceptedOptions &accepted = forClang.accepted;
     const CompileCommand ownCommand {folder, {}, project->compiler.command};
     for (const CompileCommand &command : project->commands + QList {ownCommand})
         accepted.of(command);

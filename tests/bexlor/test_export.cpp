@@ -37,7 +37,9 @@ private slots:
                       "uint32_t f(void) { return A[0] + sizeof(long double); }\n");
         writeTestFile(m_folder.filePath("inc/a.h"), "#define B 1\n");
         writeTestFile(m_folder.filePath("more.rsp"),
-                      "-DA=\\\"x\\\" -std=gnu11 -O2 --include=a.h\n");
+                      "-DA=\\\"x\\\" -std=gnu11 -O2 --include=a.h -include b.h\n");
+        writeTestFile(m_folder.filePath("b.h"), "");
+        writeTestFile(m_folder.filePath("b.h.gch"), "gpch"); // precompiled, but not by clang
         writeTestFile(m_folder.filePath("b.o"), "");
         writeTestFile(m_folder.filePath("all.json"),
                       "[{\"directory\":\"" + m_folder.path().toLocal8Bit()
