@@ -8,12 +8,13 @@
 #include "again.h"
 #include "catalogue_answers.h"
 #include "check_steps.h"
-#include "compiler_names.h"
 #include "console.h"
 #include "export_steps.h"
+#include "make_personality.h"
+#include "personality_steps.h"
+#include "probe_steps.h"
 #include "process_tree.h"
 #include "request.h"
-#include "steps.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -29,77 +30,13 @@ void print(const QString &text)
     platform::print(stdout, text);
 }
 
-/// Asks the compiler of \a runner for all facts, with \a folder for temporary files. Nothing when a
-/// step fails.
-std::optional<Facts> learn(Progress &progress, ProbeRunner &runner, const Arguments &arguments,
-                           const QString &folder, const QString &logFolder)
-{
-    const std::optional<ProbeAnswer> first = compileFirstProbe(progress, runner, logFolder);
-    if (!first || !compileIncludedFiles(progress, runner.compiler(), folder, logFolder)
-        || !checkControls(progress, runner, *first))
-        return {};
-    std::optional<DialectAnswers> listed =
-        askForListings(progress, runner.compiler(), *first, folder);
-    if (!listed)
-        return {};
-    const Questions questions = findHowToAsk(progress, runner);
-    QStringList directories = arguments.headerDirectories;
-    if (directories.isEmpty() && !listed->searchPath) {
-        directories = findDirectoriesBeside(progress, questions);
-        listed->searchPath = SearchPath {directories, {}};
-    }
-    HeaderScan scan = readDirectories(progress, directories);
-    if (listed->macros.isEmpty())
-        scan.names << namesOfCompiler(runner.compiler(), listed->versionLine);
-    const std::optional<MacroFacts> macros =
-        findMacros(progress, questions, listed->macros, scan.names, logFolder);
-    if (!macros)
-        return {};
-
-    Facts facts;
-    facts.versionLine = listed->versionLine;
-    facts.macros = *macros;
-    facts.types = measureTypes(progress, questions);
-    facts.keywords = findKeywords(progress, questions, scan, facts);
-    facts.attributes = learnAttributes(questions);
-    facts.leniencies = findLeniencies(progress, questions);
-    facts.searchPath = findSearchPath(progress, questions, listed->searchPath, scan);
-    const bool lacksSearchPath =
-        facts.searchPath.directories.isEmpty() && includesStandardHeaders(questions);
-    if (!worksStill(progress, runner, logFolder)
-        || !checkCompleteness(progress, facts, lacksSearchPath))
-        return {};
-    progress.say(u"The compiler was started %1 times."_s.arg(runner.compilersStarted()));
-    return facts;
-}
-
-/// A personality, and the compiler as it has turned out to be called.
-struct Made
-{
-    QByteArray text;
-    Compiler compiler;
-};
-
-/// The personality that \a arguments, which can be used, ask for; see learn().
-std::optional<Made> makePersonality(Progress &progress, const Arguments &arguments,
-                                    const QString &folder, const QString &logFolder)
-{
-    ProbeRunner runner(findCompiler(arguments), folder, arguments.reduceFileSize);
-    const std::optional<Facts> facts = learn(progress, runner, arguments, folder, logFolder);
-    if (!facts)
-        return {};
-    const Compiler &compiler = runner.compiler();
-    const auto text = textOfPersonality(progress, arguments, compiler, *facts);
-    return text ? std::optional(Made {*text, compiler}) : std::nullopt;
-}
-
 ExitStatus generate(Progress &progress, const Arguments &arguments, const QString &folder)
 {
     removeLogs();
     const std::optional<Arguments> usable = checkArguments(progress, arguments);
     if (!usable || !checkDestination(progress, usable->personality))
         return ExitStatus::Failed;
-    const std::optional<Made> made = makePersonality(progress, *usable, folder, u"."_s);
+    const std::optional<MadePersonality> made = makePersonality(progress, *usable, folder, u"."_s);
     if (!made || !writePersonality(progress, arguments.personality, made->text))
         return ExitStatus::Failed;
     checkHeaders(progress, made->compiler, arguments.personality, made->text, folder);
@@ -112,7 +49,7 @@ ExitStatus generate(Progress &progress, const Arguments &arguments, const QStrin
 ExitStatus verify(Progress &progress, const EarlierPersonality &earlier, const QString &folder)
 {
     const std::optional<Arguments> usable = checkArguments(progress, earlier.arguments);
-    const std::optional<Made> made =
+    const std::optional<MadePersonality> made =
         usable ? makePersonality(progress, *usable, folder, folder) : std::nullopt;
     if (!made)
         return ExitStatus::Failed;

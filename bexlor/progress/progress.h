@@ -44,7 +44,10 @@ private:
 class ProgressStep
 {
 public:
-    ProgressStep(Progress &progress, const QString &text, const Progress::State &state);
+    /// \a state of one that is done at a stroke has nothing to tell.
+    ProgressStep(
+        Progress &progress, const QString &text,
+        const Progress::State &state = [] { return QString(); });
     ~ProgressStep();
     ProgressStep(const ProgressStep &) = delete;
     ProgressStep &operator=(const ProgressStep &) = delete;

@@ -2,9 +2,9 @@
 
 #include "header_sample.h"
 #include "options_for_clang.h"
+#include "probe_steps.h"
 #include "refusal.h"
 #include "report.h"
-#include "steps.h"
 #include "text_file.h"
 #include "tools_and_files.h"
 #include "type_assertions.h"
@@ -221,8 +221,7 @@ void checkHeaders(Progress &progress, const Compiler &compiler, const QString &p
                              QDeadlineTimer(headerTimeLimit)};
     QList<Verdict> verdicts;
     {
-        const ProgressStep step(progress, u"Trying the headers of the search path ..."_s,
-                                [] { return QString(); });
+        const ProgressStep step(progress, u"Trying the headers of the search path ..."_s);
         checkSources(checking, sources,
                      [&verdicts](const Verdict &verdict) { verdicts << verdict; });
     }

@@ -4,7 +4,6 @@
 #include "command_line.h"
 #include "fact_forms.h"
 #include "refusal.h"
-#include "steps.h"
 #include "text_file.h"
 #include "tools_and_files.h"
 

@@ -1,6 +1,9 @@
 #include "tools_and_files.h"
 
+#include "probe_runner.h"
+#include "refusal.h"
 #include "text_file.h"
+#include "visible_text.h"
 
 #include <QFileInfo>
 
@@ -37,4 +40,24 @@ std::variant<QList<CompileCommand>, QString> readDatabase(const QString &path)
     if (!commands)
         return u"This is no compilation database: %1"_s.arg(path);
     return *commands;
+}
+
+std::optional<QString> writeEmptySource(Progress &progress, const QString &folder, bool isCpp)
+{
+    const QString source = folder + u'/' + probeName(isCpp);
+    if (platform::writeScratchFile(source, "\n"))
+        return source;
+    progress.say(u"No source can be written to the temporary folder: %1"_s.arg(folder));
+    return {};
+}
+
+void leaveOutOddDirectories(Progress &progress, QStringList &directories)
+{
+    directories.removeIf([&progress](const QString &directory) {
+        const bool isOdd = !mayStandInPersonality(directory);
+        if (isOdd)
+            progress.say(u"Passed over, since it has a control character in its name: %1"_s.arg(
+                visibleText(directory)));
+        return isOdd;
+    });
 }

@@ -17,3 +17,9 @@ QString notWritten(const QString &noun, const QString &path);
 
 /// The entries of the database \a path, or a sentence if they cannot be read.
 std::variant<QList<CompileCommand>, QString> readDatabase(const QString &path);
+
+/// Writes an empty source into \a folder, and returns its path.
+std::optional<QString> writeEmptySource(Progress &progress, const QString &folder, bool isCpp);
+
+/// Leaves those of \a directories out that a line of a personality cannot hold, and says so.
+void leaveOutOddDirectories(Progress &progress, QStringList &directories);

@@ -1,0 +1,112 @@
+#include "personality_steps.h"
+
+#include "clang.h"
+#include "command_line.h"
+#include "dialects.h"
+#include "dialects.h"
+#include "personality.h"
+#include "refusal.h"
+#include "text_file.h"
+#include "tools_and_files.h"
+#include "visible_text.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString templateUnreadable(const Arguments &arguments)
+{
+    return u"The template cannot be read: %1"_s.arg(arguments.templateFile);
+}
+
+/// Why \a arguments are refused, or the files that they name cannot be used, or an empty text.
+QString problemWith(const Arguments &arguments)
+{
+    if (const QString reason = refusalReason(arguments); !reason.isEmpty())
+        return reason;
+    if (!arguments.templateFile.isEmpty() && !platform::readTextFile(arguments.templateFile))
+        return templateUnreadable(arguments);
+    if (!arguments.forceIncludeFile.isEmpty() && !QFileInfo(arguments.forceIncludeFile).isFile())
+        return u"The force-include file does not exist: %1"_s.arg(arguments.forceIncludeFile);
+    if (!arguments.substituteHeaders.isEmpty() && !QFileInfo(arguments.substituteHeaders).isDir()) {
+        return u"The folder of substitute headers does not exist: %1"_s.arg(
+            arguments.substituteHeaders);
+    }
+    return QString();
+}
+
+} // namespace
+
+std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arguments)
+{
+    const QString problem = problemWith(arguments);
+    if (!problem.isEmpty()) {
+        progress.say(problem);
+        return {};
+    }
+    const std::pair<QLatin1StringView, QString> unseen[] = {
+        {"Template"_L1, arguments.templateFile},
+        {"Force-include file"_L1, arguments.forceIncludeFile},
+        {"Substitute headers"_L1, arguments.substituteHeaders},
+    };
+    for (const auto &[name, path] : unseen) {
+        if (!path.isEmpty())
+            progress.say(name + ": "_L1 + visibleText(path));
+    }
+    Arguments usable = arguments;
+    leaveOutOddDirectories(progress, usable.headerDirectories);
+    return usable;
+}
+
+bool checkDestination(Progress &progress, const QString &path)
+{
+    const QFileInfo personality(path);
+    const QString folder = personality.absolutePath();
+    if (!QFileInfo::exists(folder) || (personality.exists() && !personality.isWritable())) {
+        progress.say(notWritten(u"personality"_s, path));
+        return false;
+    }
+    if (platform::canCreateFileIn(folder))
+        return true;
+    progress.say(u"The folder of the personality is not writable: %1"_s.arg(folder));
+    return false;
+}
+
+std::optional<QByteArray> textOfPersonality(Progress &progress, const Arguments &arguments,
+                                            const Compiler &compiler, const Facts &facts)
+{
+    const platform::FileContent templateFile = platform::readFile(arguments.templateFile);
+    if (!arguments.templateFile.isEmpty() && templateFile.state != platform::FileContent::Whole) {
+        progress.say(templateUnreadable(arguments));
+        return {};
+    }
+    // Clang reads it in UTF-8.
+    const QByteArray templateText = platform::decodedText(templateFile.bytes).toUtf8();
+    CommandParts parts {compiler.command, includeDirectories(compiler.command), {}};
+    for (const IncludedFile &included : compiler.includedFirst)
+        parts.includedFirst.append({included.option.toUtf8(), included.file.toUtf8()});
+    const Personality personality = composePersonality(arguments, facts, parts, templateText);
+    for (const QString &option : personality.lacking)
+        progress.say(u"Clang has no option like the compiler's %1."_s.arg(visibleText(option)));
+    for (const QString &line : differenceSentences(facts.types, personality.typesOfClang))
+        progress.say(line);
+    return personalityText(personality);
+}
+
+bool writePersonality(Progress &progress, const QString &path, const QByteArray &text)
+{
+    const bool isThere = QFileInfo::exists(path);
+    if (!platform::writeFile(path, text)) {
+        progress.say(notWritten(u"personality"_s, path));
+        return false;
+    }
+    progress.say((isThere ? u"Replaced %1"_s : u"Wrote %1"_s).arg(path));
+    const QStringList option {u"--config"_s, QDir::current().absoluteFilePath(path)};
+    progress.say("  "_L1 + platform::commandLine(QStringList {u"clang"_s} + option)
+                 + " -fsyntax-only FILE"_L1);
+    progress.say("  clang-tidy FILE -- "_L1 + platform::commandLine(option));
+    return true;
+}
