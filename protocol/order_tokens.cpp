@@ -35,3 +35,10 @@ QList<OrderToken> parseOrderString(const QString &order)
     }
     return tokens;
 }
+
+const OrderToken *findPart(const QList<OrderToken> &tokens, CommandPart part)
+{
+    const auto found = std::find_if(tokens.begin(), tokens.end(),
+                                    [part](const OrderToken &token) { return token.part == part; });
+    return found == tokens.end() ? nullptr : &*found;
+}

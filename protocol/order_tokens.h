@@ -31,3 +31,6 @@ QString orderString(const QList<OrderToken> &tokens);
 /// with more than one of the letters counts as the first of c, j, d, o, e and s that it holds, one
 /// with none of them is passed over.
 QList<OrderToken> parseOrderString(const QString &order);
+
+/// The first of \a tokens that stands for \a part, or null.
+const OrderToken *findPart(const QList<OrderToken> &tokens, CommandPart part);

@@ -25,6 +25,11 @@ QStringList definesIn(const QString &list)
 
 } // namespace
 
+bool bringsOwnFlag(const QString &define)
+{
+    return define.startsWith(u'-') || define.startsWith(u'/');
+}
+
 std::variant<UsageError, Arguments> parseArguments(const QStringList &list)
 {
     ArgumentReader reader(list);
@@ -36,7 +41,7 @@ std::variant<UsageError, Arguments> parseArguments(const QStringList &list)
     arguments.layout.objectFlag = reader.value();
     arguments.layout.defineFlag = reader.value();
     arguments.layout.objectExtension = reader.value();
-    arguments.layout.order = reader.value();
+    arguments.layout.order = parseOrderString(reader.value());
     while (reader.flag(generator::headerDirectory))
         arguments.headerDirectories << reader.path();
     reader.expect(generator::personality);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "order_tokens.h"
+
 #include <QString>
 #include <QStringList>
 #include <variant>
@@ -11,7 +13,7 @@ struct CommandLayout
     QString objectFlag;
     QString defineFlag;
     QString objectExtension; ///< with its dot, or empty
-    QString order;           ///< order token string
+    QList<OrderToken> order;
 };
 
 /// A command line, and the folder that relative paths in it start from.
@@ -32,7 +34,7 @@ struct Arguments
     CommandLayout layout;
     QStringList headerDirectories;
     QString personality; ///< path of the file to write
-    QStringList defines; ///< NAME or NAME=VALUE
+    QStringList defines; ///< NAME or NAME=VALUE; without a define flag, also -DNAME and the like
     QStringList switches;
     QString templateFile; ///< empty if there is none, like the next two
     QString forceIncludeFile;
@@ -42,6 +44,9 @@ struct Arguments
     CommandLine answers; ///< the list that all this was taken from, with an empty text as the path
                          ///< of the personality
 };
+
+/// Whether \a define is a word by itself, "-DNAME" or "/DNAME".
+bool bringsOwnFlag(const QString &define);
 
 /// Why a command line is not one that usage() allows: a sentence that names the argument.
 struct UsageError

@@ -43,10 +43,10 @@ QString problemWithCommand(const Arguments &arguments)
     if (QString(arguments.command).remove(u'"').trimmed().isEmpty())
         return u"There is no compiler command."_s;
     // Whatever stands first in a compile command is started.
-    const QList<OrderToken> tokens = parseOrderString(arguments.layout.order);
+    const QList<OrderToken> &tokens = arguments.layout.order;
     if (tokens.isEmpty() || tokens.first().part != CommandPart::Command) {
         return u"The order of the compile command does not begin with the command: %1"_s.arg(
-            visibleText(arguments.layout.order));
+            orderString(tokens));
     }
     return QString();
 }
@@ -121,11 +121,9 @@ QString problemWithDefines(const Arguments &arguments)
 {
     static const QRegularExpression named(u"^[\\p{L}_$][\\w$]*($|[=(#\\s])"_s,
                                           QRegularExpression::UseUnicodePropertiesOption);
-    static const QRegularExpression ownFlag(u"^[-/]"_s);
-    for (QString define : arguments.defines) {
-        if (arguments.layout.defineFlag.isEmpty())
-            define.remove(ownFlag);
-        if (!define.contains(named))
+    for (const QString &define : arguments.defines) {
+        const bool isWhole = arguments.layout.defineFlag.isEmpty() && bringsOwnFlag(define);
+        if (!define.mid(isWhole ? 1 : 0).contains(named))
             return u"The define does not begin with a name: %1"_s.arg(visibleText(define));
     }
     return QString();

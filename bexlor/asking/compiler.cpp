@@ -1,6 +1,5 @@
 #include "compiler.h"
 
-#include "order_tokens.h"
 #include "path_options.h"
 #include "probe_options.h"
 #include "quoting.h"
@@ -12,12 +11,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The defines that the command can name. Without a flag each would be taken for a file.
-QStringList passedDefines(const Compiler &compiler)
-{
-    return compiler.layout.defineFlag.isEmpty() ? QStringList() : compiler.defines;
-}
 
 /// What a token of the order stands for: a word, or the start of one.
 struct Piece
@@ -40,9 +33,9 @@ QStringList wordsOf(const QList<Piece> &pieces)
 
 /// Without its flag the output's name would be taken for a source, unless the order has no flag at
 /// all and so names the output in a place of its own.
-bool namesOutput(const CommandLayout &layout)
+bool isOutputTold(const CommandLayout &layout)
 {
-    return !layout.outputFlag.isEmpty() || !layout.order.contains("%o"_L1);
+    return !layout.outputFlag.isEmpty() || !findPart(layout.order, CommandPart::OutputFlag);
 }
 
 /// What a probe is compiled from and to.
@@ -68,11 +61,11 @@ QList<Piece> piecesFor(const OrderToken &token, const Compiler &compiler, const 
         pieces.append({isNamed ? layout.outputFlag : QString(), token.spaceFollows});
         break;
     case CommandPart::OutputFile:
-        if (isNamed && namesOutput(layout))
+        if (isNamed && isOutputTold(layout))
             pieces.append({probe.output});
         break;
     case CommandPart::DefineFlag:
-        for (const QString &define : passedDefines(compiler))
+        for (const QString &define : compiler.defines)
             pieces << Piece {layout.defineFlag, token.spaceFollows} << Piece {define};
         break;
     case CommandPart::ObjectFlag:
@@ -93,7 +86,8 @@ std::optional<IncludedFile> includedFileAt(const QStringList &words, qsizetype i
     static const QRegularExpression joined(u"^(?:-(?:include|imacros)(?![-_=])|"
                                            "--(?:include|imacros)=|--?preinclude=|[-/]FI)(.+)$"_s);
     const QString &word = words[index];
-    const QString option = word.contains("imacros"_L1) ? u"-imacros"_s : u"-include"_s;
+    static const QRegularExpression macrosAlone(u"^--?imacros"_s);
+    const QString option = word.contains(macrosAlone) ? u"-imacros"_s : u"-include"_s;
     if (apart.match(word).hasMatch()) {
         if (index + 1 == words.size())
             return {};
@@ -105,11 +99,22 @@ std::optional<IncludedFile> includedFileAt(const QStringList &words, qsizetype i
     return IncludedFile {{word}, option, match.captured(1)};
 }
 
+QStringList unnamedDefines(const Arguments &arguments)
+{
+    QStringList defines = arguments.defines;
+    if (!arguments.layout.defineFlag.isEmpty())
+        defines.clear();
+    defines.removeIf(&bringsOwnFlag);
+    return defines;
+}
+
 Compiler findCompiler(const Arguments &arguments)
 {
     Compiler compiler;
     compiler.layout = arguments.layout;
     compiler.defines = arguments.defines;
+    const QStringList unnamed = unnamedDefines(arguments);
+    compiler.defines.removeIf([&](const QString &define) { return unnamed.contains(define); });
     compiler.isCpp = arguments.isCpp;
     compiler.isCross = arguments.crossCompiler;
     QStringList words = commandWords(arguments.command);
@@ -139,10 +144,18 @@ Compiler withIncludedFiles(Compiler compiler)
     return compiler;
 }
 
+QStringList commandWithDefines(const Compiler &compiler)
+{
+    QStringList command = compiler.command;
+    for (const QString &define : compiler.defines)
+        command << (bringsOwnFlag(define) ? define : u"-D"_s + define);
+    return command;
+}
+
 bool namesOutput(const Compiler &compiler)
 {
-    return compiler.namesObjects && compiler.layout.order.contains("%e"_L1)
-        && namesOutput(compiler.layout);
+    return compiler.namesObjects && findPart(compiler.layout.order, CommandPart::OutputFile)
+        && isOutputTold(compiler.layout);
 }
 
 QStringList probeCommand(const Compiler &compiler, const QString &source, const QString &output,
@@ -151,7 +164,7 @@ QStringList probeCommand(const Compiler &compiler, const QString &source, const 
     const bool isNamed = goal == CompileTo::Program || compiler.namesObjects;
     const Probe probe {source, isNamed ? output : QString(), goal};
     QList<Piece> pieces;
-    for (const OrderToken &token : parseOrderString(compiler.layout.order))
+    for (const OrderToken &token : compiler.layout.order)
         pieces << piecesFor(token, compiler, probe);
     return wordsOf(pieces);
 }

@@ -1,6 +1,7 @@
 #include "path_options.h"
 
 #include "command_line.h"
+#include "macro_options.h"
 #include "quoting.h"
 #include "text_file.h"
 
@@ -31,21 +32,6 @@ const QRegularExpression &readingOption()
     return option;
 }
 
-/// Whether \a word begins with the define flag of \a layout or of the compilers that take several,
-/// or removes a macro; a flag alone stands before the name.
-bool isAboutMacro(const QString &word, const CommandLayout &layout)
-{
-    static const QRegularExpression flag(u"^(?:[-/][DU]|--?define\\b|--undef\\b)"_s);
-    return word.contains(flag)
-        || (!layout.defineFlag.isEmpty() && word.startsWith(layout.defineFlag));
-}
-
-bool isMacroFlag(const QString &word, const CommandLayout &layout)
-{
-    static const QRegularExpression flag(u"^(?:[-/][DU]|--?define|--undef)$"_s);
-    return word.contains(flag) || (!layout.defineFlag.isEmpty() && word == layout.defineFlag);
-}
-
 bool isOption(const QString &word)
 {
     return word.startsWith(u'-') || (word.startsWith(u'/') && !QFileInfo::exists(word));
@@ -59,13 +45,22 @@ QString absolutePath(const QString &path, const QDir &folder)
     return isRelative ? file.absoluteFilePath() : path;
 }
 
-/// \a word with what it reads made absolute; \a before stands before it.
-QString absoluteWord(const QString &before, const QString &word, const CommandLayout &layout,
+/// Whether the word \a index of \a words is, or follows, an option about a macro or an output.
+bool namesNoInput(const QStringList &words, qsizetype index, const CommandLayout &layout)
+{
+    const QString &flag = layout.outputFlag;
+    const auto macroBefore = macroOptionAt(words, index - 1, layout.defineFlag);
+    return (!flag.isEmpty() && (words[index - 1] == flag || words[index].startsWith(flag)))
+        || (macroBefore && macroBefore->words == 2)
+        || macroOptionAt(words, index, layout.defineFlag).has_value();
+}
+
+/// The word \a index of \a words, which is not the first, with what it reads made absolute.
+QString absoluteWord(const QStringList &words, qsizetype index, const CommandLayout &layout,
                      const QDir &folder)
 {
-    const bool isWritten = !layout.outputFlag.isEmpty()
-                        && (before == layout.outputFlag || word.startsWith(layout.outputFlag));
-    if (isWritten || isMacroFlag(before, layout) || isAboutMacro(word, layout))
+    const QString &word = words[index], &before = words[index - 1];
+    if (namesNoInput(words, index, layout))
         return word;
     const QRegularExpressionMatch option = readingOption().match(word);
     if (option.hasMatch())
@@ -120,6 +115,6 @@ QStringList withAbsolutePaths(const QStringList &words, const CommandLayout &lay
 {
     QStringList made = words.first(std::min<qsizetype>(words.size(), 1));
     for (qsizetype i = 1; i < words.size(); ++i)
-        made << absoluteWord(words[i - 1], words[i], layout, folder);
+        made << absoluteWord(words, i, layout, folder);
     return made;
 }

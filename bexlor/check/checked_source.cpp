@@ -49,9 +49,10 @@ QString includingFile(const QString &path, const QString &folder)
 /// compile as soon as it comes to it.
 void nameOutput(const CommandLayout &layout, const QString &file, CheckedSource &source)
 {
-    QStringList words {layout.outputFlag + source.output};
-    if (layout.order.contains("%o "_L1))
-        words = {layout.outputFlag, source.output};
+    const OrderToken *flag = findPart(layout.order, CommandPart::OutputFlag);
+    const bool isApart = flag && flag->spaceFollows;
+    const QStringList words = isApart ? QStringList {layout.outputFlag, source.output}
+                                      : QStringList {layout.outputFlag + source.output};
     const qsizetype last = source.command.lastIndexOf(file);
     const qsizetype ofFile = last < 0 ? source.command.size() : last;
     // Behind this word there are files only.
@@ -81,11 +82,7 @@ CheckedSource sourceOfEntry(const CompileCommand &entry, const Compiler &compile
 {
     const QString path = entry.absoluteFile();
     CheckedSource source {entry.file, entry.directory, {}, {}, clangOptions, path, path};
-    QStringList words = withoutOtherPurposes(withoutResponseFiles(entry.words, entry.directory));
-    if (words.isEmpty())
-        words = entry.words; // a response file in which there is nothing
-    if (QDir::fromNativeSeparators(words.first()).contains(u'/'))
-        words.first() = QDir(entry.directory).absoluteFilePath(words.first());
+    QStringList words = entry.compilingWords();
     const CommandLayout &layout = compiler.layout;
     const QString own = numbered(folder, number);
     QString file = sourceWord(words, entry);

@@ -2,7 +2,6 @@
 
 #include "compiler.h"
 #include "path_options.h"
-#include "probe_options.h"
 
 using namespace Qt::StringLiterals;
 
@@ -10,14 +9,12 @@ namespace {
 
 const int patience = 60'000; // milliseconds
 
-/// The options of \a command, also those in response files, each with the words behind it that are
-/// no options: all but what asks for other files than an object. A file that it has included first
-/// is named as clang has it.
+/// The options of \a command, see CompileCommand::compilingWords(), each with the words behind it
+/// that are no options. A file that it has included first is named as clang has it.
 QList<QStringList> optionsOf(const CompileCommand &command)
 {
     QList<QStringList> options;
-    const QStringList words =
-        withoutOtherPurposes(withoutResponseFiles(command.words, command.directory));
+    const QStringList words = command.compilingWords();
     for (qsizetype i = 1; i < words.size(); ++i) {
         const QString &word = words[i];
         if (const auto included = includedFileAt(words, i)) {

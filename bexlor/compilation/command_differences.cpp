@@ -2,6 +2,7 @@
 
 #include "clang.h"
 #include "dialects.h"
+#include "macro_options.h"
 #include "path_options.h"
 #include "probe_options.h"
 #include "program_run.h"
@@ -19,18 +20,8 @@ namespace {
 
 const int patience = 30'000; // milliseconds
 
-/// How many words, from \a index on, define a macro or take one back: 0, 1 or 2.
-qsizetype wordsAboutMacro(const QStringList &words, qsizetype index)
-{
-    static const QRegularExpression apart(u"^(?:-[DU]|--(?:un)?define-macro)$"_s);
-    static const QRegularExpression joined(u"^(?:-[DU]|--(?:un)?define-macro=|-Wp,-[DU])."_s);
-    const QString &word = words[index];
-    if (word.contains(apart))
-        return std::min<qsizetype>(2, words.size() - index);
-    return word.contains(joined) ? 1 : 0;
-}
-
-/// The same for those that change no predefined macro: headers, messages, and what is made.
+/// How many words, from \a index on, change no predefined macro: 0, 1 or 2. These are about
+/// headers, messages, and what is made.
 qsizetype wordsWithoutEffect(const QStringList &words, qsizetype index, const QString &objectFlag)
 {
     static const QRegularExpression apart(
@@ -52,8 +43,8 @@ QStringList decidingWords(const QStringList &words, const QString &objectFlag)
 {
     QStringList deciding;
     for (qsizetype i = 0; i < words.size();) {
-        const qsizetype left =
-            std::max(wordsAboutMacro(words, i), wordsWithoutEffect(words, i, objectFlag));
+        const std::optional<MacroOption> macro = macroOptionAt(words, i);
+        const qsizetype left = macro ? macro->words : wordsWithoutEffect(words, i, objectFlag);
         if (left == 0)
             deciding << words[i];
         i += std::max<qsizetype>(left, 1);
@@ -80,13 +71,7 @@ bool isOtherInput(const QString &word, const CompileCommand &command)
 /// The same of \a command, its paths made absolute, without its files.
 QStringList decidingWords(const CompileCommand &command, const CommandLayout &layout)
 {
-    QStringList words =
-        withoutOutput(withoutOtherPurposes(withoutResponseFiles(command.words, command.directory)),
-                      layout.outputFlag);
-    if (words.isEmpty())
-        return {};
-    if (QDir::fromNativeSeparators(words.first()).contains(u'/'))
-        words.first() = QDir(command.directory).absoluteFilePath(words.first());
+    QStringList words = withoutOutput(command.compilingWords(), layout.outputFlag);
     words.removeIf([&command](const QString &word) { return command.isNamedBy(word); });
     const QStringList program = words.first(firstOption(words));
     QStringList deciding = decidingWords(words.sliced(program.size()), layout.objectFlag);
@@ -94,19 +79,26 @@ QStringList decidingWords(const CompileCommand &command, const CommandLayout &la
     return withAbsolutePaths(program + deciding, layout, command.directory);
 }
 
-/// The words by which \a compiler gets macros, and its \a switches, which no command names.
-QStringList wordsInAnyCase(const Compiler &compiler, const QStringList &switches)
+/// The words of \a switches, which no compile command names, that decide macros.
+QStringList decidingSwitches(const QStringList &switches, const QString &objectFlag)
 {
     QStringList words;
-    for (qsizetype i = 1; i < compiler.command.size();) {
-        const qsizetype count = wordsAboutMacro(compiler.command, i);
-        words << compiler.command.mid(i, count);
+    for (const QString &item : switches)
+        words << decidingWords(splitCommand(item), objectFlag);
+    return words;
+}
+
+/// The words by which \a compiler is told of macros.
+QStringList definesOf(const Compiler &compiler)
+{
+    const QStringList command = commandWithDefines(compiler);
+    QStringList words;
+    for (qsizetype i = 1; i < command.size();) {
+        const std::optional<MacroOption> macro = macroOptionAt(command, i);
+        const qsizetype count = macro ? macro->words : 0;
+        words << command.mid(i, count);
         i += std::max<qsizetype>(count, 1);
     }
-    for (const QString &define : compiler.defines)
-        words << u"-D"_s + define;
-    for (const QString &item : switches)
-        words << decidingWords(splitCommand(item), compiler.layout.objectFlag);
     return words;
 }
 
@@ -189,7 +181,13 @@ QString shownCommand(QStringList words)
 CommandDifferences::CommandDifferences(const Personality &personality, const Compiler &compiler,
                                        const QString &source)
     : m_personality(personality), m_compiler(compiler), m_source(source)
-{ }
+{
+    const QStringList words =
+        decidingWords({QFileInfo(source).path(), {}, compiler.command}, compiler.layout);
+    m_switches = decidingSwitches(personality.switches, compiler.layout.objectFlag);
+    const qsizetype start = firstOption(words);
+    m_ownOptions = words.mid(start, words.size() - start - m_switches.size());
+}
 
 QList<Macro> CommandDifferences::macrosUnder(const QStringList &command)
 {
@@ -221,8 +219,7 @@ CommandDifference CommandDifferences::differenceUnder(const QStringList &words)
 {
     const QStringList program = words.first(firstOption(words));
     const QList<Macro> macros =
-        macrosUnder(program + wordsInAnyCase(m_compiler, m_personality.switches)
-                    + words.sliced(program.size()));
+        macrosUnder(program + definesOf(m_compiler) + m_switches + words.sliced(program.size()));
     if (macros.isEmpty())
         return {};
     const MacroFacts &before = m_personality.facts.macros;
@@ -247,11 +244,7 @@ CommandDifference CommandDifferences::differenceUnder(const QStringList &words)
 CommandDifference CommandDifferences::of(const CompileCommand &command)
 {
     const QStringList words = decidingWords(command, m_compiler.layout);
-    const QStringList options = words.sliced(firstOption(words));
-    const bool hasAll = std::all_of(options.begin(), options.end(), [this](const QString &option) {
-        return m_compiler.command.contains(option);
-    });
-    if (hasAll)
+    if (words.sliced(firstOption(words)) == m_ownOptions)
         return {};
     const auto known = m_known.constFind(words);
     if (known != m_known.constEnd())

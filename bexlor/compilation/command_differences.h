@@ -27,7 +27,7 @@ public:
     CommandDifferences(const Personality &personality, const Compiler &compiler,
                        const QString &source);
 
-    /// The difference that the options of \a command make: none where the compiler has them all,
+    /// The difference that the options of \a command make: none where they are the compiler's own,
     /// where nothing is answered, or where another compiler is started, whose headers clang does
     /// not get either.
     CommandDifference of(const CompileCommand &command);
@@ -41,6 +41,8 @@ private:
     const Personality m_personality;
     const Compiler m_compiler;
     const QString m_source;
+    QStringList m_switches;   ///< the words of those that decide macros
+    QStringList m_ownOptions; ///< the same of the compiler's command, without those
     QHash<QStringList, CommandDifference> m_known; ///< of the words that decide macros
     QHash<QStringList, bool> m_areLikeOwn;         ///< by the program that is started
     bool m_isTooSlow = false;                      ///< one has not answered in time

@@ -1,6 +1,8 @@
 #include "compile_database.h"
 
 #include "command_line.h"
+#include "path_options.h"
+#include "probe_options.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -25,6 +27,16 @@ QString CompileCommand::absoluteFile() const
 bool CompileCommand::isNamedBy(const QString &word) const
 {
     return CompileCommand {directory, word, {}}.absoluteFile() == absoluteFile();
+}
+
+QStringList CompileCommand::compilingWords() const
+{
+    QStringList compiling = withoutOtherPurposes(withoutResponseFiles(words, directory));
+    if (compiling.isEmpty())
+        compiling = words; // a response file in which there is nothing
+    if (QDir::fromNativeSeparators(compiling.first()).contains(u'/'))
+        compiling.first() = QDir(directory).absoluteFilePath(compiling.first());
+    return compiling;
 }
 
 std::optional<QList<CompileCommand>> parseDatabase(const QByteArray &json, const QString &folder)

@@ -13,6 +13,10 @@ struct CompileCommand
     QString absoluteFile() const;
     /// Whether \a word of the command is the path of its file, however that is written.
     bool isNamedBy(const QString &word) const;
+
+    /// Its words, also those in response files, without what asks for other files than an object;
+    /// a program in a folder is named by its whole path.
+    QStringList compilingWords() const;
 };
 
 /// The entries of the database \a json, which is a file in \a folder. Nothing if it is none.

@@ -1,5 +1,7 @@
 #include "compiler_names.h"
 
+#include "macro_options.h"
+
 #include <QDir>
 #include <QRegularExpression>
 #include <QSet>
@@ -51,9 +53,12 @@ QString programName(const Compiler &compiler)
 QStringList wordsOf(const Compiler &compiler, const QByteArray &versionLine)
 {
     QStringList words = withWords(programName(compiler));
-    static const QRegularExpression pathOrDefine(u"^[-/]D|.[/\\\\]"_s);
-    for (const QString &option : compiler.command.mid(1)) {
-        if (!option.contains(pathOrDefine))
+    for (qsizetype i = 1; i < compiler.command.size(); ++i) {
+        static const QRegularExpression path(u".[/\\\\]"_s);
+        const QString &option = compiler.command[i];
+        if (const auto aboutMacro = macroOptionAt(compiler.command, i))
+            i += aboutMacro->words - 1;
+        else if (!option.contains(path))
             words << wordsOfOption(option);
     }
     words << withWords(QString::fromLocal8Bit(versionLine)).mid(1);
@@ -88,22 +93,17 @@ QStringList formedNames(const QStringList &words, const QStringList &programWord
     return names;
 }
 
-/// The names that \a compiler's own command defines, behind its define flag or those that most
-/// compilers take, in the same word or in the next.
+/// The names of the macros that \a compiler's own command is about, and of those that it is given.
 QStringList definedNames(const Compiler &compiler)
 {
     static const QRegularExpression name(u"^[A-Za-z_]\\w*"_s);
+    const QStringList command = commandWithDefines(compiler);
     QStringList names;
-    for (qsizetype i = 1; i < compiler.command.size(); ++i) {
-        for (const QString &flag : {compiler.layout.defineFlag, u"-D"_s, u"/D"_s}) {
-            const QString &word = compiler.command[i];
-            const QString define =
-                word == flag ? compiler.command.value(i + 1) : word.mid(flag.size());
-            const QString defined = name.match(define).captured();
-            if (!flag.isEmpty() && word.startsWith(flag) && !defined.isEmpty())
-                names << defined;
-        }
+    for (qsizetype i = 1; i < command.size(); ++i) {
+        if (const auto option = macroOptionAt(command, i, compiler.layout.defineFlag))
+            names << name.match(option->definition).captured();
     }
+    names.removeAll(QString());
     return names;
 }
 

@@ -7,9 +7,8 @@
 /// What can be learned of a compiler by compiling probes alone. Each function returns what it has
 /// found, and is given what it needs of what was found before.
 
-/// The names that may be predefined macros: those of \a names, those that the user's own \a defines
-/// ("NAME", "NAME=VALUE" or "NAME(X)=VALUE") give, and the well-known ones.
-QList<QByteArray> macroCandidates(const QList<ScannedName> &names, const QStringList &defines);
+/// The names that may be predefined macros: those of \a names and the well-known ones.
+QList<QByteArray> macroCandidates(const QList<ScannedName> &names);
 
 /// The predefined macros among \a candidates with their values. Those whose definition cannot be
 /// found out with certainty are listed as undetermined.

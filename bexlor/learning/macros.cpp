@@ -5,7 +5,6 @@
 #include "redefinitions.h"
 #include "well_known_names.h"
 
-#include <QRegularExpression>
 #include <QSet>
 #include <algorithm>
 #include <cstring>
@@ -199,7 +198,7 @@ MacroFacts learnByTexts(const Questions &questions, const QByteArray &quote,
 
 } // namespace
 
-QList<QByteArray> macroCandidates(const QList<ScannedName> &names, const QStringList &defines)
+QList<QByteArray> macroCandidates(const QList<ScannedName> &names)
 {
     const QList<QByteArray> known = wellKnownMacros();
     QSet<QByteArray> chosen(known.begin(), known.end());
@@ -208,10 +207,6 @@ QList<QByteArray> macroCandidates(const QList<ScannedName> &names, const QString
         if (!isUsedOnly || name.text.startsWith('_'))
             chosen << name.text;
     }
-    static const QRegularExpression nameOfDefine(u"^[A-Za-z_]\\w*"_s);
-    for (const QString &define : defines)
-        chosen << nameOfDefine.match(define).captured().toUtf8();
-    chosen.remove(QByteArray());
     QList<QByteArray> sorted(chosen.begin(), chosen.end());
     sorted.removeIf(&isSpecialName);
     std::sort(sorted.begin(), sorted.end());

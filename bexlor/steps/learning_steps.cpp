@@ -82,13 +82,10 @@ std::optional<DialectAnswers> askForListings(Progress &progress, const Compiler 
     if (!writeEmptySource(progress, folder, compiler.isCpp))
         return {};
     const ProgressStep step(progress, u"Asking the compiler for what it lists ..."_s);
-    QStringList command = compiler.command;
-    for (const QString &define : compiler.defines)
-        command << u"-D"_s + define;
     const RunCommand run = [&folder](const QStringList &question) {
         return platform::runProgram(question, folder, listingTimeLimit);
     };
-    return askInDialects(run, command, probeName(compiler.isCpp), known);
+    return askInDialects(run, commandWithDefines(compiler), probeName(compiler.isCpp), known);
 }
 
 QStringList findDirectoriesBeside(Progress &progress, const Questions &questions)
@@ -152,7 +149,7 @@ std::optional<MacroFacts> findMacros(Progress &progress, const Questions &questi
         }
         const ProbeRunner &runner = questions.runner();
         const ProgressStep step(progress, u"Looking for predefined macros ..."_s, probesOf(runner));
-        macros = learnMacros(questions, macroCandidates(names, runner.compiler().defines));
+        macros = learnMacros(questions, macroCandidates(names));
         if (!worksStill(progress, runner, logFolder))
             return {};
     }

@@ -3,7 +3,6 @@
 #include "clang.h"
 #include "command_line.h"
 #include "dialects.h"
-#include "dialects.h"
 #include "personality.h"
 #include "refusal.h"
 #include "text_file.h"
@@ -55,6 +54,10 @@ std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arg
     for (const auto &[name, path] : unseen) {
         if (!path.isEmpty())
             progress.say(name + ": "_L1 + visibleText(path));
+    }
+    if (const QStringList unnamed = unnamedDefines(arguments); !unnamed.isEmpty()) {
+        progress.say(u"Without a define flag the compiler cannot be told of: %1"_s.arg(
+            unnamed.join(u", "_s)));
     }
     Arguments usable = arguments;
     leaveOutOddDirectories(progress, usable.headerDirectories);

@@ -90,7 +90,7 @@ private slots:
     void readsADatabase()
     {
         Compiler compiler;
-        compiler.layout = {"-o", "-c", "-D", ".o", "%c %o %e %d%j %s "};
+        compiler.layout = {"-o", "-c", "-D", ".o", parseOrderString("%c %o %e %d%j %s ")};
         QByteArray json =
             "[{'directory': '/p', 'file': '/p/a.c', 'arguments': ['cc', '-Iinc', '-isystem', 's', "
             "'-O2', '-include', 'f.h', '-DA=1', '-D', 'B', '-MD', '-MF', 'a.d', '-o', 'a.o', '-c', "

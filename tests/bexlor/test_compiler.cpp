@@ -139,7 +139,7 @@ private slots:
         QFETCH(QString, objectFlag);
         Compiler compiler;
         compiler.command = QStringList {"cc", "-m32"};
-        compiler.layout = {outputFlag, objectFlag, "-D", ".o", order};
+        compiler.layout = {outputFlag, objectFlag, "-D", ".o", parseOrderString(order)};
         compiler.defines = QStringList {"A", "B=1 2"};
         QTEST(probeCommand(compiler, "in.c", "out.o").join('|'), "toObject");
         QTEST(probeCommand(compiler, "in.c", "out.o", CompileTo::Program).join('|'), "toProgram");

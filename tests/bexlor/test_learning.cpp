@@ -33,7 +33,7 @@ private:
             compiler.command.first() = QStandardPaths::findExecutable(command.first());
             compiler.isCross = command.first() != "gcc" && command.first() != "tcc";
             compiler.layout = {"-o", "-c", "-D", command.first() == "sdcc" ? ".rel" : ".o",
-                               "%c %o %e %d%j %s "};
+                               parseOrderString("%c %o %e %d%j %s ")};
             return compiler;
         }
     };
@@ -66,15 +66,17 @@ private slots:
         if (command.first() == "gcc")
             own << "QQ_FUNCTION(x)=x ## U"
                 << "QQ_TWO(a,b)=(a) + #b";
-        for (const QString &define : own)
+        QList<ScannedName> names {{"QQ_ABSENT", InBinary}};
+        for (const QString &define : own) {
             command << "-D" + define;
+            names.append({bareName(define.section('=', 0, 0).toLatin1()), DefinedByOption});
+        }
         const QList<Macro> truth = macrosIn(run(command + QStringList {"-dM", "-E", "x.c"}).output);
         QVERIFY(truth.size() > 20);
 
         const Subject subject(command, isSmall);
         QVERIFY(subject.questions.readsTexts());
-        const MacroFacts macros =
-            learnMacros(subject.questions, macroCandidates({{"QQ_ABSENT", InBinary}}, own));
+        const MacroFacts macros = learnMacros(subject.questions, macroCandidates(names));
         QVERIFY(findMacro(macros, "QQ_INNER") && !findMacro(macros, "QQ_ABSENT"));
         QList<QByteArray> missing;
         for (const Macro &macro : truth) {
@@ -110,7 +112,7 @@ private slots:
         QList<ScannedName> names;
         for (const Macro &macro : truth)
             names.append({bareName(macro.name), InBinary});
-        const MacroFacts macros = learnMacros(subject.questions, macroCandidates(names, {}));
+        const MacroFacts macros = learnMacros(subject.questions, macroCandidates(names));
         const QRegularExpression open("[.\"]|[0-9]E|^\\(\\(|\\*$");
         for (const Macro &macro : truth) {
             const Macro *known = findMacro(macros, macro.name);

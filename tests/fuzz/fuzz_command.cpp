@@ -27,7 +27,7 @@ extern "C" int LLVMFuzzerTestOneInput(const char *data, std::size_t size)
         __builtin_trap();
     Compiler compiler;
     compiler.command = QStringList {QStringLiteral("cc")} + items;
-    compiler.layout.order = text;
+    compiler.layout.order = parseOrderString(text);
     probeCommand(compiler, QStringLiteral("probe.c"), QStringLiteral("probe.o"));
     return 0;
 }
