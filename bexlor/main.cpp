@@ -15,6 +15,7 @@
 #include "probe_steps.h"
 #include "process_tree.h"
 #include "request.h"
+#include "visible_text.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -28,6 +29,13 @@ namespace {
 void print(const QString &text)
 {
     platform::print(stdout, text);
+}
+
+/// Prints \a lines, which may hold what anybody has written.
+void printOn(std::FILE *stream, const QString &lines)
+{
+    for (const QString &line : lines.split(u'\n'))
+        platform::print(stream, visibleText(line) + u'\n');
 }
 
 ExitStatus generate(Progress &progress, const Arguments &arguments, const QString &folder)
@@ -87,7 +95,7 @@ ExitStatus withPersonality(
 {
     const auto read = readEarlierPersonality(path);
     if (const auto *problem = std::get_if<QString>(&read)) {
-        print(*problem + u'\n');
+        printOn(stdout, *problem);
         return otherwise;
     }
     return inWorkshop([&](Progress &progress, const QString &folder) {
@@ -126,7 +134,7 @@ ExitStatus run(const EntryRequest &request)
 {
     const auto answers = answersOfEntry(request.name, request.catalogue, request.personality);
     if (const auto *problem = std::get_if<QString>(&answers)) {
-        print(*problem + u'\n');
+        printOn(stdout, *problem);
         return ExitStatus::Failed;
     }
     return run(std::get<Arguments>(answers));
@@ -168,7 +176,7 @@ ExitStatus run(const VersionRequest &)
 
 ExitStatus run(const UsageError &error)
 {
-    platform::print(stderr, error.sentence + u'\n' + usage() + u'\n');
+    printOn(stderr, error.sentence + u'\n' + usage());
     return ExitStatus::Usage;
 }
 

@@ -22,6 +22,12 @@ QString ArgumentReader::wholePath()
     return QDir::current().absoluteFilePath(path());
 }
 
+QString ArgumentReader::program()
+{
+    const QString given = path();
+    return given.contains(u'/') ? QDir::current().absoluteFilePath(given) : given;
+}
+
 bool ArgumentReader::flag(QLatin1StringView flag)
 {
     const bool found = !m_failed && m_next < m_list.size() && m_list[m_next] == flag;

@@ -15,6 +15,8 @@ public:
     QString path();
     /// The same as a path that does not depend on the working directory.
     QString wholePath();
+    /// The same for a program: a path is made whole, a name that is looked for stays.
+    QString program();
     /// Whether the next argument is \a flag, which is then passed.
     bool flag(QLatin1StringView flag);
     /// One of two words; true for the second.

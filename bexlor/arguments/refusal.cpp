@@ -69,11 +69,11 @@ QString problemWithParts(const CommandLayout &layout)
     for (const Part &part : parts) {
         const QString &text = layout.*part.text;
         if (hasControlCharacter(text)) {
-            return u"The %1 holds a control character: %2"_s.arg(part.name, visibleText(text));
+            return u"The %1 holds a control character: %2"_s.arg(part.name, text);
         }
         if (holdsPath(text)) {
             return u"The %1 holds a path, but the output of a probe belongs in the run's own "
-                   "folder: %2"_s.arg(part.name, visibleText(text));
+                   "folder: %2"_s.arg(part.name, text);
         }
     }
     return QString();
@@ -92,12 +92,10 @@ QString problemWithFiles(const Arguments &arguments)
     for (const NamedFile &file : namedFiles) {
         const QString &path = arguments.*file.path;
         if (leavesFolder(path, file.folder)) {
-            return u"The %1 does not lie in the folder %2: %3"_s.arg(file.name, file.folder,
-                                                                     visibleText(path));
+            return u"The %1 does not lie in the folder %2: %3"_s.arg(file.name, file.folder, path);
         }
         if (!path.isEmpty() && !mayStandInPersonality(path)) {
-            return u"The name of the %1 holds a control character: %2"_s.arg(file.name,
-                                                                             visibleText(path));
+            return u"The name of the %1 holds a control character: %2"_s.arg(file.name, path);
         }
     }
     return QString();
@@ -109,7 +107,7 @@ QString problemWithQuoting(QLatin1StringView name, const QStringList &texts)
     for (const QString &text : texts) {
         const QString reason = quotingProblem(text);
         if (!reason.isEmpty()) {
-            return u"The %1 cannot be read, since %2: %3"_s.arg(name, reason, visibleText(text));
+            return u"The %1 cannot be read, since %2: %3"_s.arg(name, reason, text);
         }
     }
     return QString();
@@ -124,7 +122,7 @@ QString problemWithDefines(const Arguments &arguments)
     for (const QString &define : arguments.defines) {
         const bool isWhole = arguments.layout.defineFlag.isEmpty() && bringsOwnFlag(define);
         if (!define.mid(isWhole ? 1 : 0).contains(named))
-            return u"The define does not begin with a name: %1"_s.arg(visibleText(define));
+            return u"The define does not begin with a name: %1"_s.arg(define);
     }
     return QString();
 }
@@ -135,7 +133,7 @@ QString problemWithTexts(const Arguments &arguments)
                             + arguments.defines + arguments.switches;
     for (const QString &text : texts) {
         if (hasControlCharacter(text))
-            return u"There is a control character in: %1"_s.arg(visibleText(text));
+            return u"There is a control character in: %1"_s.arg(text);
     }
     return QString();
 }

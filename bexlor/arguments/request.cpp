@@ -44,7 +44,7 @@ Request parseCheck(ArgumentReader &reader)
         else if (reader.flag("--preprocess"_L1))
             request.preprocess = reader.value();
         else if (reader.flag(clangFlag))
-            request.clang = reader.value();
+            request.clang = reader.program();
         else
             request.sources << reader.wholePath();
     } while (!reader.isAtEnd());
@@ -84,7 +84,7 @@ Request parseExport(ArgumentReader &reader)
         if (reader.flag(outputFlag))
             request.output = reader.wholePath();
         else if (reader.flag(clangFlag))
-            request.clang = reader.value();
+            request.clang = reader.program();
         else if (request.database.isEmpty() && (format->needsDatabase || format->mayHaveDatabase))
             request.database = reader.wholePath();
         else

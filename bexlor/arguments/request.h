@@ -4,7 +4,8 @@
 
 #include <variant>
 
-// What a command line may ask for. Paths are the host's and do not depend on the working directory.
+// What a command line may ask for. Paths are the host's, and whole where another working directory
+// is entered before they are used.
 
 /// To generate a personality once more.
 struct AgainRequest

@@ -14,15 +14,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const int patience = 600'000; // milliseconds for one compilation
+const int timeLimit = 600'000; // milliseconds for one compilation
 const qsizetype largestSource = 500'000'000;
 
 const QLatin1StringView syntaxOnly("-fsyntax-only");
 
-int timeLeft(const Checking &checking)
+int timeLeft(QDeadlineTimer deadline)
 {
-    return int(std::min<qint64>(checking.deadline.remainingTimeAsDuration().count() / 1'000'000,
-                                patience));
+    return int(std::min<qint64>(deadline.remainingTimeAsDuration().count() / 1'000'000, timeLimit));
 }
 
 // Operators whose answers are each compiler's own, defined to answer that it has nothing. Those on
@@ -71,7 +70,7 @@ platform::ProgramRun compile(const Checking &checking, const CheckedSource &sour
             ? withOptions(source.command, {syntaxOnly}, checking.layout.objectFlag)
             : source.command;
     const platform::ProgramRun run =
-        platform::runProgram(command, source.directory, timeLeft(checking));
+        platform::runProgram(command, source.directory, timeLeft(checking.deadline));
     removeOutput(source);
     return run;
 }
@@ -84,7 +83,7 @@ platform::ProgramRun preprocess(const Checking &checking, const CheckedSource &s
     platform::ProgramRun run = platform::runProgram(
         withOptions(source.command, QStringList {checking.preprocess} + definitions,
                     checking.layout.objectFlag),
-        source.directory, timeLeft(checking), largestSource);
+        source.directory, timeLeft(checking.deadline), largestSource);
     if (run.output.isEmpty())
         run.output = platform::readFile(source.output, largestSource).bytes;
     removeOutput(source);
@@ -96,7 +95,7 @@ platform::ProgramRun runClang(const Checking &checking, const CheckedSource &sou
 {
     const QStringList quiet {u"-w"_s, u"-ferror-limit=1"_s};
     return runClang(checking.clang, checking.personality, quiet + options + source.clangOptions,
-                    source.directory, timeLeft(checking), largestSource);
+                    source.directory, timeLeft(checking.deadline), largestSource);
 }
 
 /// Lets clang leave the keywords in the code that it would otherwise not understand, and see the
@@ -233,7 +232,7 @@ QStringList ownHeadersOf(const Personality &personality)
     return folders;
 }
 
-bool canCheckSyntaxOnly(const Compiler &compiler, const QString &folder)
+bool canCheckSyntaxOnly(const Compiler &compiler, const QString &folder, QDeadlineTimer deadline)
 {
     const auto accepts = [&](const QString &name, const QByteArray &code) {
         const QString file = folder + u'/' + name + probeName(compiler.isCpp);
@@ -241,7 +240,7 @@ bool canCheckSyntaxOnly(const Compiler &compiler, const QString &folder)
             return false;
         const QStringList command = withOptions(sourceOfFile(compiler, file, folder, 0).command,
                                                 {syntaxOnly}, compiler.layout.objectFlag);
-        return platform::runProgram(command, folder, patience).succeeded();
+        return platform::runProgram(command, folder, timeLeft(deadline)).succeeded();
     };
     return accepts(u"right_"_s, "int right;\n") && !accepts(u"wrong_"_s, "int wrong wrong;\n");
 }

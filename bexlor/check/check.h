@@ -46,8 +46,9 @@ struct Checking
 QStringList ownHeadersOf(const Personality &personality);
 
 /// Whether \a compiler takes the GNU compilers' option to check a source and write nothing; \a
-/// folder is for probes.
-bool canCheckSyntaxOnly(const Compiler &compiler, const QString &folder);
+/// folder is for probes. One that has not answered by \a deadline does not.
+bool canCheckSyntaxOnly(const Compiler &compiler, const QString &folder,
+                        QDeadlineTimer deadline = QDeadlineTimer(QDeadlineTimer::Forever));
 
 /// Gives the verdicts on \a sources to \a report, in their order and each as soon as it is there.
 /// As many sources are checked at a time as there are processors. Those that the deadline has come

@@ -68,13 +68,3 @@ QByteArray databaseText(const QList<CompileCommand> &commands)
                               {argumentsKey, QJsonArray::fromStringList(command.words)}};
     return QJsonDocument(array).toJson();
 }
-
-bool isInLanguage(const QString &file, bool isCpp)
-{
-    static const QStringList suffixes[] = {
-        {u"c"_s, u"h"_s},
-        {u"C"_s, u"cc"_s, u"cp"_s, u"cpp"_s, u"CPP"_s, u"cxx"_s, u"c++"_s, u"h"_s, u"hh"_s,
-         u"hpp"_s, u"hxx"_s},
-    };
-    return suffixes[isCpp].contains(QFileInfo(file).suffix());
-}

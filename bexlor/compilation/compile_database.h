@@ -24,6 +24,3 @@ std::optional<QList<CompileCommand>> parseDatabase(const QByteArray &json, const
 
 /// A database of \a commands.
 QByteArray databaseText(const QList<CompileCommand> &commands);
-
-/// Whether \a file is in the language of a personality, by its extension; a header is in both.
-bool isInLanguage(const QString &file, bool isCpp);

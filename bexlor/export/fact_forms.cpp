@@ -48,6 +48,15 @@ QList<Macro> macrosSeen(const Personality &personality)
     return changedMacros(personality.facts.macros.known, personality.templateText);
 }
 
+/// Adds what those of \a options that have one name behind them, such as "-isystem", name.
+void addPaths(const QList<Option> &options, QJsonArray &paths)
+{
+    for (const Option &option : options) {
+        if (option.size() == 2)
+            paths << QString::fromUtf8(option.last());
+    }
+}
+
 } // namespace
 
 QByteArray cppcheckPlatform(const Facts &facts)
@@ -92,9 +101,10 @@ QByteArray macroHeader(const Personality &personality)
 
 QByteArray vscodeProperties(const Personality &personality, bool isCpp, const QString &name)
 {
-    QJsonArray include {u"${workspaceFolder}/**"_s};
-    for (const QString &directory : personality.facts.searchPath.directories)
-        include << directory;
+    QJsonArray directories {u"${workspaceFolder}/**"_s};
+    addPaths(personality.searchPath, directories);
+    QJsonArray includedFirst;
+    addPaths(personality.includedFirst, includedFirst);
     QJsonArray defines;
     for (const Macro &macro : macrosSeen(personality))
         defines << QString::fromUtf8(macro.name + '=' + macro.value);
@@ -106,7 +116,8 @@ QByteArray vscodeProperties(const Personality &personality, bool isCpp, const QS
     // compiler that it finds.
     QJsonObject configuration {{"name"_L1, name},
                                {"compilerPath"_L1, QString()},
-                               {"includePath"_L1, include},
+                               {"includePath"_L1, directories},
+                               {"forcedInclude"_L1, includedFirst},
                                {"defines"_L1, defines},
                                {"intelliSenseMode"_L1, mode->mode}};
     QString standard = QString::fromUtf8(languageOption(personality, "-std="));

@@ -43,7 +43,7 @@ bool isWithin(const fs::path &path, const fs::path &directory)
 
 QString passedOver(const QString &reason, const fs::path &path)
 {
-    return u"Passed over, since it %1: %2"_s.arg(reason, visibleText(slashed(path)));
+    return u"Passed over, since it %1: %2"_s.arg(reason, slashed(path));
 }
 
 /// What stands in a directory.

@@ -1,6 +1,7 @@
 #include "header_directories.h"
 
-#include <QRegularExpression>
+#include "file_names.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -14,10 +15,11 @@ const int namesFromBelow = 50; // that stand for such a directory
 
 bool mayBeIncluded(const QString &name, bool isCpp)
 {
-    static const QRegularExpression header(u"\\.(h|hh|hpp|hxx|inc|H)$"_s);
     if (name.contains(u'>') || name.contains(u'\\'))
         return false;
-    return name.contains(header) || (isCpp && !name.contains(u'.'));
+    // Headers of C++ are there in directories of C, too, and tell those from others as well.
+    return isHeader(name, true) || name.endsWith(".inc"_L1)
+        || (isCpp && !name.contains(u'.'));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "header_sample.h"
 
+#include "file_names.h"
 #include "header_scan.h"
 
 #include <algorithm>
@@ -11,7 +12,7 @@ namespace {
 
 bool isIncludedAlone(const QString &name, bool isCpp)
 {
-    return name.endsWith(".h"_L1) || (isCpp && !name.contains(u'.'));
+    return isHeader(name, isCpp) || (isCpp && !name.contains(u'.'));
 }
 
 /// One of each of \a lists in turn, as long as they last.

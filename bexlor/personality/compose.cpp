@@ -1,6 +1,7 @@
 #include "personality.h"
 
 #include "clang.h"
+#include "file_names.h"
 #include "template_options.h"
 #include "typed_command.h"
 #include "visible_text.h"
@@ -17,9 +18,11 @@ Option pathOption(const QByteArray &option, const QString &path)
     return {option, QDir::current().absoluteFilePath(path).toUtf8()};
 }
 
-bool hasHeaders(const QString &directory)
+bool hasHeaders(const QString &directory, bool isCpp)
 {
-    return !QDir(directory).entryList({u"*.h"_s}, QDir::Files).isEmpty();
+    const QStringList files = QDir(directory).entryList(QDir::Files);
+    return std::any_of(files.begin(), files.end(),
+                       [isCpp](const QString &file) { return isHeader(file, isCpp); });
 }
 
 /// How many of the directories that are searched come first and are named by -I. One that stands
@@ -55,7 +58,8 @@ QList<Option> searchOptions(const Arguments &arguments, const Facts &facts,
     }
     for (const QString &directory : arguments.headerDirectories) {
         // What the user has given and the compiler does not search must not hide anything.
-        if (!searched.contains(QDir(directory).canonicalPath()) && hasHeaders(directory))
+        if (!searched.contains(QDir(directory).canonicalPath())
+            && hasHeaders(directory, arguments.isCpp))
             options << pathOption("-idirafter", directory);
     }
     // Clang's <limits.h> marks GCC's as included before it goes on to it, which passes on to the C

@@ -1,5 +1,7 @@
 #include "progress.h"
 
+#include "visible_text.h"
+
 #include <chrono>
 #include <condition_variable>
 #include <utility>
@@ -29,7 +31,7 @@ void Progress::say(const QString &line)
 {
     const std::scoped_lock lock(m_mutex);
     endLine();
-    m_write(line + u'\n');
+    m_write(visibleText(line) + u'\n');
 }
 
 void Progress::begin(const QString &text, const State &state)

@@ -16,7 +16,8 @@ public:
     /// \a write gets every piece of text as it comes, line feeds included.
     explicit Progress(std::function<void(const QString &)> write);
 
-    /// Says \a line, behind the end of the step's line if there is one.
+    /// Says \a line, behind the end of the step's line if there is one. It may hold what anybody
+    /// has written: what a reader would not see, and what a terminal would obey, becomes an escape.
     void say(const QString &line);
 
     /// Starts the line of a step, \a text, which ends with "...". grow() asks for \a state, in

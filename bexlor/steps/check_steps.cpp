@@ -1,5 +1,6 @@
 #include "check_steps.h"
 
+#include "file_names.h"
 #include "header_sample.h"
 #include "options_for_clang.h"
 #include "probe_steps.h"
@@ -105,9 +106,12 @@ std::optional<PreparedCheck> prepareCheck(Progress &progress, const CheckRequest
     const auto &sources = std::get<Sources>(read);
     if (sources.passedOver > 0)
         progress.say(u"Passed over, being in another language: %1."_s.arg(sources.passedOver));
-    const Checking checking {
-        *clang,          request.personality, content,
-        compiler.layout, request.preprocess,  canCheckSyntaxOnly(compiler, folder)};
+    const Checking checking {.clang = *clang,
+                             .personality = request.personality,
+                             .content = content,
+                             .layout = compiler.layout,
+                             .preprocess = request.preprocess,
+                             .checksSyntaxOnly = canCheckSyntaxOnly(compiler, folder)};
     return PreparedCheck {checking, sources.list, forClang.remarkOnTypes()};
 }
 
@@ -212,16 +216,17 @@ void checkHeaders(Progress &progress, const Compiler &compiler, const QString &p
     const QList<CheckedSource> sources = headerSources(headers, compiler, folder);
     if (sources.isEmpty())
         return;
-    const Checking checking {*clang,
-                             QDir::current().absoluteFilePath(personality),
-                             content,
-                             compiler.layout,
-                             {},
-                             canCheckSyntaxOnly(compiler, folder),
-                             QDeadlineTimer(headerTimeLimit)};
     QList<Verdict> verdicts;
     {
         const ProgressStep step(progress, u"Trying the headers of the search path ..."_s);
+        const QDeadlineTimer deadline(headerTimeLimit);
+        const Checking checking {.clang = *clang,
+                                 .personality = QDir::current().absoluteFilePath(personality),
+                                 .content = content,
+                                 .layout = compiler.layout,
+                                 .preprocess = {},
+                                 .checksSyntaxOnly = canCheckSyntaxOnly(compiler, folder, deadline),
+                                 .deadline = deadline};
         checkSources(checking, sources,
                      [&verdicts](const Verdict &verdict) { verdicts << verdict; });
     }
@@ -243,11 +248,14 @@ ExitStatus checkTypes(Progress &progress, const Compiler &compiler, const QStrin
     const std::optional<Clang> clang = findClang(progress, u"clang"_s);
     if (!clang)
         return ExitStatus::Missing;
-    const Checking checking {*clang, written.filePath(), content, compiler.layout, {}, {}};
-    ExitStatus status = ExitStatus::Done;
-    checkSources(checking, {sourceOfFile(compiler, file, folder, 0)}, [&](const Verdict &verdict) {
-        progress.say(typeSentence(verdict, file, *clang));
-        status = verdict.result == Verdict::NotCompared ? ExitStatus::Done : ExitStatus::Failed;
-    });
-    return status;
+    const Checking checking {.clang = *clang,
+                             .personality = written.filePath(),
+                             .content = content,
+                             .layout = compiler.layout,
+                             .preprocess = {}};
+    QList<Verdict> verdicts;
+    checkSources(checking, {sourceOfFile(compiler, file, folder, 0)},
+                 [&verdicts](const Verdict &verdict) { verdicts << verdict; });
+    progress.say(typeSentence(verdicts.first(), file, *clang));
+    return exitStatus(verdicts) == ExitStatus::Done ? ExitStatus::Done : ExitStatus::Failed;
 }

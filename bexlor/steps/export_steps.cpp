@@ -3,6 +3,7 @@
 #include "clang_forms.h"
 #include "command_line.h"
 #include "fact_forms.h"
+#include "file_names.h"
 #include "refusal.h"
 #include "text_file.h"
 #include "tools_and_files.h"
@@ -108,10 +109,10 @@ ExitStatus writeForCppcheck(Progress &progress, const QString &file, const Perso
                         && write(progress, header, macroHeader(personality)) == ExitStatus::Done;
     if (!isWritten)
         return ExitStatus::Failed;
-    progress.say(
-        "  "_L1
-        + platform::commandLine({u"cppcheck"_s, "--platform="_L1 + file, "--include="_L1 + header})
-        + " FILE"_L1);
+    QStringList command {u"cppcheck"_s, "--platform="_L1 + file, "--include="_L1 + header};
+    for (const Option &option : personality.includedFirst)
+        command << "--include="_L1 + QString::fromUtf8(option.last());
+    progress.say("  "_L1 + platform::commandLine(command) + " FILE"_L1);
     return ExitStatus::Done;
 }
 

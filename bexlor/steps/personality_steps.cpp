@@ -7,7 +7,6 @@
 #include "refusal.h"
 #include "text_file.h"
 #include "tools_and_files.h"
-#include "visible_text.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -53,7 +52,7 @@ std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arg
     };
     for (const auto &[name, path] : unseen) {
         if (!path.isEmpty())
-            progress.say(name + ": "_L1 + visibleText(path));
+            progress.say(name + ": "_L1 + path);
     }
     if (const QStringList unnamed = unnamedDefines(arguments); !unnamed.isEmpty()) {
         progress.say(u"Without a define flag the compiler cannot be told of: %1"_s.arg(
@@ -93,7 +92,7 @@ std::optional<QByteArray> textOfPersonality(Progress &progress, const Arguments 
         parts.includedFirst.append({included.option.toUtf8(), included.file.toUtf8()});
     const Personality personality = composePersonality(arguments, facts, parts, templateText);
     for (const QString &option : personality.lacking)
-        progress.say(u"Clang has no option like the compiler's %1."_s.arg(visibleText(option)));
+        progress.say(u"Clang has no option like the compiler's %1."_s.arg(option));
     for (const QString &line : differenceSentences(facts.types, personality.typesOfClang))
         progress.say(line);
     return personalityText(personality);

@@ -3,7 +3,6 @@
 #include "probe_runner.h"
 #include "refusal.h"
 #include "text_file.h"
-#include "visible_text.h"
 
 #include <QFileInfo>
 
@@ -56,8 +55,8 @@ void leaveOutOddDirectories(Progress &progress, QStringList &directories)
     directories.removeIf([&progress](const QString &directory) {
         const bool isOdd = !mayStandInPersonality(directory);
         if (isOdd)
-            progress.say(u"Passed over, since it has a control character in its name: %1"_s.arg(
-                visibleText(directory)));
+            progress.say(
+                u"Passed over, since it has a control character in its name: %1"_s.arg(directory));
         return isOdd;
     });
 }

@@ -155,7 +155,6 @@ private slots:
         list[place] = given;
         const QString told = refusalReason(std::get<Arguments>(parseArguments(list)));
         QVERIFY2(reason.isEmpty() ? told.isEmpty() : told.startsWith(reason), qPrintable(told));
-        QVERIFY(!told.contains('\n'));
     }
 };
 

@@ -120,6 +120,10 @@ private slots:
               "\n#: version gcc", "\n#: size_t unsigned long\n", "\n#: keyword __int128 type ",
               "\n#: search-path /usr/include\n"})
             QVERIFY2(text.contains(line), line);
+        const ProgramRun properties =
+            workshop.run({GENERATOR, "export", workshop.personality, "vscode"});
+        for (const char *path : {"/stand-ins\"", "/quoted\"", "/headers\"", "/first.h\""})
+            QVERIFY2(properties.output.contains(path), properties.output);
     }
 
     void isQuietInEveryClang_data()

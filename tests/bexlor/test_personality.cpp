@@ -154,10 +154,11 @@ private slots:
             return QDir(folder.path()).canonicalPath() + '/' + name;
         };
         for (const char *file :
-             {"intrinsics/immintrin.h", "user/a.h", "searched/a.h", "stand-in/a.h"})
+             {"intrinsics/immintrin.h", "user/a.hpp", "searched/a.h", "stand-in/a.h"})
             writeTestFile(at(file));
         QDir(folder.path()).mkdir("empty");
         Arguments arguments;
+        arguments.isCpp = true;
         arguments.substituteHeaders = at("stand-in");
         arguments.headerDirectories = QStringList {at("searched"), at("user"), at("empty")};
         Facts facts;
@@ -180,6 +181,8 @@ private slots:
                  "-idirafter intrinsics\n-idirafter searched\n-idirafter user");
         facts.macros.known = {{"__clang__", "1"}};
         QVERIFY(shown().startsWith("-nostdinc\n") && shown().contains("-isystem intrinsics"));
+        arguments.isCpp = false;
+        QVERIFY(!shown().contains("user"));
     }
 };
 
