@@ -1,9 +1,9 @@
 // The generator: asks a compiler about itself and writes its personality.
 //
 // Progress goes to the standard output, one line for each step, which grows while the step goes on.
-// The command attempted, and what it wrote, are left in the working directory as compile.bat,
-// stdout.log and stderr.log. Behind a command word it does other things with a personality; help()
-// lists them, ExitStatus says what the program returns.
+// The command attempted, and what it wrote, are left as compile.bat, stdout.log and stderr.log in
+// the working directory; "again" enters that of the earlier run. Behind a command word it does
+// other things with a personality; help() lists them, ExitStatus says what the program returns.
 
 #include "again.h"
 #include "catalogue_answers.h"

@@ -49,7 +49,7 @@ Request parseCheck(ArgumentReader &reader)
             request.sources << reader.wholePath();
     } while (!reader.isAtEnd());
     if (request.sources.isEmpty())
-        request.sources << reader.wholePath(); // which is missing
+        request.sources << reader.wholePath(); // so that it is the argument told of
     return whole(reader, request);
 }
 
@@ -64,7 +64,7 @@ const struct FormatWord
 } formatWords[] = {
     {"compile-commands"_L1, ExportRequest::CompileCommands, true},
     {"clangd"_L1, ExportRequest::Clangd, false, true},
-    {"cppcheck"_L1, ExportRequest::Cppcheck, false, false, true}, // which is two files
+    {"cppcheck"_L1, ExportRequest::Cppcheck, false, false, true},
     {"vscode"_L1, ExportRequest::VsCode},
     {"json"_L1, ExportRequest::Json},
 };
@@ -93,7 +93,7 @@ Request parseExport(ArgumentReader &reader)
     if (format->needsOutput && request.output.isEmpty())
         return UsageError {u"%1 needs -o FILE, since it is two files."_s.arg(format->word)};
     if (format->needsDatabase && request.database.isEmpty())
-        request.database = reader.wholePath(); // which is missing
+        request.database = reader.wholePath(); // so that it is the argument told of
     return whole(reader, request);
 }
 
@@ -104,12 +104,12 @@ Request parseAlone(ArgumentReader &reader)
 }
 
 /// A first argument that is no product, what stands behind it, and what takes that apart.
-const struct CommandWord
+const struct RequestWord
 {
     QLatin1StringView word;
     Request (*parse)(ArgumentReader &reader);
     QLatin1StringView usage;
-} commandWords[] = {
+} requestWords[] = {
     {"again"_L1, &parseAgain, "PERSONALITY [--verify]"_L1},
     {"entry"_L1, &parseEntry, "NAME [--catalogue FILE] -op PERSONALITY"_L1},
     {"check"_L1, &parseCheck,
@@ -129,7 +129,7 @@ QString usage()
         u"usage: Bexlor.exe kov|kovpp cmp|ccmp COMMAND OUTPUT-FLAG OBJECT-FLAG DEFINE-FLAG "
         "OBJECT-EXTENSION ORDER {-i DIRECTORY} -op PERSONALITY [-xd DEFINES] [-xs SWITCHES] "
         "[-tpl FILE] [-fi FILE] [-sub DIRECTORY] [-rfs] [-check]"_s;
-    for (const CommandWord &row : commandWords)
+    for (const RequestWord &row : requestWords)
         lines += "\n       "_L1 + u"Bexlor.exe %1 %2"_s.arg(row.word, row.usage).trimmed();
     return lines;
 }
@@ -179,7 +179,7 @@ needs, or what was to be verified has changed.)");
 Request parseRequest(const QStringList &list)
 {
     ArgumentReader reader(list);
-    for (const CommandWord &row : commandWords) {
+    for (const RequestWord &row : requestWords) {
         if (reader.flag(row.word))
             return row.parse(reader);
     }

@@ -30,8 +30,6 @@ public:
     QList<ProbeAnswer> askAll(const QList<QByteArray> &sources) const;
     /// Takes \a answer for a malfunction, unless there is one already. Returns it.
     ProbeAnswer fail(const ProbeAnswer &answer) const;
-    /// The answer that could not be understood, which all later ones repeat.
-    const std::optional<ProbeAnswer> &malfunction() const { return m_malfunction; }
 
     /// The command that ask() runs.
     QStringList command(CompileTo goal = CompileTo::Object) const;
@@ -55,6 +53,7 @@ private:
     ProbeLimits m_limits;
     Controls m_controls;
     bool m_knowsControls = false;
+    /// The answer that could not be understood, which all later ones repeat.
     mutable std::optional<ProbeAnswer> m_malfunction;
     mutable int m_mended = 0; ///< answers that were right when asked for again
     mutable std::atomic<int> m_started = 0;

@@ -112,9 +112,9 @@ QStringList undefinedKeywords(const Personality &personality)
         const bool makesRoom = option.first().startsWith("-U"); // for a definition behind it
         if (makesRoom || std::any_of(forHeaders.begin(), forHeaders.end(), isNamed))
             continue;
-        options << QString::fromUtf8("-U" + name);
+        options << QString::fromUtf8(undefiningOption(name));
         if (const Macro *macro = findMacro(personality.facts.macros, name))
-            options << QString::fromUtf8("-D" + name + '=' + macro->value);
+            options << QString::fromUtf8(definingOption(*macro));
     }
     return options;
 }

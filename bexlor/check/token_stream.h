@@ -8,8 +8,8 @@
 struct PreprocessedSource
 {
     QByteArray text;
-    /// Folders with headers that belong to one compiler and that another has its own of. What
-    /// comes from there is passed over.
+    /// Folders with headers such as <immintrin.h>, which each compiler has in a form of its own.
+    /// What comes from there is passed over.
     QStringList ownHeaders;
     /// What the markers say to be of system headers is passed over, too.
     bool passesSystemHeaders = false;

@@ -52,6 +52,14 @@ QList<QByteArray> changedOptions(const MacroFacts &before, const MacroFacts &aft
 /// The macros that clang defines even under -undef.
 QList<QByteArray> macrosOfClang();
 
+/// The option that defines \a macro, and the one that takes the macro \a name back.
+QByteArray definingOption(const Macro &macro);
+QByteArray undefiningOption(const QByteArray &name);
+
+/// The words by which clang and its tools take the personality \a path. Two words, and a whole
+/// path: anything else is looked for in clang's own folder.
+QStringList personalityOption(const QString &path);
+
 /// Whether clang can be told the definition of \a macro in a file of options.
 bool canBeDefined(const Macro &macro);
 

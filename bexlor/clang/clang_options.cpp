@@ -137,9 +137,10 @@ QList<QByteArray> typeOptions(const Facts &facts, const QByteArray &target)
         options << "-funsigned-char";
     else if (types.charIsUnsigned)
         options << "-fsigned-char";
-    if (types.smallEnumSize != 0 && types.smallEnumSize < sizeOf(types, "int"))
+    const int intSize = sizeOf(types, "int");
+    if (types.smallEnumSize != 0 && types.smallEnumSize < intSize)
         options << "-fshort-enums";
-    else if (types.smallEnumSize != 0 && target.startsWith("hexagon-"))
+    else if (types.smallEnumSize != 0 && typesOfTarget(target, {}).smallEnumSize == 1)
         options << "-fno-short-enums";
     if (types.wideCharacterType == "unsigned short")
         options << "-fshort-wchar";
@@ -277,6 +278,21 @@ QList<QByteArray> changedOptions(const MacroFacts &before, const MacroFacts &aft
 QList<QByteArray> macrosOfClang()
 {
     return alwaysDefined;
+}
+
+QByteArray definingOption(const Macro &macro)
+{
+    return "-D" + macro.name + '=' + macro.value;
+}
+
+QByteArray undefiningOption(const QByteArray &name)
+{
+    return "-U" + name;
+}
+
+QStringList personalityOption(const QString &path)
+{
+    return {u"--config"_s, path};
 }
 
 bool canBeDefined(const Macro &macro)

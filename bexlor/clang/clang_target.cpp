@@ -217,9 +217,8 @@ TypeFacts differingTypes(const TypeFacts &types, const TypeFacts &ofClang)
     compare(&TypeFacts::byteOrder);
     compare(&TypeFacts::smallEnumSize);
     compare(&TypeFacts::bitFieldSize);
-    compare(&TypeFacts::sizeType);
-    compare(&TypeFacts::pointerDifferenceType);
-    compare(&TypeFacts::wideCharacterType);
+    for (const NamedType &row : namedTypes)
+        compare(row.type);
     return differing;
 }
 

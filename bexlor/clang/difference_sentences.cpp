@@ -24,17 +24,6 @@ QString nameOf(ByteOrder order)
     return order == ByteOrder::LittleEndian ? u"little-endian"_s : u"big-endian"_s;
 }
 
-// What standard names stand for.
-const struct
-{
-    QLatin1StringView name;
-    QByteArray TypeFacts::*type;
-} namedTypes[] = {
-    {"size_t"_L1, &TypeFacts::sizeType},
-    {"ptrdiff_t"_L1, &TypeFacts::pointerDifferenceType},
-    {"wchar_t"_L1, &TypeFacts::wideCharacterType},
-};
-
 } // namespace
 
 QStringList differenceSentences(const TypeFacts &types, const TypeFacts &ofClang)
@@ -56,10 +45,11 @@ QStringList differenceSentences(const TypeFacts &types, const TypeFacts &ofClang
         sentences << u"For clang integers are %1, for the compiler %2."_s.arg(
             nameOf(ofClang.byteOrder), nameOf(types.byteOrder));
     }
-    for (const auto &row : namedTypes) {
+    for (const NamedType &row : namedTypes) {
         if (!(ofClang.*row.type).isEmpty()) {
             sentences << u"For clang %1 is %2, for the compiler %3."_s.arg(
-                row.name, QString::fromUtf8(ofClang.*row.type), QString::fromUtf8(types.*row.type));
+                QLatin1StringView(row.name), QString::fromUtf8(ofClang.*row.type),
+                QString::fromUtf8(types.*row.type));
         }
     }
     return sentences;

@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const int patience = 60'000; // milliseconds
+const int timeLimit = 60'000; // milliseconds
 
 /// The options of \a command, see CompileCommand::compilingWords(), each with the words behind it
 /// that are no options. A file that it has included first is named as clang has it.
@@ -70,7 +70,7 @@ bool AcceptedOptions::isTaken(const QStringList &option, const QString &director
     const QStringList arguments =
         QStringList {u"-fsyntax-only"_s, u"-Werror"_s} + option + QStringList {m_source};
     return m_known[asked] =
-               runClang(m_clang, m_personality, arguments, directory, patience).succeeded();
+               runClang(m_clang, m_personality, arguments, directory, timeLimit).succeeded();
 }
 
 QStringList AcceptedOptions::of(const CompileCommand &command)

@@ -1,5 +1,6 @@
 #include "clang_program.h"
 
+#include "clang.h"
 #include "program_search.h"
 #include "text_file.h"
 
@@ -10,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const int patience = 30'000; // milliseconds
+const int answerTimeLimit = 30'000; // milliseconds
 
 } // namespace
 
@@ -21,16 +22,17 @@ std::optional<Clang> findClang(const QString &word)
         return {};
     clang.program = QFileInfo(clang.program).absoluteFilePath();
     const platform::ProgramRun run =
-        platform::runProgram({clang.program, u"--version"_s}, QDir::tempPath(), patience);
+        platform::runProgram({clang.program, u"--version"_s}, QDir::tempPath(), answerTimeLimit);
     static const QRegularExpression version(u"clang version (\\d+)"_s);
     const QRegularExpressionMatch found = version.match(platform::decodedText(run.output));
     if (!run.succeeded() || !found.hasMatch())
         return {};
     clang.version = "clang "_L1 + found.captured(1);
-    const QByteArray folder =
-        platform::runProgram({clang.program, u"-print-resource-dir"_s}, QDir::tempPath(), patience)
-            .output.trimmed();
-    clang.headers = QDir::cleanPath(platform::decodedText(folder) + "/include"_L1);
+    const platform::ProgramRun folder = platform::runProgram(
+        {clang.program, u"-print-resource-dir"_s}, QDir::tempPath(), answerTimeLimit);
+    if (!folder.succeeded())
+        return {};
+    clang.headers = QDir::cleanPath(platform::decodedText(folder.output.trimmed()) + "/include"_L1);
     return clang;
 }
 
@@ -38,7 +40,7 @@ platform::ProgramRun runClang(const Clang &clang, const QString &personality,
                               const QStringList &arguments, const QString &directory, int timeLimit,
                               qsizetype outputLimit)
 {
-    // Two words, and a whole path: anything else is looked for in clang's own folder.
-    const QStringList start {clang.program, u"--config"_s, personality};
-    return platform::runProgram(start + arguments, directory, timeLimit, outputLimit);
+    const QStringList command {clang.program};
+    return platform::runProgram(command + personalityOption(personality) + arguments, directory,
+                                timeLimit, outputLimit);
 }

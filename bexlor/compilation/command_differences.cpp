@@ -18,8 +18,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const int patience = 30'000; // milliseconds
-
 /// How many words, from \a index on, change no predefined macro: 0, 1 or 2. These are about
 /// headers, messages, and what is made.
 qsizetype wordsWithoutEffect(const QStringList &words, qsizetype index, const QString &objectFlag)
@@ -141,9 +139,9 @@ QStringList optionsFor(const MacroDifference &difference)
     QStringList options;
     // Else clang would warn of the second definition.
     if (difference.before)
-        options << QString::fromUtf8("-U" + difference.name);
+        options << QString::fromUtf8(undefiningOption(difference.name));
     if (const auto &macro = difference.after)
-        options << QString::fromUtf8("-D" + macro->name + '=' + macro->value);
+        options << QString::fromUtf8(definingOption(*macro));
     return options;
 }
 
@@ -193,14 +191,12 @@ QList<Macro> CommandDifferences::macrosUnder(const QStringList &command)
 {
     const QFileInfo source(m_source);
     const RunCommand run = [this, &source](const QStringList &question) {
-        const platform::ProgramRun answer = platform::runProgram(question, source.path(), patience);
+        const platform::ProgramRun answer =
+            platform::runProgram(question, source.path(), listingTimeLimit);
         m_isTooSlow |= answer.ending == platform::ProgramRun::TimedOut;
         return answer;
     };
-    DialectAnswers known;
-    known.searchPath = SearchPath();
-    known.versionLine = "not asked for";
-    return askInDialects(run, command, source.fileName(), known).macros;
+    return askForMacros(run, command, source.fileName());
 }
 
 bool CommandDifferences::isLikeOwn(const QStringList &program)

@@ -15,32 +15,12 @@ namespace {
 
 using platform::ProgramRun;
 
+/// What is asked for; of each topic the first answer counts.
 enum class Topic { Macros, SearchPath, Version };
 
-/// A question that compilers of some family understand. How one about the search path is answered:
-/// with directories behind a heading; without one, with the folder of cc65's target systems.
-struct DialectQuestion
-{
-    Topic topic;
-    QStringList options;
-    bool takesSource;
-    bool isAskedAlone; ///< without the other options of the command
-    QByteArray heading;
-};
-
-const QByteArray gnuHeading = "#include <...> search starts here:";
-const QByteArray headingForQuotedNames = "#include \"...\" search starts here:";
-
-const DialectQuestion questions[] = {
-    {Topic::Macros, {u"-dM"_s, u"-E"_s}, true, false, {}},
-    // The GNU compilers and clang; sdcc, whose preprocessor is a GNU one; tcc; sdcc again; cc65.
-    {Topic::SearchPath, {u"-v"_s, u"-E"_s}, true, false, gnuHeading},
-    {Topic::SearchPath, {u"-Wp-v"_s, u"-E"_s}, true, false, gnuHeading},
-    {Topic::SearchPath, {u"-print-search-dirs"_s}, false, true, "include:"},
-    {Topic::SearchPath, {u"--print-search-dirs"_s}, false, false, "includedir:"},
-    {Topic::SearchPath, {u"--print-target-path"_s}, false, false, {}},
-    {Topic::Version, {u"--version"_s}, false, false, {}},
-};
+/// Takes what \a answer to \a command tells over to \a answers, if it does.
+using Reader = void (*)(const ProgramRun &answer, const QStringList &command,
+                        DialectAnswers &answers);
 
 bool isAnswered(Topic topic, const DialectAnswers &answers)
 {
@@ -53,13 +33,6 @@ bool isAnswered(Topic topic, const DialectAnswers &answers)
         break;
     }
     return !answers.versionLine.isEmpty();
-}
-
-/// The folder of headers beside that of cc65's target systems, \a targets.
-QStringList directoryBeside(const QByteArray &targets)
-{
-    const QString headers = platform::decodedText(targets.trimmed()) + "/../include"_L1;
-    return QDir(headers).exists() ? QStringList {QDir(headers).canonicalPath()} : QStringList();
 }
 
 /// The directories behind \a option in \a command, where its first parentheses match nothing in the
@@ -79,21 +52,30 @@ QStringList directoriesNamedBy(const QRegularExpression &option, const QStringLi
     return directories;
 }
 
-std::optional<SearchPath> searchPathIn(const ProgramRun &answer, const DialectQuestion &question,
-                                       const QStringList &command)
+void readMacros(const ProgramRun &answer, const QStringList & /*command*/, DialectAnswers &answers)
 {
-    if (question.takesSource) {
-        // Clang leaves a heading out that nothing stands behind.
-        if (!answer.errors.contains(question.heading)
-            && !answer.errors.contains(headingForQuotedNames))
-            return {};
-        return SearchPath {directoriesBehind(question.heading, answer.errors),
-                           directoriesBehind(headingForQuotedNames, answer.errors)};
+    answers.macros = macrosIn(answer.output);
+    answers.macros.removeIf(
+        [](const Macro &macro) { return isBuiltIntoThePreprocessor(macro.name); });
+}
+
+/// What the preprocessors of the GNU compilers and clang print among their messages.
+void readGnuSearchPath(const ProgramRun &answer, const QStringList & /*command*/,
+                       DialectAnswers &answers)
+{
+    const QByteArray heading = "#include <...> search starts here:";
+    const QByteArray headingForQuotedNames = "#include \"...\" search starts here:";
+    // Clang leaves a heading out that nothing stands behind.
+    if (answer.errors.contains(heading) || answer.errors.contains(headingForQuotedNames)) {
+        answers.searchPath = {directoriesBehind(heading, answer.errors),
+                              directoriesBehind(headingForQuotedNames, answer.errors)};
     }
-    // These are the compiler's own, whatever options of the command add or take away.
-    QStringList own = question.heading.isEmpty()
-                        ? directoryBeside(answer.output)
-                        : directoriesBehind(question.heading, answer.output);
+}
+
+/// The search path of one who names only \a own directories, whatever options of \a command add or
+/// take away.
+std::optional<SearchPath> searchPathWith(QStringList own, const QStringList &command)
+{
     if (own.isEmpty())
         return {};
     if (command.contains(u"-nostdinc"_s))
@@ -105,6 +87,51 @@ std::optional<SearchPath> searchPathIn(const ProgramRun &answer, const DialectQu
     return SearchPath {directories, {}};
 }
 
+void readTccSearchPath(const ProgramRun &answer, const QStringList &command,
+                       DialectAnswers &answers)
+{
+    answers.searchPath = searchPathWith(directoriesBehind("include:", answer.output), command);
+}
+
+void readSdccSearchPath(const ProgramRun &answer, const QStringList &command,
+                        DialectAnswers &answers)
+{
+    answers.searchPath = searchPathWith(directoriesBehind("includedir:", answer.output), command);
+}
+
+/// cc65 has its headers beside the folder of its target systems, which it tells.
+void readCc65SearchPath(const ProgramRun &answer, const QStringList &command,
+                        DialectAnswers &answers)
+{
+    const QDir headers(platform::decodedText(answer.output.trimmed()) + "/../include"_L1);
+    if (headers.exists())
+        answers.searchPath = searchPathWith({headers.canonicalPath()}, command);
+}
+
+void readVersion(const ProgramRun &answer, const QStringList & /*command*/, DialectAnswers &answers)
+{
+    answers.versionLine = versionLineIn(answer.output + '\n' + answer.errors);
+}
+
+/// A question that compilers of some family understand, and what reads their answer.
+const struct DialectQuestion
+{
+    Topic topic;
+    QStringList options;
+    Reader read;
+    bool takesSource;
+    bool isAskedAlone = false; ///< without the other options of the command
+} questions[] = {
+    {Topic::Macros, {u"-dM"_s, u"-E"_s}, &readMacros, true},
+    // The GNU compilers and clang; sdcc, whose preprocessor is a GNU one; tcc; sdcc again; cc65.
+    {Topic::SearchPath, {u"-v"_s, u"-E"_s}, &readGnuSearchPath, true},
+    {Topic::SearchPath, {u"-Wp-v"_s, u"-E"_s}, &readGnuSearchPath, true},
+    {Topic::SearchPath, {u"-print-search-dirs"_s}, &readTccSearchPath, false, true},
+    {Topic::SearchPath, {u"--print-search-dirs"_s}, &readSdccSearchPath, false},
+    {Topic::SearchPath, {u"--print-target-path"_s}, &readCc65SearchPath, false},
+    {Topic::Version, {u"--version"_s}, &readVersion, false},
+};
+
 /// The answer to \a words. One who fails is asked once more: that may have been a disturbance, and
 /// what is not listed is learned less completely.
 ProgramRun askUntilAnswered(const RunCommand &run, const QStringList &words)
@@ -113,22 +140,17 @@ ProgramRun askUntilAnswered(const RunCommand &run, const QStringList &words)
     return answer.succeeded() || answer.ending == ProgramRun::TimedOut ? answer : run(words);
 }
 
-void read(const ProgramRun &answer, const DialectQuestion &question, const QStringList &command,
-          DialectAnswers &answers)
+/// Asks \a question of the compiler that \a command starts, and reads what it answers.
+void ask(const DialectQuestion &question, const RunCommand &run, const QStringList &command,
+         const QString &source, DialectAnswers &answers)
 {
-    switch (question.topic) {
-    case Topic::Macros:
-        answers.macros = macrosIn(answer.output);
-        answers.macros.removeIf(
-            [](const Macro &macro) { return isBuiltIntoThePreprocessor(macro.name); });
-        break;
-    case Topic::SearchPath:
-        answers.searchPath = searchPathIn(answer, question, command);
-        break;
-    case Topic::Version:
-        answers.versionLine = versionLineIn(answer.output + '\n' + answer.errors);
-        break;
-    }
+    QStringList words = question.isAskedAlone ? command.first(1) : command;
+    words << question.options;
+    if (question.takesSource)
+        words << source;
+    const ProgramRun answer = askUntilAnswered(run, words);
+    if (answer.succeeded() || question.topic == Topic::Version)
+        question.read(answer, command, answers);
 }
 
 /// The macro of a \a definition, "NAME VALUE" or "NAME(PARAMETERS) VALUE".
@@ -152,17 +174,20 @@ DialectAnswers askInDialects(const RunCommand &run, const QStringList &command,
 {
     DialectAnswers answers = known;
     for (const DialectQuestion &question : questions) {
-        if (isAnswered(question.topic, answers))
-            continue;
-        QStringList words = question.isAskedAlone ? command.first(1) : command;
-        words << question.options;
-        if (question.takesSource)
-            words << source;
-        const ProgramRun answer = askUntilAnswered(run, words);
-        if (answer.succeeded() || question.topic == Topic::Version)
-            read(answer, question, command, answers);
+        if (!isAnswered(question.topic, answers))
+            ask(question, run, command, source, answers);
     }
     return answers;
+}
+
+QList<Macro> askForMacros(const RunCommand &run, const QStringList &command, const QString &source)
+{
+    DialectAnswers answers;
+    for (const DialectQuestion &question : questions) {
+        if (question.topic == Topic::Macros && answers.macros.isEmpty())
+            ask(question, run, command, source, answers);
+    }
+    return answers.macros;
 }
 
 QStringList includeDirectories(const QStringList &command)

@@ -8,6 +8,9 @@
 /// Runs \a command, a program and its arguments.
 using RunCommand = std::function<platform::ProgramRun(const QStringList &command)>;
 
+/// What a compiler is given for one such question, in milliseconds.
+constexpr int listingTimeLimit = 30'000;
+
 /// What a compiler lists of itself; empty where it lists nothing. A search path without directories
 /// is an answer, too: options can have a compiler search nowhere.
 struct DialectAnswers
@@ -22,6 +25,9 @@ struct DialectAnswers
 /// \a source is an empty source file.
 DialectAnswers askInDialects(const RunCommand &run, const QStringList &command,
                              const QString &source, const DialectAnswers &known = {});
+
+/// The macros alone, asked for in the same ways.
+QList<Macro> askForMacros(const RunCommand &run, const QStringList &command, const QString &source);
 
 /// The directories that \a command names behind -I, as Microsoft's compiler also /I, or behind the
 /// long names of cc65 and the GNU compilers, in one word with it or in the next; links in them are

@@ -1,5 +1,7 @@
 #include "clang_forms.h"
 
+#include "clang.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -20,7 +22,7 @@ QByteArray compileCommands(const QList<CompileCommand> &commands, const QString 
 {
     QList<CompileCommand> translated = commands;
     for (CompileCommand &command : translated) {
-        command.words = QStringList {clang, u"--config"_s, personality} + forClang.of(command);
+        command.words = QStringList {clang} + personalityOption(personality) + forClang.of(command);
         command.words << command.file;
     }
     return databaseText(translated);
@@ -29,8 +31,8 @@ QByteArray compileCommands(const QList<CompileCommand> &commands, const QString 
 QByteArray clangdConfiguration(const QString &personality, const QStringList &refused)
 {
     // Of a compiler that is called otherwise, clangd would take a target from the name.
-    QByteArray text =
-        "CompileFlags:\n  Compiler: clang\n  Add: " + yamlList({u"--config"_s, personality}) + '\n';
+    QByteArray text = "CompileFlags:\n  Compiler: clang\n  Add: "
+                    + yamlList(personalityOption(personality)) + '\n';
     if (!refused.isEmpty())
         text += "  Remove: " + yamlList(refused) + '\n';
     return text;

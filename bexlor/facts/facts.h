@@ -38,13 +38,25 @@ enum class ByteOrder { Unknown, LittleEndian, BigEndian };
 struct TypeFacts
 {
     QList<Type> basic;
-    QByteArray sizeType, pointerDifferenceType, wideCharacterType; ///< names of basic types
+    QByteArray sizeType, pointerDifferenceType, wideCharacterType; ///< names of integer types
     std::optional<bool> charIsUnsigned;
     int smallEnumSize = 0; ///< of an enumeration with small values, in bytes
     int bitFieldSize = 0;  ///< of a structure of a char and a bit-field of int, in bytes
     ByteOrder byteOrder = ByteOrder::Unknown;
 
     bool operator==(const TypeFacts &) const = default;
+};
+
+/// What the standard headers call an integer type, and the fact which one that is.
+struct NamedType
+{
+    const char *name;
+    QByteArray TypeFacts::*type;
+};
+inline constexpr NamedType namedTypes[] = {
+    {"size_t", &TypeFacts::sizeType},
+    {"ptrdiff_t", &TypeFacts::pointerDifferenceType},
+    {"wchar_t", &TypeFacts::wideCharacterType}, // in C++ a type of its own, like that one
 };
 
 /// A name that cannot be declared: an extension keyword or a type that the compiler brings along.

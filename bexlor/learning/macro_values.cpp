@@ -1,5 +1,6 @@
 #include "macro_values.h"
 
+#include "integer_types.h"
 #include "probe_line.h"
 #include "redefinitions.h"
 
@@ -31,25 +32,6 @@ struct IntegerSizes
 {
     int ofInt;
     int ofLong;
-};
-
-// The names of the integer types as compilers write them in their macros, the usual one first.
-const struct
-{
-    QByteArray name;
-    QList<QByteArray> spellings;
-} namedTypes[] = {
-    {"signed char", {"signed char"}},
-    {"unsigned char", {"unsigned char"}},
-    {"short", {"short int", "short"}},
-    {"unsigned short", {"short unsigned int", "unsigned short", "unsigned short int"}},
-    {"int", {"int"}},
-    {"unsigned int", {"unsigned int", "unsigned"}},
-    {"long", {"long int", "long"}},
-    {"unsigned long", {"long unsigned int", "unsigned long", "unsigned long int"}},
-    {"long long", {"long long int", "long long"}},
-    {"unsigned long long", {"long long unsigned int", "unsigned long long"}},
-    {"char", {"char"}},
 };
 
 // What brings each 16 bits of a value to its end, by no shift that is as wide as the least int.
@@ -192,8 +174,8 @@ QList<OpenMacro> typesAmong(const Questions &questions, const QList<QByteArray> 
 {
     QList<QByteArray> declarations;
     for (const QByteArray &name : names) {
-        for (const auto &type : namedTypes) {
-            declarations << probeLine("extern @ %; extern " + QByteArray(type.name) + " %;\n", name,
+        for (const IntegerType &type : integerTypes()) {
+            declarations << probeLine("extern @ %; extern " + type.name + " %;\n", name,
                                       declarations.size());
         }
     }
@@ -203,7 +185,7 @@ QList<OpenMacro> typesAmong(const Questions &questions, const QList<QByteArray> 
     QList<OpenMacro> open;
     auto same = isSame.begin();
     for (const QByteArray &name : names) {
-        const auto end = same + std::size(namedTypes);
+        const auto end = same + integerTypes().size();
         const qsizetype index = std::find(same, end, true) - same;
         const bool isOne = std::count(same, end, true) == 1;
         same = end;
@@ -211,8 +193,8 @@ QList<OpenMacro> typesAmong(const Questions &questions, const QList<QByteArray> 
             rest << name;
             continue;
         }
-        OpenMacro macro {name, {}, Macro {name, namedTypes[index].spellings.first()}};
-        for (const QByteArray &spelling : namedTypes[index].spellings)
+        OpenMacro macro {name, {}, Macro {name, integerTypes()[index].spellings.first()}};
+        for (const QByteArray &spelling : integerTypes()[index].spellings)
             macro.definitions.append({name, spelling});
         open << macro;
     }

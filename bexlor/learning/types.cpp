@@ -1,5 +1,6 @@
 #include "learning.h"
 
+#include "integer_types.h"
 #include "probe_line.h"
 
 namespace {
@@ -7,9 +8,13 @@ namespace {
 const QList<QByteArray> basicTypes {"char",  "short",  "int",         "long",   "long long",
                                     "float", "double", "long double", "void *", "void (*)(void)"};
 
-const QList<QByteArray> integerTypes {
-    "signed char", "unsigned char", "short",     "unsigned short",     "int", "unsigned int",
-    "long",        "unsigned long", "long long", "unsigned long long", "char"};
+QList<QByteArray> namesOfIntegerTypes()
+{
+    QList<QByteArray> names;
+    for (const IntegerType &type : integerTypes())
+        names << type.name;
+    return names;
+}
 
 /// A member of type \a type and the given name.
 QByteArray declared(const QByteArray &type, const QByteArray &name)
@@ -62,15 +67,16 @@ QByteArray onlyPartner(qsizetype index, const QList<std::pair<qsizetype, QByteAr
 QList<QByteArray> typesBehind(const Questions &questions, const QList<QByteArray> &names,
                               const QList<Shape> &shapes, const QList<Shape> &shapesOfTypes)
 {
+    const QList<QByteArray> integers = namesOfIntegerTypes();
     QList<std::pair<qsizetype, QByteArray>> pairs; // name and type
     QList<QByteArray> declarations;
     for (qsizetype name = 0; name < names.size(); ++name) {
-        for (qsizetype type = 0; type < integerTypes.size(); ++type) {
+        for (qsizetype type = 0; type < integers.size(); ++type) {
             if (!areAlike(shapes[name], shapesOfTypes[type]))
                 continue;
-            declarations << probeLine("extern @ %; extern " + integerTypes[type] + " %;\n",
-                                      names[name], pairs.size());
-            pairs << std::pair(name, integerTypes[type]);
+            declarations << probeLine("extern @ %; extern " + integers[type] + " %;\n", names[name],
+                                      pairs.size());
+            pairs << std::pair(name, integers[type]);
         }
     }
     if (questions.rejects(ErrorKind::ConflictingDeclaration))
@@ -85,17 +91,19 @@ QList<QByteArray> typesBehind(const Questions &questions, const QList<QByteArray
 /// C++ wchar_t is a type of its own.
 void learnNamedTypes(const Questions &questions, const QList<Shape> &shapes, TypeFacts &types)
 {
-    QList<QByteArray> names {"size_t", "ptrdiff_t"};
-    if (!questions.isCpp())
-        names << "wchar_t";
+    QList<NamedType> named(std::begin(namedTypes), std::end(namedTypes));
+    if (questions.isCpp())
+        named.removeIf(
+            [](const NamedType &row) { return row.type == &TypeFacts::wideCharacterType; });
+    QList<QByteArray> names;
+    for (const NamedType &row : named)
+        names << row.name;
     const QList<QByteArray> behind =
         typesBehind(questions, names, shapesOf(questions, "#include <stddef.h>\n", names), shapes);
-    types.sizeType = behind[0];
-    types.pointerDifferenceType = behind[1];
-    if (!questions.isCpp()) {
-        types.wideCharacterType = behind[2];
+    for (qsizetype i = 0; i < named.size(); ++i)
+        types.*named[i].type = behind[i];
+    if (!questions.isCpp())
         return;
-    }
     const Shape wide = shapesOf(questions, {}, {"wchar_t"}).first();
     if (wide.size && wide.isUnsigned)
         types.wideCharacterType = typeLike(types, *wide.size, false, *wide.isUnsigned);
@@ -129,7 +137,7 @@ ByteOrder byteOrder(const Questions &questions)
 /// both.
 std::optional<bool> charIsUnsigned(const Questions &questions, const QList<Shape> &shapes)
 {
-    if (const auto isUnsigned = shapes[integerTypes.indexOf("char")].isUnsigned)
+    if (const auto isUnsigned = shapes[namesOfIntegerTypes().indexOf("char")].isUnsigned)
         return isUnsigned;
     if (!questions.rejects(ErrorKind::ConflictingDeclaration))
         return {};
@@ -217,7 +225,7 @@ TypeFacts learnTypes(const Questions &questions)
 {
     TypeFacts types;
     measureTypes(questions, types);
-    const QList<Shape> shapes = shapesOf(questions, {}, integerTypes);
+    const QList<Shape> shapes = shapesOf(questions, {}, namesOfIntegerTypes());
     types.charIsUnsigned = charIsUnsigned(questions, shapes);
     types.smallEnumSize =
         questions.numbers("enum calyx_enum { CALYX_A };\n", {"sizeof(enum calyx_enum)"})

@@ -116,13 +116,13 @@ Personality composePersonality(const Arguments &arguments, const Facts &facts,
     for (const QByteArray &option : language.options)
         personality.language << option.split(' ');
     for (const Macro &macro : language.redefinitions)
-        personality.keywordDefinitions.append({"-U" + macro.name});
+        personality.keywordDefinitions.append({undefiningOption(macro.name)});
     const QList<Macro> forKeywords = keywordDefinitions(facts) + language.redefinitions;
     for (const Macro &macro : forKeywords)
-        personality.keywordDefinitions.append({"-D" + macro.name + '=' + macro.value});
+        personality.keywordDefinitions.append({definingOption(macro)});
     // Else clang would warn of them in every file.
     for (const Macro &macro : overridden(macros.known + forKeywords, templateText))
-        personality.keywordDefinitions.append({"-U" + bareName(macro.name)});
+        personality.keywordDefinitions.append({undefiningOption(bareName(macro.name))});
     personality.searchPath = searchOptions(arguments, facts, parts.includeDirectories);
     if (!arguments.forceIncludeFile.isEmpty())
         personality.includedFirst << pathOption("-include", arguments.forceIncludeFile);

@@ -117,19 +117,33 @@ void read(const QByteArray &text, Type &type)
     read(parts.value(2).split(' ').last(), type.alignment);
 }
 
-const char *const keywordForms[] = {"undetermined",
-                                    "qualifier",
-                                    "qualifier-with-argument",
-                                    "type",
-                                    "qualifier-with-bare-argument",
-                                    "assembler-until",
-                                    "ordinary-name"};
+const struct KeywordForm
+{
+    Keyword::Form form;
+    const char *word;
+} keywordForms[] = {
+    {Keyword::Undetermined, "undetermined"},
+    {Keyword::Qualifier, "qualifier"},
+    {Keyword::QualifierWithArgument, "qualifier-with-argument"},
+    {Keyword::TypeName, "type"},
+    {Keyword::QualifierWithBareArgument, "qualifier-with-bare-argument"},
+    {Keyword::AssemblerBlock, "assembler-until"},
+    {Keyword::OrdinaryName, "ordinary-name"},
+};
+
+const char *wordOf(Keyword::Form form)
+{
+    return std::find_if(std::begin(keywordForms), std::end(keywordForms),
+                        [form](const KeywordForm &row) { return row.form == form; })
+        ->word;
+}
+
 const QByteArray noStandIn = "unknown";
 
 /// For example "__sfr type unsigned char".
 QByteArray written(const Keyword &keyword)
 {
-    const QByteArray text = keyword.name + ' ' + keywordForms[keyword.form];
+    const QByteArray text = keyword.name + ' ' + wordOf(keyword.form);
     if (keyword.form != Keyword::TypeName && keyword.standIn.isEmpty())
         return text;
     return text + ' ' + (keyword.standIn.isEmpty() ? noStandIn : keyword.standIn);
@@ -138,11 +152,13 @@ QByteArray written(const Keyword &keyword)
 void read(const QByteArray &text, Keyword &keyword)
 {
     const QList<QByteArray> words = text.split(' ');
-    const auto form = std::find(std::begin(keywordForms), std::end(keywordForms), words.value(1));
+    const auto *form =
+        std::find_if(std::begin(keywordForms), std::end(keywordForms),
+                     [&words](const KeywordForm &row) { return words.value(1) == row.word; });
     const QByteArray standIn = words.mid(2).join(' ');
     keyword.name = words.first();
     if (form != std::end(keywordForms))
-        keyword.form = Keyword::Form(form - keywordForms);
+        keyword.form = form->form;
     if (standIn != noStandIn)
         keyword.standIn = standIn;
 }
@@ -232,9 +248,10 @@ QJsonValue asJson(const Type &type)
 
 QJsonValue asJson(const Keyword &keyword)
 {
+    const bool isBlock = keyword.form == Keyword::AssemblerBlock;
     return QJsonObject {{"name"_L1, QString::fromUtf8(keyword.name)},
-                        {"form"_L1, QLatin1StringView(keywordForms[keyword.form])},
-                        {"type"_L1, QString::fromUtf8(keyword.standIn)}};
+                        {"form"_L1, QLatin1StringView(wordOf(keyword.form))},
+                        {isBlock ? "end"_L1 : "type"_L1, QString::fromUtf8(keyword.standIn)}};
 }
 
 QJsonValue asJson(const CommandLine &line)
@@ -279,9 +296,8 @@ void visitTypes(Visitor &visitor, Types &types, const QByteArray &prefix)
     visitor.one(prefix + "byte-order", types.byteOrder);
     visitor.one(prefix + "small-enum", types.smallEnumSize);
     visitor.one(prefix + "bit-field", types.bitFieldSize);
-    visitor.one(prefix + "size_t", types.sizeType);
-    visitor.one(prefix + "ptrdiff_t", types.pointerDifferenceType);
-    visitor.one(prefix + "wchar_t", types.wideCharacterType);
+    for (const NamedType &row : namedTypes)
+        visitor.one(prefix + row.name, types.*row.type);
 }
 
 /// Takes \a visitor, which writes, reads or collects, through the facts that no option carries.
@@ -332,9 +348,9 @@ QList<Option> optionsOf(const Section &section, const Personality &personality)
     // From version 19 on, clang warns of every macro of its own that is taken back.
     QList<Option> options {{"-undef"}, {"-Wno-builtin-macro-redefined"}};
     for (const QByteArray &name : macrosOfClang())
-        options.append({"-U" + name});
+        options.append({undefiningOption(name)});
     for (const Macro &macro : personality.facts.macros.known)
-        options.append({"-D" + macro.name + '=' + macro.value});
+        options.append({definingOption(macro)});
     return options;
 }
 

@@ -2,6 +2,7 @@
 
 #include "clang_forms.h"
 #include "command_line.h"
+#include "console.h"
 #include "fact_forms.h"
 #include "file_names.h"
 #include "refusal.h"
@@ -22,7 +23,10 @@ ExitStatus write(Progress &progress, const QString &file, const QByteArray &cont
         // As it is: another encoding than that of the file would be no JSON.
         const auto size = std::size_t(content.size());
         const bool isWritten = std::fwrite(content.constData(), 1, size, stdout) == size;
-        return std::fflush(stdout) == 0 && isWritten ? ExitStatus::Done : ExitStatus::Failed;
+        if (std::fflush(stdout) == 0 && isWritten)
+            return ExitStatus::Done;
+        platform::print(stderr, u"The standard output cannot be written.\n"_s);
+        return ExitStatus::Failed;
     }
     if (!platform::writeFile(file, content)) {
         progress.say(notWritten(u"file"_s, file));
@@ -67,6 +71,11 @@ ExitStatus writeForClang(Progress &progress, const ExportRequest &request,
                          const Arguments &arguments, const Personality &content,
                          const QString &folder)
 {
+    // The answers may be somebody else's, and have options for what is started.
+    if (const QString reason = refusalReason(arguments); !reason.isEmpty()) {
+        progress.say(reason);
+        return ExitStatus::Missing;
+    }
     const std::optional<Project> project = projectOf(progress, request, arguments);
     if (!project)
         return ExitStatus::Missing;
@@ -75,11 +84,6 @@ ExitStatus writeForClang(Progress &progress, const ExportRequest &request,
         return ExitStatus::Failed;
     AcceptedOptions accepted(project->clang, request.personality, *source);
     if (request.format == ExportRequest::CompileCommands) {
-        // The answers may be somebody else's, and have options for what is started.
-        if (const QString reason = refusalReason(arguments); !reason.isEmpty()) {
-            progress.say(reason);
-            return ExitStatus::Missing;
-        }
         OptionsForClang forClang({content, project->compiler, *source}, accepted);
         const QByteArray database = compileCommands(project->commands, project->clang.program,
                                                     request.personality, forClang);

@@ -12,8 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const int listingTimeLimit = 30'000; // milliseconds
-
 // Set for tests and measurements: the compiler is asked by probes alone.
 const char *const learnOnly = "BEXLOR_LEARN_ONLY";
 
@@ -184,6 +182,13 @@ QList<Keyword> findKeywords(Progress &progress, const Questions &questions, cons
     for (const QString &remark : whatNoOptionExpresses(keywords))
         progress.say(remark);
     return keywords;
+}
+
+QList<QByteArray> findAttributes(Progress &progress, const Questions &questions)
+{
+    const ProgressStep step(progress, u"Looking for attributes ..."_s,
+                            probesOf(questions.runner()));
+    return learnAttributes(questions);
 }
 
 QList<QByteArray> findLeniencies(Progress &progress, const Questions &questions)

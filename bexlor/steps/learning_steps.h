@@ -30,10 +30,16 @@ std::optional<MacroFacts> findMacros(Progress &progress, const Questions &questi
                                      const QList<Macro> &listed, const QList<ScannedName> &names,
                                      const QString &logFolder);
 
+/// What can be read back of the types; nothing where no number can.
 TypeFacts measureTypes(Progress &progress, const Questions &questions);
 
+/// The keywords among the names of \a scan and the well-known ones, of a compiler of which the
+/// macros and types are \a known. Says what of them clang cannot be told.
 QList<Keyword> findKeywords(Progress &progress, const Questions &questions, const HeaderScan &scan,
                             const Facts &known);
+
+/// The attributes that the compiler has and clang has not.
+QList<QByteArray> findAttributes(Progress &progress, const Questions &questions);
 
 /// What the compiler accepts though newer clang does not; see learnLeniencies().
 QList<QByteArray> findLeniencies(Progress &progress, const Questions &questions);

@@ -41,7 +41,7 @@ std::optional<Facts> learn(Progress &progress, ProbeRunner &runner, const Argume
     facts.macros = *macros;
     facts.types = measureTypes(progress, questions);
     facts.keywords = findKeywords(progress, questions, scan, facts);
-    facts.attributes = learnAttributes(questions);
+    facts.attributes = findAttributes(progress, questions);
     facts.leniencies = findLeniencies(progress, questions);
     facts.searchPath = findSearchPath(progress, questions, listed->searchPath, scan);
     const bool lacksSearchPath =

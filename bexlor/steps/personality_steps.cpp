@@ -106,7 +106,7 @@ bool writePersonality(Progress &progress, const QString &path, const QByteArray 
         return false;
     }
     progress.say((isThere ? u"Replaced %1"_s : u"Wrote %1"_s).arg(path));
-    const QStringList option {u"--config"_s, QDir::current().absoluteFilePath(path)};
+    const QStringList option = personalityOption(QDir::current().absoluteFilePath(path));
     progress.say("  "_L1 + platform::commandLine(QStringList {u"clang"_s} + option)
                  + " -fsyntax-only FILE"_L1);
     progress.say("  clang-tidy FILE -- "_L1 + platform::commandLine(option));

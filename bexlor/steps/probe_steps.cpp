@@ -84,6 +84,7 @@ bool compileIncludedFiles(Progress &progress, const Compiler &compiler, const QS
 {
     if (compiler.includedFirst.isEmpty())
         return true;
+    const ProgressStep step(progress, u"Compiling what the command includes first ..."_s);
     const ProbeRunner runner(withIncludedFiles(compiler), folder, false);
     const ProbeAnswer answer = runner.ask(acceptedProbe);
     if (answer.compiled())

@@ -189,12 +189,15 @@ private slots:
             .remove(QRegularExpression("(?<=\\.\\.\\.)( [.0-9]+| of| files?)+"))
             .replace(QRegularExpression("\\d+ "), "N ");
         QCOMPARE(said, "Template: t.p_c\nForce-include file: b.h\nSubstitute headers: -op\n"
-                       "Compiling a first probe ...\nCompiling control probes ...\n"
+                       "Compiling a first probe ...\n"
+                       "Compiling what the command includes first ...\n"
+                       "Compiling control probes ...\n"
                        "Asking the compiler for what it lists ...\n"
                        "Looking for a way to read constants back ...\n"
                        "Reading the search directories ...\nFound N name in N files.\n"
                        "Found N predefined macros.\nMeasuring types ...\n"
                        "Looking for keywords ...\nFound N keywords.\n"
+                       "Looking for attributes ...\n"
                        "Looking for what newer clang would reject ...\n"
                        "Found N directory on the search path.\n"
                        "Compiling the first probe again ...\nThe compiler was started N times.\n"
