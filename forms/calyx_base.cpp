@@ -418,6 +418,7 @@ const char *const orderItems[] = {
 };
 
 const char *const tabStops[] = {
+    "KOVPPRadioButton", // Tab stops at the chosen one of the two, and goes on to the same widget
     "KOVRadioButton",
     "PersonDestEdit",
     "PersonDestBrowseBtn",

@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QProxyStyle>
 #include <QPushButton>
+#include <QRadioButton>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -53,14 +54,29 @@ public:
     }
 };
 
+/// Whether \a widget is one of several buttons and another of them is chosen. The toolkit takes Tab
+/// from it only once that one has had the focus.
+bool isNotChosen(const QWidget *widget)
+{
+    const auto *button = qobject_cast<const QRadioButton *>(widget);
+    return button && !button->isChecked();
+}
+
+bool canHoldFocus(const QWidget *widget, const QWidget *form)
+{
+    return widget->isEnabled() && widget->isVisibleTo(form) && !isNotChosen(widget);
+}
+
 /// The first widget of \a page that Tab reaches, in the order in which it does; null when there is
 /// none.
 QWidget *firstTabStop(QWidget *page)
 {
-    for (QWidget *widget = page->nextInFocusChain(); widget != page;
+    // A page itself may lie anywhere in that order, its window at the start.
+    const QWidget *start = page->window();
+    for (QWidget *widget = start->nextInFocusChain(); widget != start;
          widget = widget->nextInFocusChain()) {
         if (page->isAncestorOf(widget) && widget->focusPolicy() & Qt::TabFocus
-            && widget->isEnabled() && widget->isVisibleTo(page))
+            && canHoldFocus(widget, page))
             return widget;
     }
     return nullptr;
@@ -145,9 +161,15 @@ void SteppedWizard::keepFocus(const std::function<void()> &change)
     change();
     if (!currentPage())
         return;
-    const bool stays = holder && holder->isEnabled() && holder->isVisibleTo(this);
+    const bool stays = holder && canHoldFocus(holder, this);
     if (QWidget *widget = stays ? holder.data() : firstTabStop(currentPage()))
         widget->setFocus();
+}
+
+void SteppedWizard::showEvent(QShowEvent *event)
+{
+    // The toolkit has given it to the first of several buttons, chosen or not.
+    keepFocus([this, event] { QWizard::showEvent(event); });
 }
 
 bool SteppedWizard::eventFilter(QObject *watched, QEvent *event)

@@ -23,7 +23,8 @@ private:
 /// any time, and whose Next and Finish are enabled page by page from outside.
 ///
 /// A widget that has the focus keeps it for as long as it can be seen and used. Otherwise, as after
-/// most changes of the page, the focus goes to the first widget of the page that Tab reaches.
+/// most changes of the page and when the wizard is shown, the focus goes to the first widget of the
+/// page that Tab reaches; of several radio buttons that is the chosen one.
 class SteppedWizard : public QWizard
 {
     Q_OBJECT
@@ -51,6 +52,7 @@ protected:
     /// Keeps a click on Finish from the button when it comes so soon after one on Next, which lies
     /// in the same place, that it must have been meant for that.
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     void back();

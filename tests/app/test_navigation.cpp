@@ -79,6 +79,10 @@ private slots:
             user->button(QWizard::FinishButton)->setFocus();
             user.finish();
         };
+        const Way tab = [](const WizardUser &user) {
+            user.click(user->KOVPPRadioButton);
+            QTest::keyClick(user->KOVPPRadioButton, Qt::Key_Tab);
+        };
         row("Enter", first, enter, "ExeCommandBtn");
         row("Enter, the next page answered", both, enter, "ExeCommandBtn");
         row("Next", first, next, "ExeCommandBtn");
@@ -89,6 +93,8 @@ private slots:
         row("Next to the last page", both, last, "DetailsText");
         row("Finish", both, finish, "DetailsText");
         row("start", "", nothing, "KOVRadioButton");
+        row("start with KOV++", "Product:\nkovpp\n", nothing, "KOVPPRadioButton");
+        row("Tab from KOV++", "", tab, "PersonDestEdit");
         row("start with a locked product", locked(product), nothing, "PersonDestEdit");
         row("start on the second page", locked(product + first), nothing, "ExeCommandBtn");
     }

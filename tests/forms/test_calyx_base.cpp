@@ -184,7 +184,7 @@ private slots:
             pages << forms.user->page(id);
         for (QWidget *page : pages) {
             QRect previous;
-            QWidget *start = page->isWindow() ? page->focusWidget() : page;
+            QWidget *start = page->isWindow() ? page->focusWidget() : page->window();
             for (QWidget *stop = start->nextInFocusChain(); stop != start;
                  stop = stop->nextInFocusChain()) {
                 if (!page->isAncestorOf(stop) || !(stop->focusPolicy() & Qt::TabFocus))
