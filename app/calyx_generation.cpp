@@ -185,11 +185,12 @@ void Calyx::showFailureDetails()
 
 void Calyx::showLogFile(const QString &name)
 {
-    std::optional<QString> text = platform::readTextFile(name);
-    if (!text)
+    const platform::FileContent file = platform::readFile(name);
+    if (file.state != platform::FileContent::Whole)
         return;
     // Each line is followed by an empty one; all are appended at once, since appending lays out.
-    QTextStream stream(&*text);
+    QString text = platform::decodedText(file.bytes); // as the compiler has written it
+    QTextStream stream(&text);
     QString line, lines;
     while (stream.readLineInto(&line))
         lines += line + "\n\n"_L1;

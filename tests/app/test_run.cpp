@@ -88,10 +88,10 @@ private slots:
                  QString("one of many\n").repeated(20'000));
         row("failure with logs",
             "file compile.bat cc -c x.c\nfile stdout.log first\\x0asecond\n"
-            "file stderr.log <i>no</i> such file\\x0a\nexit 1",
+            "file stderr.log <i>no</i> such caf\\xc3\\xa9\\x0a\nexit 1",
             failure,
             "\n\nCommand Attempted:\ncc -c x.c\n\n\n ---- stdout details ----\n"
-            "first\n\nsecond\n\n\n ---- stderr details ----\n<i>no</i> such file\n\n",
+            "first\n\nsecond\n\n\n ---- stderr details ----\n<i>no</i> such café\n\n",
             true);
         row("failure without logs", "exit 3", failure,
             "\n\nCommand Attempted:\n\n ---- stdout details ----\n\n ---- stderr details ----\n",
