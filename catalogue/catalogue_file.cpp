@@ -3,6 +3,7 @@
 #include "text_file.h"
 
 #include <QTextStream>
+#include <algorithm>
 #include <map>
 
 namespace {
@@ -52,6 +53,27 @@ QByteArray newFamilies(const QList<CatalogueEntry> &entries, const QStringList &
     return lines;
 }
 
+/// Bytes that take the place of those of a file from \a begin to \a end.
+struct Replacement
+{
+    qsizetype begin;
+    qsizetype end;
+    QByteArray bytes;
+};
+
+/// \a file with all of \a replacements, which are in its order.
+QByteArray spliced(const QByteArray &file, const QList<Replacement> &replacements)
+{
+    QByteArray made;
+    qsizetype taken = 0;
+    for (const Replacement &replacement : replacements) {
+        made += QByteArrayView(file).sliced(taken, replacement.begin - taken);
+        made += replacement.bytes;
+        taken = replacement.end;
+    }
+    return made + file.sliced(taken);
+}
+
 /// Blocks of records by the indexes of entries. Those of new records come behind, in their order.
 using Blocks = std::map<qsizetype, QByteArray>;
 
@@ -74,10 +96,19 @@ Blocks blocksByEntry(const QList<CatalogueEntry> &entries, const QList<CompilerR
     return blocks;
 }
 
-void endLine(QByteArray &file)
+bool endsWithinLine(QByteArrayView text)
 {
-    if (!file.isEmpty() && !file.endsWith('\n'))
+    return !text.isEmpty() && !text.endsWith('\n');
+}
+
+/// \a file with \a blocks of records behind it, which may end in a record that is cut short.
+QByteArray withBlocks(QByteArray file, bool isCutShort, const QByteArray &blocks)
+{
+    if (endsWithinLine(file))
         file += '\n';
+    if (isCutShort)
+        file += " </Compiler>\n\n";
+    return file + blocks;
 }
 
 /// \a file with those of \a families that it lacks behind its own, and with each of \a records in
@@ -87,38 +118,28 @@ QByteArray withEntries(const QByteArray &file, const QStringList &families,
 {
     // Read once, however many come: a user may have thousands.
     const QList<CatalogueEntry> entries = parseEntries(file);
-    const QByteArray familyLines = newFamilies(entries, families);
-    const qsizetype placeOfFamilies = endOfFamilies(entries);
-    const Blocks blocks = blocksByEntry(entries, records);
-
-    QByteArray made = placeOfFamilies == 0 ? familyLines : QByteArray();
-    qsizetype taken = 0;
-    const auto takeUpTo = [&](qsizetype end) {
-        made += QByteArrayView(file).sliced(taken, end - taken);
-        taken = end;
-    };
-    for (qsizetype i = 0; i < entries.size(); ++i) {
-        if (const auto block = blocks.find(i); block != blocks.end()) {
-            takeUpTo(entries[i].begin);
-            made += block->second.chopped(1); // its empty line stays
-            taken = entries[i].end;
-        } else if (entries[i].end == placeOfFamilies && !familyLines.isEmpty()) {
-            takeUpTo(placeOfFamilies);
-            endLine(made);
-            made += familyLines;
-        }
+    QList<Replacement> replacements;
+    if (QByteArray lines = newFamilies(entries, families); !lines.isEmpty()) {
+        const qsizetype place = endOfFamilies(entries);
+        if (endsWithinLine(QByteArrayView(file).first(place)))
+            lines.prepend('\n');
+        replacements.append({place, place, lines});
     }
-    takeUpTo(file.size());
-
-    const auto firstNew = blocks.lower_bound(entries.size());
-    if (firstNew == blocks.end())
-        return made;
-    endLine(made);
-    if (!entries.isEmpty() && entries.last().isCutShort && !blocks.contains(entries.size() - 1))
-        made += " </Compiler>\n\n";
-    for (auto block = firstNew; block != blocks.end(); ++block)
-        made += block->second;
-    return made;
+    QByteArray newBlocks;
+    bool isCutShort = !entries.isEmpty() && entries.last().isCutShort;
+    for (const auto &[index, block] : blocksByEntry(entries, records)) {
+        if (index >= entries.size()) {
+            newBlocks += block;
+            continue;
+        }
+        // Its empty line stays.
+        replacements.append({entries[index].begin, entries[index].end, block.chopped(1)});
+        isCutShort = isCutShort && index + 1 < entries.size();
+    }
+    std::stable_sort(replacements.begin(), replacements.end(),
+                     [](const Replacement &a, const Replacement &b) { return a.begin < b.begin; });
+    const QByteArray made = spliced(file, replacements);
+    return newBlocks.isEmpty() ? made : withBlocks(made, isCutShort, newBlocks);
 }
 
 } // namespace
@@ -139,12 +160,12 @@ QByteArray withChanges(const QByteArray &file, const CompilerCatalogue &before,
     return withEntries(file, families, records);
 }
 
-QByteArray withShipped(const QByteArray &file, CompilerCatalogue before,
+QByteArray withShipped(const QByteArray &file, const CompilerCatalogue &before,
                        const CompilerCatalogue &shipped)
 {
     QStringList families;
     QList<CompilerRecord> records;
-    QList<CompilerRecord> own = parseCatalogue(file).compilers;
+    const QList<CompilerRecord> own = parseCatalogue(file).compilers;
     for (const CompilerRecord &record : shipped.compilers) {
         const CompilerRecord *const mine = findRecord(own, record.Family, record.Name);
         const CompilerRecord *const old = findRecord(before.compilers, record.Family, record.Name);
@@ -162,7 +183,8 @@ CatalogueFile::CatalogueFile(const QString &path) : m_path(path) { }
 
 CompilerCatalogue CatalogueFile::load()
 {
-    m_loaded = parseCatalogue(platform::readFile(m_path).bytes);
+    if (!reload())
+        m_loaded = CompilerCatalogue();
     return m_loaded;
 }
 

@@ -46,5 +46,5 @@ QByteArray withChanges(const QByteArray &file, const CompilerCatalogue &before,
 /// \a file, the bytes of a catalogue file, with the records of \a shipped that are new since
 /// \a before, and with those that have changed and that the user has left as they were. What the
 /// user has changed, added or removed stays so.
-QByteArray withShipped(const QByteArray &file, CompilerCatalogue before,
+QByteArray withShipped(const QByteArray &file, const CompilerCatalogue &before,
                        const CompilerCatalogue &shipped);

@@ -61,14 +61,21 @@ void CompilerCatalogue::append(const CompilerCatalogue &other)
     compilers << other.compilers;
 }
 
-CompilerRecord *findRecord(QList<CompilerRecord> &compilers, const QString &family,
-                           const QString &name)
+const CompilerRecord *findRecord(const QList<CompilerRecord> &compilers, const QString &family,
+                                 const QString &name)
 {
     const auto matches = [&](const CompilerRecord &record) {
         return record.Family == family && record.Name == name;
     };
     const auto found = std::find_if(compilers.begin(), compilers.end(), matches);
     return found == compilers.end() ? nullptr : &*found;
+}
+
+CompilerRecord *findRecord(QList<CompilerRecord> &compilers, const QString &family,
+                           const QString &name)
+{
+    const CompilerRecord *found = findRecord(std::as_const(compilers), family, name);
+    return found ? &compilers[found - compilers.constData()] : nullptr;
 }
 
 QStringList fieldsWith(const CompilerRecord &record, const QString &text)

@@ -41,6 +41,9 @@ struct CompilerCatalogue
 };
 
 /// The first of \a compilers with that family and name, or null.
+const CompilerRecord *findRecord(const QList<CompilerRecord> &compilers, const QString &family,
+                                 const QString &name);
+/// The same, to be changed.
 CompilerRecord *findRecord(QList<CompilerRecord> &compilers, const QString &family,
                            const QString &name);
 
