@@ -157,7 +157,7 @@ QString SaveCompilerDetails::withLanguage(const QString &name) const
     return name.isEmpty() ? language : name + " - "_L1 + language;
 }
 
-bool SaveCompilerDetails::isKnown(const QString &family, const QString &name)
+bool SaveCompilerDetails::isKnown(const QString &family, const QString &name) const
 {
     if (name.isEmpty())
         return false; // the lists' empty entry
@@ -179,10 +179,9 @@ bool SaveCompilerDetails::contradictsLanguage(const QString &name) const
     return namesC || namesCpp || spellsCpp;
 }
 
-bool SaveCompilerDetails::showProblem(const QString &text)
+void SaveCompilerDetails::showProblem(const QString &text)
 {
     QMessageBox::critical(nullptr, windowTitle(), text);
-    return false;
 }
 
 bool SaveCompilerDetails::isConfirmed(const QString &question)
@@ -190,6 +189,33 @@ bool SaveCompilerDetails::isConfirmed(const QString &question)
     return QMessageBox::critical(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No,
                                  QMessageBox::No)
         == QMessageBox::Yes;
+}
+
+bool SaveCompilerDetails::isNewEntryAccepted(const QString &family, const QString &name,
+                                             const QString &savedName)
+{
+    bool accepted = true;
+    if (family.isEmpty() && name.isEmpty()) {
+        showProblem(QCoreApplication::translate(
+            "Calyx", "Compiler Family and Compiler Name cannot be empty."));
+        accepted = false;
+    } else if (isKnown(family, name) || findRecord(compilers, family, savedName)) {
+        accepted = isConfirmed(QCoreApplication::translate(
+            "Calyx", "Compiler Family and Compiler Name match an existing compiler, do you want to "
+                     "overwrite this?"));
+    } else if (BothRadioButton->isChecked() && name.isEmpty()) {
+        showProblem(QCoreApplication::translate(
+            "Calyx", "Compiler Name cannot be empty if language: Both is selected."));
+        accepted = false;
+    }
+    if (contradictsLanguage(name)) {
+        accepted &= isConfirmed(QCoreApplication::translate(
+            "Calyx",
+            "Compiler Name provided does not match the language selected,\nor describes a specific "
+            "language when 'Both' is selected.\n\nIt is advisabe to ensure that the compiler name "
+            "reflects the language. Are you sure you wish to continue with this name?"));
+    }
+    return accepted;
 }
 
 void SaveCompilerDetails::accept()
@@ -202,35 +228,14 @@ void SaveCompilerDetails::accept()
         SaveCompilerDetailsBase::accept();
         return;
     }
-
     const QString family = storedText(NewCmpFamEdit->text());
     const QString name = storedText(NewCmpNameEdit->text());
-    const bool isOld = isKnown(family, name);
-    const QString savedName = isOld ? name : withLanguage(name);
-
-    bool accepted = true;
-    if (family.isEmpty() && name.isEmpty()) {
-        accepted = showProblem(QCoreApplication::translate(
-            "Calyx", "Compiler Family and Compiler Name cannot be empty."));
-    } else if (isOld || findRecord(compilers, family, savedName)) {
-        accepted = isConfirmed(QCoreApplication::translate(
-            "Calyx", "Compiler Family and Compiler Name match an existing compiler, do you want to "
-                     "overwrite this?"));
-    } else if (BothRadioButton->isChecked() && name.isEmpty()) {
-        accepted = showProblem(QCoreApplication::translate(
-            "Calyx", "Compiler Name cannot be empty if language: Both is selected."));
-    }
-    if (contradictsLanguage(name)) {
-        accepted &= isConfirmed(QCoreApplication::translate(
-            "Calyx",
-            "Compiler Name provided does not match the language selected,\nor describes a specific "
-            "language when 'Both' is selected.\n\nIt is advisabe to ensure that the compiler name "
-            "reflects the language. Are you sure you wish to continue with this name?"));
-    }
-    resultFamily = family;
-    resultName = savedName;
-    if (accepted)
+    const QString savedName = isKnown(family, name) ? name : withLanguage(name);
+    if (isNewEntryAccepted(family, name, savedName)) {
+        resultFamily = family;
+        resultName = savedName;
         SaveCompilerDetailsBase::accept();
+    }
 }
 
 void SaveCompilerDetails::reject()

@@ -42,8 +42,10 @@ private:
     void choose(const QRadioButton *mode);
     QString withLanguage(const QString &name) const;
     /// Whether a new entry would be one that is there, which has its language in its name already.
-    bool isKnown(const QString &family, const QString &name);
+    bool isKnown(const QString &family, const QString &name) const;
     bool contradictsLanguage(const QString &name) const;
-    bool showProblem(const QString &text);
+    void showProblem(const QString &text);
     bool isConfirmed(const QString &question);
+    /// Whether the new entry can be saved, as \a savedName, and the user wants it so.
+    bool isNewEntryAccepted(const QString &family, const QString &name, const QString &savedName);
 };
