@@ -107,8 +107,7 @@ void Calyx::buildReview()
     tidy(answers);
     showAnswers(answers, *this, AnswerField::Tidied);
     updateCommandPreview();
-    DetailsText->setReview(reviewText(answers, AnswerField::Shown)
-                           + shownOrder(CmpCmdOrder->text()));
+    DetailsText->setReview(reviewText(answers, AnswerField::Shown));
     detailsText = reviewText(answers, AnswerField::Kept);
     setFinishEnabled(Page4, true);
 }

@@ -177,6 +177,7 @@ AnswerField order(AnswerField field)
     field = rows<&Answers::order, &CalyxBase::CmpOrderListBox>(field);
     field.recordText = &commandOrderString;
     field.setRecordText = &applyOrderString;
+    field.shownLines = [](const Answers &answers) { return QStringList {commandPreview(answers)}; };
     field.reset = [](Answers &answers) { answers.order = defaultOrder(); };
     return field;
 }
@@ -295,7 +296,7 @@ const AnswerField table[] = {
                  return option(generator::switches, toCommaList(answers.switches));
              }}),
     order({.key = "Compiler Command Order:"_L1,
-           .roles = Kept | Recorded | Reset | InCommand,
+           .roles = Shown | Kept | Recorded | Reset | InCommand,
            .record = &Record::Order,
            .argumentPlace = 8,
            .arguments =

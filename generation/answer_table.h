@@ -31,6 +31,9 @@ struct AnswerField
     int argumentPlace = 0;
     QStringList (*arguments)(const Answers &) = nullptr;
 
+    /// What the last page shows of it; null where that is what the review holds.
+    QStringList (*shownLines)(const Answers &) = nullptr;
+
     // These follow from the types of the value and of the widget.
     QStringList (*lines)(const Answers &) = nullptr; ///< as review and settings file hold it
     void (*setLines)(Answers &, const QStringList &lines) = nullptr;

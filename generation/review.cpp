@@ -2,8 +2,6 @@
 
 #include "visible_text.h"
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -30,19 +28,11 @@ QString reviewText(const Answers &answers, AnswerField::Role role)
 {
     QString text;
     for (const AnswerField &field : answerTable()) {
+        const bool isShown = role == AnswerField::Shown && field.shownLines;
         if (field.roles & role)
-            text += reviewBlock(field.key, field.lines(answers));
+            text += reviewBlock(field.key, (isShown ? field.shownLines : field.lines)(answers));
     }
     return role == AnswerField::Shown ? visibleLines(text) : text;
-}
-
-QString shownOrder(const QString &preview)
-{
-    const auto fields = answerTable();
-    const auto order = std::find_if(fields.begin(), fields.end(), [](const AnswerField &field) {
-        return (field.roles & AnswerField::Kept) && !(field.roles & AnswerField::Shown);
-    });
-    return reviewBlock(order->key, {preview});
 }
 
 QString reviewBlock(QLatin1StringView heading, const QStringList &values)

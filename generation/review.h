@@ -6,11 +6,8 @@
 void tidy(Answers &answers);
 
 /// The answers with that \a role as headings and values; ends with an empty line. What is shown has
-/// escapes for what would not be seen.
+/// escapes for what would not be seen, and the command's preview in place of its order.
 QString reviewText(const Answers &answers, AnswerField::Role role);
-
-/// What the page shows behind that: the heading of the command order and the command's \a preview.
-QString shownOrder(const QString &preview);
 
 /// One heading with its values, one a line, and an empty line.
 QString reviewBlock(QLatin1StringView heading, const QStringList &values);
