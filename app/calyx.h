@@ -135,7 +135,13 @@ private:
     // calyx_catalogue.cpp
     /// Puts the catalogue into the menu, as the product filters it.
     void showCatalogue();
-    void applyRecord(const CompilerRecord &record);
+    /// Fills the pages with what \a record says.
+    void fillFrom(const CompilerRecord &record);
+    /// The family and the name that the user saves the compiler under; one is empty when it is not
+    /// to be saved.
+    std::pair<QString, QString> askWhereToSave() const;
+    /// Puts the answers in the place of that record, or behind the others when there is none.
+    void putIntoCatalogue(const QString &family, const QString &name);
     void downloadIntegration(const QString &package);
 
     // calyx_generation.cpp

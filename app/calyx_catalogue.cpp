@@ -11,7 +11,6 @@
 #include <QCheckBox>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QRadioButton>
 
 using namespace Qt::StringLiterals;
 
@@ -51,7 +50,7 @@ void Calyx::applyProductToMenus(const QString &code)
 
 void Calyx::ProductRadioBtn_clicked()
 {
-    const QString code = KOVRadioButton->isChecked() ? generator::productC : generator::productCpp;
+    const QString code = currentAnswers().productCode;
     applyProductToMenus(code);
     const QString conflict = conflictWith(answers.selectedCompilerName, code);
     if (conflict.isEmpty())
@@ -68,7 +67,7 @@ void Calyx::applyCatalogueCompiler(QString family, QString name)
         if (isDownload(record.Template))
             downloadIntegration(packageName(record.Template));
         else
-            applyRecord(record);
+            fillFrom(record);
     }
 }
 
@@ -82,16 +81,18 @@ void Calyx::downloadIntegration(const QString &package)
     reject();
 }
 
-void Calyx::applyRecord(const CompilerRecord &record)
+void Calyx::fillFrom(const CompilerRecord &record)
 {
-    answers = currentAnswers();
-    ::applyRecord(record, answers);
-    // Empties and disables the output flag of a cross compiler, which then shows the stored one,
-    // and clears its box, which stays so where the order says nothing of it.
-    CrossCmpCheckBox->setChecked(answers.crossCompiler);
+    // First what becomes of the output flag of a cross compiler: it is emptied and disabled, and
+    // then shows the stored one; its box is cleared, and stays so where the order says nothing of
+    // it.
+    Answers chosen;
+    applyRecord(record, chosen);
+    CrossCmpCheckBox->setChecked(chosen.crossCompiler);
     CrossCmpCheckBox_clicked();
+
     answers = currentAnswers();
-    ::applyRecord(record, answers);
+    applyRecord(record, answers);
     showAnswers(answers, *this, AnswerField::Recorded);
     updateCommandPreview();
 }
@@ -110,16 +111,32 @@ void Calyx::AddCompilerBtn_clicked()
         catalogue = *now;
         showCatalogue();
     }
+    const auto [family, name] = askWhereToSave();
+    if (family.isEmpty() || name.isEmpty())
+        return;
+    putIntoCatalogue(family, name);
+    if (saveCatalogue())
+        DetailsText->append("Compiler Saved: "_L1 + name);
+    catalogue = CompilerCatalogue();
+    loadCatalogue();
+    showCatalogue();
+    answers.selectedCompilerName = name;
+    answers.selectedCompilerFamily = family;
+}
+
+std::pair<QString, QString> Calyx::askWhereToSave() const
+{
     SaveCompilerDetails dialog;
     dialog.families = catalogue.families;
     dialog.compilers = catalogue.compilers;
     dialog.currentRecord.Name = answers.selectedCompilerName;
     dialog.currentRecord.Family = answers.selectedCompilerFamily;
     dialog.exec();
-    const QString family = dialog.resultFamily, name = dialog.resultName;
-    if (family.isEmpty() || name.isEmpty())
-        return;
+    return {dialog.resultFamily, dialog.resultName};
+}
 
+void Calyx::putIntoCatalogue(const QString &family, const QString &name)
+{
     CompilerRecord *record = nullptr;
     if (catalogue.families.contains(family))
         record = findRecord(catalogue.compilers, family, name);
@@ -129,13 +146,6 @@ void Calyx::AddCompilerBtn_clicked()
         updateRecordFromAnswers(*record);
     else
         addRecordFromAnswers(family, name);
-    if (saveCatalogue())
-        DetailsText->append("Compiler Saved: "_L1 + name);
-    catalogue = CompilerCatalogue();
-    loadCatalogue();
-    showCatalogue();
-    answers.selectedCompilerName = name;
-    answers.selectedCompilerFamily = family;
 }
 
 void Calyx::updateRecordFromAnswers(CompilerRecord &record) const
