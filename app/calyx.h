@@ -30,7 +30,11 @@ public:
     bool checkExeCommand();
 
     // calyx_settings.cpp
+    /// Shows the answers that settings.txt holds, and locks those that it asks to be locked. What
+    /// it does not hold stays; so does everything when it cannot be read or is too large.
     void readSettings();
+    /// Writes the last review and the answers that it lacks to settings.txt. Says nothing when that
+    /// fails.
     void writeSettings();
 
     // calyx_catalogue.cpp
@@ -38,22 +42,40 @@ public:
     void loadCatalogue();
     /// False when the file does not hold the catalogue now; says so where that might surprise.
     bool saveCatalogue();
+    /// Gives the Exe Command button a menu of the catalogue with every compiler enabled.
     void buildExeCommandMenu();
+    /// Enables the compilers of the menu that are for the product \a code, and no others.
     void applyProductToMenus(const QString &code);
     /// Fills the pages from the compiler of that family and name, or sends the user to where its
     /// integration package is downloaded and leaves the wizard.
     void applyCatalogueCompiler(QString family, QString name) override;
+    /// Empties what a compiler of the catalogue has filled in, for a product that it is not for.
     void resetCompilerFields();
+    /// Puts what the pages hold into \a record. Its name, its family and its files stay.
     void updateRecordFromAnswers(CompilerRecord &record) const;
+    /// Puts a record of that family and name, with all that the answers say of the compiler, behind
+    /// the others of the catalogue. Neither the file nor the list of families changes.
     void addRecordFromAnswers(const QString &family, const QString &name);
 
     // calyx_generation.cpp
+    /// Shows the compile command as the pages have it now on the three pages that preview it.
     void updateCommandPreview();
+    // The three that follow are given operations without a caller here: their tasks belong to
+    // functions of the same names, which need no wizard.
+    /// The order that the pages show, as the tokens that a record and the generator take.
     QString commandOrderString() const;
+    /// Shows the order of the tokens in \a order; what it does not mention is not shown. A trailing
+    /// space box stays as it is where \a order lacks its flag.
     void applyOrderString(const QString &order);
+    /// The lines of \a text as one line with commas between them.
     static QString toCommaList(QString text);
+    /// Tidies the fields of one line, shows all answers on the last page, keeps their text for the
+    /// settings and the log, and enables Finish.
     void buildReview();
+    /// Shows what a failed run has left in the current folder: its command and what that wrote.
     void showFailureDetails();
+    /// Appends the lines of the file \a name to what the last page shows. Nothing when it is
+    /// missing or too large to be read.
     void showLogFile(const QString &name);
 
 public slots:

@@ -35,6 +35,7 @@ struct CompilerCatalogue
     QStringList families;
     QList<CompilerRecord> compilers;
 
+    /// Puts both lists of \a other behind these. What is in both is there twice.
     void append(const CompilerCatalogue &other);
 
     bool operator==(const CompilerCatalogue &) const = default;

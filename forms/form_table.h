@@ -83,6 +83,9 @@ QWidget *createMember(Form *form, QWidget *parent)
 #define FORM_WIDGET(Form, member) #member, &createMember < &Form::member, Form>
 #define FORM_WIDGET_AS(Form, member, Class) #member, &createMember < &Form::member, Form, Class>
 
+/// Gives \a widget its object name, its place in its parent and its looks, for which it takes those
+/// words of \a setUps that are for its class. \a image, which may be null, is for a label or a
+/// button.
 void setUpWidget(QWidget *widget, const char *name, const QRect &rectangle, SetUps setUps,
                  const QPixmap *image);
 

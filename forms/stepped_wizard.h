@@ -13,6 +13,7 @@ public:
     using QWizardPage::QWizardPage;
 
     bool isComplete() const override { return m_complete; }
+    /// Tells the wizard, too, which then enables Next or Finish, or disables it.
     void setComplete(bool complete);
 
 private:
