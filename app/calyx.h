@@ -177,7 +177,7 @@ private:
     QString lastDirectory; ///< where the directory dialogs start
     bool commandValid = false; ///< result of the last check of the compiler command
     CompilerCatalogue catalogue;
-    CatalogueFile catalogueFile {QStringLiteral("compilers.txt")};
+    CatalogueFile catalogueFile {generator::catalogue};
     CompilerMenu exeCommandMenu {this};
     GeneratorRun *generatorProcess = nullptr; ///< the newest run; a child, like earlier ones
 

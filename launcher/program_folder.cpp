@@ -1,6 +1,7 @@
 #include "program_folder.h"
 
 #include "catalogue_file.h"
+#include "generator_interface.h"
 #include "text_file.h"
 
 #include <QDir>
@@ -19,10 +20,16 @@ struct Part
 
 const Part parts[] = {
     {u"images"_s, true},
-    {u"TemplatePersonalities"_s, false},
-    {u"ForceIncludeFiles"_s, false},
-    {u"SubstituteHeaders"_s, false},
+    {generator::templateFolder, false},
+    {generator::forceIncludeFolder, false},
+    {generator::substituteHeadersFolder, false},
 };
+
+/// The catalogue that the wizard works with.
+QString catalogueOf(const QDir &folder)
+{
+    return folder.filePath("bin/"_L1 + generator::catalogue);
+}
 
 /// Whether \a to holds what is shipped as \a from, or what the user has made of it.
 bool bringFile(const QString &from, const QString &to, bool isReplaced)
@@ -56,11 +63,11 @@ QStringList bringPart(const Part &part, const QDir &shipped, const QDir &folder)
 bool bringCatalogue(const QDir &shipped, const QDir &folder)
 {
     const QString known = folder.filePath(u"bin/compilers_shipped.txt"_s); // by the last version
-    const platform::FileContent now = platform::readFile(shipped.filePath(u"compilers.txt"_s));
+    const platform::FileContent now = platform::readFile(shipped.filePath(generator::catalogue));
     const QByteArray before = platform::readFile(known).bytes;
     if (now.state != platform::FileContent::Whole)
         return false;
-    const QString path = folder.filePath(u"bin/compilers.txt"_s);
+    const QString path = catalogueOf(folder);
     if (now.bytes == before && QFileInfo::exists(path))
         return true;
     return CatalogueFile(path).bringShipped(now.bytes, before) == CatalogueFile::Result::Saved
@@ -80,6 +87,6 @@ QStringList bringUpToDate(const QString &shipped, const QString &folder)
             failed << bringPart(part, from, to);
     }
     if (!bringCatalogue(from, to))
-        failed << to.filePath(u"bin/compilers.txt"_s);
+        failed << catalogueOf(to);
     return failed;
 }

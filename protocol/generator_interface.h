@@ -28,6 +28,9 @@ inline constexpr QLatin1StringView substituteHeaders("-sub");
 inline constexpr QLatin1StringView reduceFileSize("-rfs");
 inline constexpr QLatin1StringView checkTypes("-check");
 
+// In the working directory: the known compilers, which the generator knows by their names, too.
+inline constexpr QLatin1StringView catalogue("compilers.txt");
+
 // Beside the working directory: where the files lie that are named without a folder.
 inline constexpr QLatin1StringView templateFolder("TemplatePersonalities");
 inline constexpr QLatin1StringView forceIncludeFolder("ForceIncludeFiles");
