@@ -4,6 +4,7 @@
 #include "elided_widgets.h"
 #include "form_table.h"
 #include "log_browser.h"
+#include "order_tokens.h"
 #include "picture.h"
 
 #include <QCheckBox>
@@ -411,12 +412,6 @@ const NameRow names[] = {
     {"CmpDefEdit", "textLabel4"},
 };
 
-const char *const orderItems[] = {
-    QT_TRANSLATE_NOOP("CalyxBase", "Exe Command"), QT_TRANSLATE_NOOP("CalyxBase", "Output Flag"),
-    QT_TRANSLATE_NOOP("CalyxBase", "<exe file>"),  QT_TRANSLATE_NOOP("CalyxBase", "Define Flag"),
-    QT_TRANSLATE_NOOP("CalyxBase", "Object Flag"), QT_TRANSLATE_NOOP("CalyxBase", "<src file>"),
-};
-
 const char *const tabStops[] = {
     "KOVPPRadioButton", // Tab stops at the chosen one of the two, and goes on to the same widget
     "KOVRadioButton",
@@ -517,8 +512,8 @@ void CalyxBase::languageChange()
     setTexts(this, "CalyxBase", texts);
     setNames(this, names);
     CmpOrderListBox->clear();
-    for (const char *item : orderItems)
-        CmpOrderListBox->addItem(QLatin1String(item));
+    for (const CommandPartName &part : commandPartNames)
+        CmpOrderListBox->addItem(QLatin1String(part.name));
     sideBar.setTexts();
     for (QPushButton *button : {SaveLogBtn, AddCompilerBtn})
         button->setShortcut(QKeySequence());

@@ -9,38 +9,46 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// What the answers hold of a part.
 struct OrderItem
 {
-    QLatin1StringView text;
     CommandPart part;
-    QString Answers::*value = nullptr;     ///< null: the item's own text stands for it
+    QString Answers::*value = nullptr;     ///< null: the part's name stands for it
     bool Answers::*spaceFollows = nullptr; ///< null: always
     QLatin1StringView example = {};        ///< what the preview shows behind the value
 };
 
 const OrderItem orderItems[] = {
-    {"Exe Command"_L1, CommandPart::Command, &Answers::command},
-    {"Output Flag"_L1, CommandPart::OutputFlag, &Answers::outputFlag,
-     &Answers::spaceAfterOutputFlag},
-    {"<exe file>"_L1, CommandPart::OutputFile},
-    {"Define Flag"_L1, CommandPart::DefineFlag, &Answers::defineFlag,
-     &Answers::spaceAfterDefineFlag, "XXX "_L1},
-    {"Object Flag"_L1, CommandPart::ObjectFlag, &Answers::objectFlag},
-    {"<src file>"_L1, CommandPart::Source},
+    {CommandPart::Command, &Answers::command},
+    {CommandPart::OutputFlag, &Answers::outputFlag, &Answers::spaceAfterOutputFlag},
+    {CommandPart::OutputFile},
+    {CommandPart::DefineFlag, &Answers::defineFlag, &Answers::spaceAfterDefineFlag, "XXX "_L1},
+    {CommandPart::ObjectFlag, &Answers::objectFlag},
+    {CommandPart::Source},
 };
-
-/// The item called \a text, or null.
-const OrderItem *itemCalled(const QString &text)
-{
-    const auto found = std::find_if(std::begin(orderItems), std::end(orderItems),
-                                    [&text](const OrderItem &item) { return item.text == text; });
-    return found == std::end(orderItems) ? nullptr : found;
-}
 
 const OrderItem &itemOf(CommandPart part)
 {
     return *std::find_if(std::begin(orderItems), std::end(orderItems),
                          [part](const OrderItem &item) { return item.part == part; });
+}
+
+/// The item called \a text, or null.
+const OrderItem *itemCalled(const QString &text)
+{
+    for (const CommandPartName &part : commandPartNames) {
+        if (text == QLatin1StringView(part.name))
+            return &itemOf(part.part);
+    }
+    return nullptr;
+}
+
+QString nameOf(CommandPart part)
+{
+    const auto found =
+        std::find_if(std::begin(commandPartNames), std::end(commandPartNames),
+                     [part](const CommandPartName &named) { return named.part == part; });
+    return QLatin1String(found->name);
 }
 
 bool spaceFollows(const OrderItem &item, const Answers &answers)
@@ -53,8 +61,8 @@ bool spaceFollows(const OrderItem &item, const Answers &answers)
 QStringList defaultOrder()
 {
     QStringList order;
-    for (const OrderItem &item : orderItems)
-        order << item.text;
+    for (const CommandPartName &part : commandPartNames)
+        order << QLatin1String(part.name);
     return order;
 }
 
@@ -87,7 +95,7 @@ void applyOrderString(Answers &answers, const QString &order)
     answers.order.clear();
     for (const OrderToken &token : parseOrderString(order)) {
         const OrderItem &item = itemOf(token.part);
-        answers.order << item.text;
+        answers.order << nameOf(token.part);
         if (item.spaceFollows)
             answers.*item.spaceFollows = token.spaceFollows;
     }

@@ -13,6 +13,24 @@ enum class CommandPart : char {
     Source = 's',
 };
 
+/// A part and what it is called where the parts are put in order. The wizard shows that translated
+/// and compares it, like the settings file, as it stands here.
+struct CommandPartName
+{
+    CommandPart part;
+    const char *name;
+};
+
+/// All parts, in the order that suits most compilers.
+inline constexpr CommandPartName commandPartNames[] = {
+    {CommandPart::Command, QT_TRANSLATE_NOOP("CalyxBase", "Exe Command")},
+    {CommandPart::OutputFlag, QT_TRANSLATE_NOOP("CalyxBase", "Output Flag")},
+    {CommandPart::OutputFile, QT_TRANSLATE_NOOP("CalyxBase", "<exe file>")},
+    {CommandPart::DefineFlag, QT_TRANSLATE_NOOP("CalyxBase", "Define Flag")},
+    {CommandPart::ObjectFlag, QT_TRANSLATE_NOOP("CalyxBase", "Object Flag")},
+    {CommandPart::Source, QT_TRANSLATE_NOOP("CalyxBase", "<src file>")},
+};
+
 /// One part in its place, and whether a space separates it from the next. The two flags alone may
 /// do without: "-oprobe.o", "-DNAME".
 struct OrderToken
