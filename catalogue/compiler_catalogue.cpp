@@ -55,6 +55,16 @@ void readField(CompilerRecord &record, const QString &line)
 
 } // namespace
 
+QLatin1StringView yesOrNo(bool value)
+{
+    return value ? "yes"_L1 : "no"_L1;
+}
+
+bool isYes(const QString &text)
+{
+    return text == yesOrNo(true);
+}
+
 void CompilerCatalogue::append(const CompilerCatalogue &other)
 {
     families << other.families;

@@ -12,13 +12,13 @@ struct CompilerRecord
     QString Name; ///< by custom ends with " - C" or " - C++", or is "C" or "C++"
     QString Family;
     QString ExeCommand;
-    QString CrossCompiler; ///< "yes" or "no"
+    QString CrossCompiler; ///< see isYes(), as in ReduceFileSize
     QString OutputFlag;
     QString DefineFlag;
     QString ObjectFlag;
     QString ObjectFileExtension;
-    QString Order;           ///< order token string
-    QString ReduceFileSize;  ///< "yes" or "no"
+    QString Order; ///< order token string
+    QString ReduceFileSize;
     QString CompilerDefines; ///< comma list, like the next
     QString CompilerSwitches;
     QString Template;         ///< file of the generator, or an integration package to download
@@ -27,6 +27,13 @@ struct CompilerRecord
 
     bool operator==(const CompilerRecord &) const = default;
 };
+
+/// The words of a field that says yes or no; whatever else stands there is no.
+QLatin1StringView yesOrNo(bool value);
+bool isYes(const QString &text);
+
+/// How what each user has to fill in begins: "<specify device>".
+inline constexpr QLatin1StringView placeholder("<specify");
 
 /// The known compilers and their families, both in the order of the file. Nothing keeps the two
 /// lists in step: a record may have a family that is not listed, a family may have no record.

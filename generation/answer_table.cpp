@@ -1,6 +1,5 @@
 #include "answer_table.h"
 
-#include "argument_texts.h"
 #include "calyx_base.h"
 #include "comma_list.h"
 #include "command_order.h"
@@ -62,11 +61,6 @@ void show(QListWidget *list, const QStringList &rows)
     list->addItems(rows);
 }
 
-QLatin1StringView word(bool value)
-{
-    return value ? "yes"_L1 : "no"_L1;
-}
-
 /// The words for a check box that the review shows, and those that only the settings file holds.
 struct Capitalised
 {
@@ -74,7 +68,7 @@ struct Capitalised
 };
 struct LowerCase
 {
-    static QLatin1StringView word(bool value) { return ::word(value); }
+    static QLatin1StringView word(bool value) { return yesOrNo(value); }
 };
 
 /// How a value of each type is told in lines and in a record's text, and understood from them.
@@ -93,10 +87,10 @@ struct Text
     }
 
     static QString record(const QString &value) { return value; }
-    static QString record(bool value) { return ::word(value); }
+    static QString record(bool value) { return yesOrNo(value); }
 
     static void setRecord(QString &value, const QString &text) { value = text; }
-    static void setRecord(bool &value, const QString &text) { value = text == ::word(true); }
+    static void setRecord(bool &value, const QString &text) { value = isYes(text); }
 };
 
 /// \a field with what follows from the type of its value, which no widget shows.
@@ -193,114 +187,55 @@ using Form = CalyxBase;
 using Record = CompilerRecord;
 
 const AnswerField table[] = {
-    product(
-        {.key = "Product:"_L1,
-         .roles = Shown | Kept,
-         .lock = &disable<&Form::KOVRadioButton, &Form::KOVPPRadioButton>,
-         .argumentPlace = 1,
-         .arguments = [](const Answers &answers) { return QStringList {answers.productCode}; }}),
+    product({.key = "Product:"_L1,
+             .roles = Shown | Kept,
+             .lock = &disable<&Form::KOVRadioButton, &Form::KOVPPRadioButton>}),
     seen<&Answers::destination, &Form::PersonDestEdit>(
         {.key = "Personality Destination Directory:"_L1,
          .roles = Shown | Kept,
-         .lock = &disable<&Form::PersonDestEdit, &Form::PersonDestBrowseBtn>,
-         .argumentPlace = 10,
-         .arguments =
-             [](const Answers &answers) {
-                 return option(generator::personality,
-                               personalityPath(answers.destination, answers.name));
-             }}),
+         .lock = &disable<&Form::PersonDestEdit, &Form::PersonDestBrowseBtn>}),
     seen<&Answers::name, &Form::PersonNameEdit>({.key = "Personality Name:"_L1,
                                                  .roles = Shown | Kept,
                                                  .lock = &disable<&Form::PersonNameEdit>}),
     seen<&Answers::command, &Form::CmpExeEdit>(
         {.key = "Compiler:"_L1,
          .roles = Shown | Kept | Tidied | Recorded | Reset | InCommand,
-         .record = &Record::ExeCommand,
-         .argumentPlace = 3,
-         .arguments =
-             [](const Answers &answers) { return QStringList {quotedCommand(answers.command)}; }}),
+         .record = &Record::ExeCommand}),
     seen<&Answers::crossCompiler, &Form::CrossCmpCheckBox>(
         {.key = "Cross Compiler:"_L1,
          .roles = Shown | Kept | Recorded | Reset,
-         .record = &Record::CrossCompiler,
-         .argumentPlace = 2,
-         .arguments =
-             [](const Answers &answers) {
-                 return QStringList {answers.crossCompiler ? generator::crossCompiler
-                                                           : generator::nativeCompiler};
-             }}),
+         .record = &Record::CrossCompiler}),
     seen<&Answers::outputFlag, &Form::CmpExeFlagEdit>(
         {.key = "Compiler Output Flag:"_L1,
          .roles = Shown | Kept | Tidied | Recorded | Reset | InCommand,
-         .record = &Record::OutputFlag,
-         .argumentPlace = 4,
-         .arguments = [](const Answers &answers) { return QStringList {answers.outputFlag}; }}),
+         .record = &Record::OutputFlag}),
     seen<&Answers::objectFlag, &Form::CmpCmpFlagEdit>(
         {.key = "Compiler Object File Generation Flag:"_L1,
          .roles = Shown | Kept | Tidied | Recorded | Reset | InCommand,
-         .record = &Record::ObjectFlag,
-         .argumentPlace = 5,
-         .arguments = [](const Answers &answers) { return QStringList {answers.objectFlag}; }}),
+         .record = &Record::ObjectFlag}),
     seen<&Answers::defineFlag, &Form::CmpDefFlagEdit>(
         {.key = "Compiler Define Flag:"_L1,
          .roles = Shown | Kept | Tidied | Recorded | Reset | InCommand,
-         .record = &Record::DefineFlag,
-         .argumentPlace = 6,
-         .arguments = [](const Answers &answers) { return QStringList {answers.defineFlag}; }}),
+         .record = &Record::DefineFlag}),
     seen<&Answers::objectExtension, &Form::CmpObjExtFlagEdit>(
         {.key = "Object File Extension:"_L1,
          .roles = Shown | Kept | Tidied | Recorded,
-         .record = &Record::ObjectFileExtension,
-         .argumentPlace = 7,
-         .arguments =
-             [](const Answers &answers) {
-                 return QStringList {withDot(answers.objectExtension)};
-             }}),
+         .record = &Record::ObjectFileExtension}),
     seen<&Answers::reduceFileSize, &Form::ReduceFileSizeCheckBox>(
         {.key = "Reduce File Size:"_L1,
          .roles = Shown | Kept | Recorded | Reset,
-         .record = &Record::ReduceFileSize,
-         .argumentPlace = 16,
-         .arguments =
-             [](const Answers &answers) {
-                 return answers.reduceFileSize ? QStringList {generator::reduceFileSize}
-                                               : QStringList();
-             }}),
+         .record = &Record::ReduceFileSize}),
     rows<&Answers::headerDirectories, &Form::CmpHdrDirListBox>(
-        {.key = "Compiler Header Directories:"_L1,
-         .roles = Shown | Kept,
-         .argumentPlace = 9,
-         .arguments =
-             [](const Answers &answers) {
-                 QStringList arguments;
-                 for (const QString &directory : answers.headerDirectories)
-                     arguments << generator::headerDirectory << directory;
-                 return arguments;
-             }}),
-    typedLines<&Answers::defines, &Form::CmpDefEdit>(
-        {.key = "Compiler Defines:"_L1,
-         .roles = Shown | Kept | Recorded,
-         .record = &Record::CompilerDefines,
-         .argumentPlace = 11,
-         .arguments =
-             [](const Answers &answers) {
-                 return option(generator::defines, toCommaList(answers.defines));
-             }}),
-    typedLines<&Answers::switches, &Form::CmpSwtchEdit>(
-        {.key = "Compiler Switches:"_L1,
-         .roles = Shown | Kept | Recorded,
-         .record = &Record::CompilerSwitches,
-         .argumentPlace = 12,
-         .arguments =
-             [](const Answers &answers) {
-                 return option(generator::switches, toCommaList(answers.switches));
-             }}),
+        {.key = "Compiler Header Directories:"_L1, .roles = Shown | Kept}),
+    typedLines<&Answers::defines, &Form::CmpDefEdit>({.key = "Compiler Defines:"_L1,
+                                                      .roles = Shown | Kept | Recorded,
+                                                      .record = &Record::CompilerDefines}),
+    typedLines<&Answers::switches, &Form::CmpSwtchEdit>({.key = "Compiler Switches:"_L1,
+                                                         .roles = Shown | Kept | Recorded,
+                                                         .record = &Record::CompilerSwitches}),
     order({.key = "Compiler Command Order:"_L1,
            .roles = Shown | Kept | Recorded | Reset | InCommand,
-           .record = &Record::Order,
-           .argumentPlace = 8,
-           .arguments =
-               [](const Answers &answers) { return QStringList {commandOrderString(answers)}; }}),
+           .record = &Record::Order}),
     seen<&Answers::spaceAfterOutputFlag, &Form::CmpExeFlagChkBox, LowerCase>(
         {.key = "Exe Trailing Space:"_L1, .roles = Recorded | InCommand}),
     seen<&Answers::spaceAfterDefineFlag, &Form::CmpDefFlagChkBox, LowerCase>(
@@ -309,37 +244,15 @@ const AnswerField table[] = {
         {.key = "Selected Compiler Family:"_L1, .roles = Recorded, .record = &Record::Family}),
     unseen<&Answers::selectedCompilerName>(
         {.key = "Selected Compiler Name:"_L1, .roles = Recorded | Reset, .record = &Record::Name}),
-    unseen<&Answers::templatePersonalityFile>(
-        {.key = "Template Personality File:"_L1,
-         .roles = Recorded | Reset,
-         .record = &Record::Template,
-         .argumentPlace = 13,
-         .arguments =
-             [](const Answers &answers) {
-                 return option(generator::templateFile, inFolder(generator::templateFolder,
-                                                                 answers.templatePersonalityFile));
-             }}),
-    unseen<&Answers::forceIncludeFile>(
-        {.key = "Force Include File:"_L1,
-         .roles = Recorded | Reset,
-         .record = &Record::ForceIncludeFile,
-         .argumentPlace = 14,
-         .arguments =
-             [](const Answers &answers) {
-                 return option(generator::forceIncludeFile,
-                               inFolder(generator::forceIncludeFolder, answers.forceIncludeFile));
-             }}),
+    unseen<&Answers::templatePersonalityFile>({.key = "Template Personality File:"_L1,
+                                               .roles = Recorded | Reset,
+                                               .record = &Record::Template}),
+    unseen<&Answers::forceIncludeFile>({.key = "Force Include File:"_L1,
+                                        .roles = Recorded | Reset,
+                                        .record = &Record::ForceIncludeFile}),
     unseen<&Answers::substituteHeaders>({.key = "Substitute Headers:"_L1,
                                          .roles = Recorded | Reset,
-                                         .record = &Record::SubHeaders,
-                                         .argumentPlace = 15,
-                                         .arguments =
-                                             [](const Answers &answers) {
-                                                 return option(
-                                                     generator::substituteHeaders,
-                                                     inFolder(generator::substituteHeadersFolder,
-                                                              answers.substituteHeaders));
-                                             }}),
+                                         .record = &Record::SubHeaders}),
     unseen<&Answers::compilerFamilySet>({.key = "Compiler Family Set:*"_L1, .roles = ReadOnly}),
 };
 

@@ -7,8 +7,8 @@
 class CalyxBase;
 struct CompilerRecord;
 
-/// One answer, and how it goes through every place: the pages, the review, the settings file, the
-/// catalogue and the generator's arguments.
+/// One answer, and how it goes through every place: the pages, the review, the settings file and
+/// the catalogue, of whose records the generator's arguments are made.
 struct AnswerField
 {
     enum Role : unsigned {
@@ -26,10 +26,6 @@ struct AnswerField
     bool isList = false; ///< in the settings file: any number of lines, up to an empty one
     QString CompilerRecord::*record = nullptr; ///< null where no field of a record holds it alone
     void (*lock)(CalyxBase &form) = nullptr;   ///< null where the settings file cannot ask for it
-    /// Where the arguments that the answer makes stand among the generator's, from 1 on. 0 for one
-    /// that makes none, or is part of another's.
-    int argumentPlace = 0;
-    QStringList (*arguments)(const Answers &) = nullptr;
 
     /// What the last page shows of it; null where that is what the review holds.
     QStringList (*shownLines)(const Answers &) = nullptr;

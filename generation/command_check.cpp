@@ -1,5 +1,6 @@
 #include "command_check.h"
 
+#include "compiler_catalogue.h"
 #include "program_search.h"
 #include "quoting.h"
 
@@ -21,5 +22,5 @@ CommandState checkCommand(const QString &commandLine)
     const QString word = commandWord(commandLine);
     if (platform::findCommand(word, platform::searchPathVariable()).isEmpty())
         return CommandState::NotOnPath;
-    return commandLine.contains("<specify"_L1) ? CommandState::Incomplete : CommandState::Valid;
+    return commandLine.contains(placeholder) ? CommandState::Incomplete : CommandState::Valid;
 }

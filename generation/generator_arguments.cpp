@@ -1,21 +1,12 @@
 #include "generator_arguments.h"
 
-#include "answer_table.h"
-
-#include <algorithm>
+#include "argument_texts.h"
+#include "record_answers.h"
+#include "record_arguments.h"
 
 QStringList generatorArguments(const Answers &answers)
 {
-    QList<const AnswerField *> passed;
-    for (const AnswerField &field : answerTable()) {
-        if (field.arguments)
-            passed << &field;
-    }
-    std::sort(passed.begin(), passed.end(), [](const AnswerField *a, const AnswerField *b) {
-        return a->argumentPlace < b->argumentPlace;
-    });
-    QStringList list {generator::program};
-    for (const AnswerField *field : passed)
-        list << field->arguments(answers);
-    return list;
+    return QStringList(generator::program)
+         + recordArguments(recordFrom(answers), answers.productCode, answers.headerDirectories,
+                           personalityPath(answers.destination, answers.name));
 }

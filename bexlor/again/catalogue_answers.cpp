@@ -1,10 +1,10 @@
 #include "catalogue_answers.h"
 
-#include "argument_texts.h"
 #include "compiler_catalogue.h"
 #include "download.h"
 #include "generator_interface.h"
 #include "product_language.h"
+#include "record_arguments.h"
 #include "text_file.h"
 #include "visible_text.h"
 
@@ -24,7 +24,7 @@ QString withLines(const QString &sentence, const QStringList &lines)
 /// Why \a record cannot be used as it stands, or an empty text.
 QString problemWith(const CompilerRecord &record)
 {
-    const QStringList open = fieldsWith(record, u"<specify"_s);
+    const QStringList open = fieldsWith(record, placeholder);
     if (!open.isEmpty())
         return withLines(u"Copy the entry in the catalogue and fill in what it asks for:"_s, open);
     if (isDownload(record.Template)) {
@@ -46,24 +46,9 @@ QStringList wholeNames(const QList<CompilerRecord> &records)
 
 QStringList argumentsFor(const CompilerRecord &record, const QString &personality)
 {
-    using namespace generator;
-    const bool isCross = record.CrossCompiler == "yes"_L1;
-    QStringList list {isOffered(record.Name, productC) ? productC : productCpp,
-                      isCross ? crossCompiler : nativeCompiler,
-                      quotedCommand(record.ExeCommand),
-                      record.OutputFlag,
-                      record.ObjectFlag,
-                      record.DefineFlag,
-                      withDot(record.ObjectFileExtension),
-                      record.Order};
-    list << generator::personality << personality << option(defines, record.CompilerDefines)
-         << option(switches, record.CompilerSwitches)
-         << option(templateFile, inFolder(templateFolder, record.Template))
-         << option(forceIncludeFile, inFolder(forceIncludeFolder, record.ForceIncludeFile))
-         << option(substituteHeaders, inFolder(substituteHeadersFolder, record.SubHeaders));
-    if (record.ReduceFileSize == "yes"_L1)
-        list << reduceFileSize;
-    return list;
+    const bool isForC = isOffered(record.Name, generator::productC);
+    return recordArguments(tidied(record), isForC ? generator::productC : generator::productCpp, {},
+                           personality);
 }
 
 std::variant<QString, Arguments> answersOfEntry(const QString &name, const QString &catalogue,

@@ -5,6 +5,7 @@
 #include "order_tokens.h"
 #include "program_run.h"
 #include "record_answers.h"
+#include "review.h"
 #include "row.h"
 
 // Most compilers are not for sale here: a stand-in of their name takes what the generator passes.
@@ -68,9 +69,16 @@ private slots:
     // The generator makes the arguments of an entry itself when no wizard does.
     void isGeneratedAsByTheWizard()
     {
-        for (const CompilerRecord &record : m_shipped.compilers) {
+        const CompilerRecord spaced {.Name = "cc - C++",
+                                     .ExeCommand = " cc  -x",
+                                     .OutputFlag = " -o ",
+                                     .DefineFlag = " -D ",
+                                     .ObjectFlag = " -c ",
+                                     .ObjectFileExtension = " o "};
+        for (const CompilerRecord &record : m_shipped.compilers + QList {spaced}) {
             Answers answers;
             applyRecord(record, answers);
+            tidy(answers);
             answers.productCode =
                 record.Name.endsWith("++") ? generator::productCpp : generator::productC;
             answers.destination = "folder";
