@@ -1,6 +1,5 @@
 #include "calyx.h"
 
-#include "colours.h"
 #include "form_answers.h"
 
 #include <QAbstractButton>
@@ -44,10 +43,8 @@ Calyx::Calyx(QWidget *parent, const char *name, bool modal, Qt::WindowFlags flag
 
     const QPalette white(Qt::white, Qt::white);
     exeCommandMenu.setPalette(white);
-    for (const WizardButton which : {NextButton, BackButton, CancelButton, FinishButton}) {
+    for (const WizardButton which : {NextButton, BackButton, CancelButton, FinishButton})
         button(which)->setPalette(white);
-        setBackgroundColour(button(which), Qt::white);
-    }
     sideBar.loadImages();
 
     const QWidget *const product[] = {KOVRadioButton, KOVPPRadioButton, PersonDestEdit,
