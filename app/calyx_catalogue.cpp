@@ -3,7 +3,7 @@
 #include "download.h"
 #include "form_answers.h"
 #include "log_browser.h"
-#include "product_language.h"
+#include "product_conflict.h"
 #include "record_answers.h"
 #include "save_compiler_details.h"
 #include "web_address.h"

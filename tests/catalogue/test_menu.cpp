@@ -1,4 +1,5 @@
 #include "compiler_menu.h"
+#include "product_conflict.h"
 #include "product_language.h"
 #include "row.h"
 #include "sub_popup_menu.h"
