@@ -60,8 +60,8 @@ public:
     // calyx_generation.cpp
     /// Shows the compile command as the pages have it now on the three pages that preview it.
     void updateCommandPreview();
-    // The three that follow are given operations without a caller here: their tasks belong to
-    // functions of the same names, which need no wizard.
+    // The next three stay for others: the wizard itself makes do with the functions of these names
+    // below, which need no window.
     /// The order that the pages show, as the tokens that a record and the generator take.
     QString commandOrderString() const;
     /// Shows the order of the tokens in \a order; what it does not mention is not shown. A trailing
