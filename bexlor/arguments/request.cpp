@@ -27,7 +27,7 @@ Request parseAgain(ArgumentReader &reader)
 
 Request parseEntry(ArgumentReader &reader)
 {
-    EntryRequest request {reader.value(), u"compilers.txt"_s, {}};
+    EntryRequest request {reader.value(), generator::catalogue, {}};
     if (reader.flag("--catalogue"_L1))
         request.catalogue = reader.path();
     reader.expect(generator::personality);
