@@ -79,6 +79,19 @@ private slots:
                  made.output);
     }
 
+    void refusesAnswersThatWriteElsewhere()
+    {
+        writeTestFile(m_folder.filePath("evil.p_c"),
+                      read("arm.p_c").replace("\"-D\"", "\"-D/etc/x\""));
+        for (const QStringList &request :
+             {QStringList {"check", "evil.p_c", "a.c"},
+              {"export", "evil.p_c", "compile-commands", "all.json"}}) {
+            const ProgramRun refused = run(QStringList(GENERATOR) + request);
+            QCOMPARE(refused.exitCode, 3);
+            QVERIFY2(refused.output.contains("holds a path"), refused.output);
+        }
+    }
+
     void leavesAbsentTypesOut()
     {
         Facts facts;
