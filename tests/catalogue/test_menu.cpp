@@ -59,6 +59,20 @@ private slots:
         QTEST(shown.join('|'), "shown");
     }
 
+    void holdsAnyNumberOfCompilers()
+    {
+        Owner owner;
+        CompilerMenu menu(&owner);
+        CompilerCatalogue large {{"Alpha"}, {2001, {"a - C", "Alpha"}}};
+        large.compilers.last().Name = "last - C++";
+        menu.build(large, "");
+        menu.applyProduct("kov");
+        QMenu *family = menu.actions().first()->menu();
+        emit family->aboutToShow();
+        QCOMPARE(family->actions().size(), 2001);
+        QCOMPARE(shownItem(family->actions().last()), "-last - C++");
+    }
+
     void tellsLanguages_data()
     {
         const Columns<QString, QString, bool, bool> row("name", "product", "offered", "conflicts");

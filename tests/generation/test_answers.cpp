@@ -121,6 +121,13 @@ private slots:
         resetCompiler(emptied);
         QCOMPARE(told(emptied), isReset ? told(none) : all);
     }
+
+    void areShownWithEscapes()
+    {
+        const Answers answers {.defines = QString('A') + QChar(0x202e)};
+        QVERIFY(reviewText(answers, AnswerField::Shown).contains("\nA\\u202E\n"));
+        QVERIFY(!reviewText(answers, AnswerField::Kept).contains("u202E"));
+    }
 };
 
 QTEST_MAIN(TestAnswers)
