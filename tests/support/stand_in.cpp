@@ -13,6 +13,7 @@
 //     beat NAME         makes the file NAME grow for as long as it lives
 //     console           "visible" or "hidden": whether a window shows its console
 //     crash, exit STATUS
+// It ends by itself after ten minutes.
 
 #include "stand_in_system.h"
 
@@ -87,6 +88,9 @@ void obey(const std::string &instruction)
 
 int main(int argc, char *argv[])
 {
+    // Whoever should end it may have been interrupted.
+    std::thread([] { std::this_thread::sleep_for(10min), std::_Exit(1); }).detach();
+
     std::ofstream record("arguments.txt");
     for (const std::string &argument : utf8Arguments(argc, argv))
         record << argument << '\n';
