@@ -33,11 +33,13 @@ QStringList wordsOf(const QString &program)
     return words;
 }
 
-/// The absolute paths in \a file with "inc" at the start of a folder's name.
+/// The absolute paths in \a file with "inc" at the start of a folder's name. Folders above that one
+/// may be called like "Program Files (x86)".
 QStringList pathsNamedIn(const QString &file)
 {
     static const QRegularExpression path(
-        u"(?<![A-Za-z0-9_.}/\\\\])([A-Za-z]:[/\\\\]|/)[-A-Za-z0-9_.+/\\\\]*"
+        u"(?<![A-Za-z0-9_.}/\\\\])([A-Za-z]:[/\\\\]|/)"
+        "([-A-Za-z0-9_.+/\\\\)]|[ (](?=[A-Za-z0-9])| (?=\\([A-Za-z0-9])){0,300}?"
         "[/\\\\]inc[-A-Za-z0-9_.+/\\\\]*"_s,
         QRegularExpression::CaseInsensitiveOption);
     QStringList paths;

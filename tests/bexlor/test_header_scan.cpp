@@ -74,9 +74,9 @@ private slots:
         writeTestFile(folder.filePath("cc.cfg"), "/DIN_CFG,-Dlower=1\n");
         writeTestFile(folder.filePath("cc.txt"), "-DNONE\n");
         Compiler compiler;
-        compiler.command = (folder.filePath("arm-acme-cc") + " -mcpu=cortex-m4 --model-large -m51 "
-                            + "-I/none -DIN_COMMAND=none /D IN_NEXT")
-                               .split(' ');
+        compiler.command = (folder.filePath("arm-acme-cc") + "|-mcpu=cortex-m4|--model-large|-m51|"
+                            + "-I/none|-DIN_COMMAND=none|/D|IN_NEXT")
+                               .split('|');
         QStringList names;
         for (const ScannedName &name : namesOfCompiler(compiler, "Odd 3.1"))
             names << name.text;
@@ -202,7 +202,8 @@ private slots:
             {"arm-eabi/include", "lib/arm/include"});
         row("around it", "acc", {"include"}, {"include"});
         row("far above", "bin/x/y/acc.exe", {"include"}, {"include"});
-        row("named in its file", "bin/acc", {"odd/includes/z80", "odd/lib"}, {"odd/includes/z80"});
+        row("named in its file", "bin/acc", {"a b (z)/incs/z80", "a b (z)/lib"},
+            {"a b (z)/incs/z80"});
         row("nothing", "bin/acc", {"lib", "share/acc"}, {});
     }
     void looksBesideCompilers()
@@ -215,8 +216,8 @@ private slots:
         for (const QString &directory : there)
             QDir().mkpath(top + directory);
         // Also as one that others are made from, and that is not there.
-        writeTestFile(top + program, QByteArray("\0x=", 3) + top.toUtf8() + "odd/includes/z80:"
-                                         + top.toUtf8() + "odd/lib;{B}" + top.toUtf8()
+        writeTestFile(top + program, QByteArray("\0x=", 3) + top.toUtf8() + "a b (z)/incs/z80:"
+                                         + top.toUtf8() + "a b (z)/lib;{B}" + top.toUtf8()
                                          + "include/inc\0" + top.toUtf8() + "include/none");
         QStringList expected;
         for (const QString &directory : directories)

@@ -127,8 +127,8 @@ private slots:
         writeTestFile(folder.filePath("own/x.h"), "#error\n");
         facts.searchPath.directories = QStringList {folder.filePath("own")};
         const QByteArray overriding =
-            "# -DNONE\n-DOTHER -D OVERRIDDEN=2 -UM9\n \"-DALSO=2 -DM5\"\n-isystem "
-            + folder.filePath("first").toLocal8Bit() + "\n-include x.h";
+            "# -DNONE\n-DOTHER -D OVERRIDDEN=2 -UM9\n \"-DALSO=2 -DM5\"\n-isystem \""
+            + folder.filePath("first").toLocal8Bit() + "\"\n-include x.h";
         const QString path = folder.filePath("odd \"name\".p_c");
         const Personality made = composePersonality(arguments, facts, {}, overriding);
         writeTestFile(path, personalityText(made));

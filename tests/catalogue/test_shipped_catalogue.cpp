@@ -57,13 +57,13 @@ private slots:
         const QTemporaryDir folder;
         const QString program = folder.filePath(answers.command.section(' ', 0, 0) + ".exe");
         QVERIFY(QFile::copy(STAND_IN, program));
-        answers.command.replace(QRegularExpression("^[^ ]+"), program);
+        answers.command.replace(QRegularExpression("^[^ ]+"), '"' + program + '"');
         QStringList call = generatorArguments(answers);
         call.first() = GENERATOR;
         platform::runProgram(call, folder.path(), patience);
         const QString attempted =
             QString::fromLocal8Bit(readTestFile(folder.filePath("compile.bat"))).trimmed();
-        QTEST(attempted.section(QRegularExpression("\\.exe\"? "), 1), "command");
+        QTEST(attempted.section(QRegularExpression("\\.exe[\"']? "), 1), "command");
     }
 
     // The generator makes the arguments of an entry itself when no wizard does.
