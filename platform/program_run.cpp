@@ -24,7 +24,7 @@ QProcessEnvironment quietEnvironment()
     for (const QString &variable :
          {u"DEPENDENCIES_OUTPUT"_s, u"SUNPRO_DEPENDENCIES"_s, u"GCC_EXTRA_DIAGNOSTIC_OUTPUT"_s,
           u"CC_PRINT_OPTIONS"_s, u"CC_PRINT_HEADERS"_s, u"CC_LOG_DIAGNOSTICS"_s,
-          u"CC_PRINT_PROC_STAT"_s})
+          u"CC_PRINT_PROC_STAT"_s, u"CC_PRINT_INTERNAL_STAT"_s})
         environment.remove(variable);
     return environment;
 }

@@ -715,12 +715,13 @@ private slots:
             "-Xpreprocessor -MD -Xpreprocessor $/a.d @words.rsp",
             {});
         row("of clang",
-            "clang -nostdinc -isystem include -Xclang -dependency-file -Xclang $/a.d -MJ b.d "
+            "clang-19 -nostdinc -isystem include -Xclang -dependency-file -Xclang $/a.d -MJ b.d "
             "-ftime-trace=c.i",
             {"CC_PRINT_OPTIONS=1", "CC_PRINT_OPTIONS_FILE=$/e.lst", "CC_PRINT_HEADERS=1",
              "CC_PRINT_HEADERS_FILE=$/d.map", "CC_LOG_DIAGNOSTICS=1",
              "CC_LOG_DIAGNOSTICS_FILE=$/f.o", "CC_PRINT_PROC_STAT=1",
-             "CC_PRINT_PROC_STAT_FILE=$/g.o"});
+             "CC_PRINT_PROC_STAT_FILE=$/g.o", "CC_PRINT_INTERNAL_STAT=1",
+             "CC_PRINT_INTERNAL_STAT_FILE=$/probe.d"});
     }
     void writesNothingOfTheUsers()
     {
