@@ -18,8 +18,7 @@ bool mayBeIncluded(const QString &name, bool isCpp)
     if (name.contains(u'>') || name.contains(u'\\'))
         return false;
     // Headers of C++ are there in directories of C, too, and tell those from others as well.
-    return isHeader(name, true) || name.endsWith(".inc"_L1)
-        || (isCpp && !name.contains(u'.'));
+    return isHeader(name, true) || name.endsWith(".inc"_L1) || (isCpp && !name.contains(u'.'));
 }
 
 } // namespace

@@ -390,13 +390,12 @@ private slots:
     void tellsClangWhatOptionsOfEntriesChange()
     {
         const Workshop workshop;
-        const QString compiler = workshop.compiler(
-            "case \"$*\" in *-O0*-dM*) exit 1 ;; *-dM*) echo >> \"$0.asked\" ;; esac\n"
-            "exec gcc \"$@\"");
+        const QString compiler = workshop.compiler("case \" $* \" in *\" -O0 \"*-dM*) exit 1 "
+                                                   ";; *\" -dM \"*) echo >> \"$0.asked\" ;; esac\n"
+                                                   "exec gcc \"$@\"");
         workshop.write("t.p_c", "-D__pic__=7\n");
-        const ProgramRun made =
-            workshop.generate("kov", '"' + compiler + "\" -O1",
-                              {"-xd", "N=1", "-xs", "-pthread", "-tpl", "t.p_c"});
+        const ProgramRun made = workshop.generate(
+            "kov", '"' + compiler + "\" -O1", {"-xd", "N=1", "-xs", "-pthread", "-tpl", "t.p_c"});
         QVERIFY2(made.succeeded(), made.output);
         QFile::remove(compiler + ".asked");
         QByteArray json;
@@ -438,11 +437,11 @@ private slots:
         // script: of a compiler that cannot be told what to call an object
         const Columns<QByteArray, QString, QString> row("script", "outputFlag", "order");
         row("writes beside the source",
-            "case \"$*\" in *-E*) exec tcc -nostdinc \"$@\" ;; esac\n"
+            "case \" $* \" in *\" -E \"*) exec tcc -nostdinc \"$@\" ;; esac\n"
             "for source; do :; done\nexec tcc -nostdinc \"$@\" -o \"${source%.c}.o\"",
             "", "%c %d%j %s ");
         row("takes names for programs only",
-            "case \"$*\" in *-c*) case \"$*\" in *-o*) exit 1 ;; esac ;; esac\n"
+            "case \" $* \" in *\" -c \"*) case \" $* \" in *\" -o \"*) exit 1 ;; esac ;; esac\n"
             "exec tcc -nostdinc \"$@\"",
             "-o", "%c %o %e %d%j %s ");
     }
@@ -569,11 +568,11 @@ private slots:
         row("drops constant arrays", "sed -i 's/\\(const " + arrays + good);
         row("drops all arrays", "sed -i 's/\\(" + arrays + good);
         row("leaves records of text and makes no programs",
-            "case \"$*\" in *-c*) ;; *) exit 1 ;; esac\n" + good
+            "case \" $* \" in *\" -c \"*) ;; *) exit 1 ;; esac\n" + good
                 + " && od -v -tx1 probe.o >x && mv x probe.o",
             "no file that holds the bytes");
         row("hides its objects and takes what would tell numbers",
-            "case \"$*\" in *-c*) ;; *) exit 1 ;; esac\n"
+            "case \" $* \" in *\" -c \"*) ;; *) exit 1 ;; esac\n"
             "sed -i -e '/^#error/d' -e 's/\\[1-2[^]]*\\]/[1]/' probe.c\n"
                 + good + " && echo >probe.o",
             "overlooks errors that would tell");
@@ -756,11 +755,11 @@ private slots:
     void keepsControlCharactersOutOfThePersonality()
     {
         const Workshop workshop;
-        const QString compiler =
-            workshop.compiler("case \"$*\" in\n"
-                              "*--version*) printf 'odd \\033[31mcc\\000 1.2\\n'; exit ;;\n"
-                              "*-dM*) printf '#define ODD a\\001b\\n#define EVEN 1\\n'; exit ;;\n"
-                              "esac\nexec tcc \"$@\"");
+        const QString compiler = workshop.compiler(
+            "case \" $* \" in\n"
+            "*\" --version \"*) printf 'odd \\033[31mcc\\000 1.2\\n'; exit ;;\n"
+            "*\" -dM \"*) printf '#define ODD a\\001b\\n#define EVEN 1\\n'; exit ;;\n"
+            "esac\nexec tcc \"$@\"");
         workshop.write("one\n-DEVIL=1/x.h", "__one\n");
         workshop.write("headers/two\n-DEVIL=2/y.h", "__two\n");
         workshop.write("headers/z\n-DEVIL=3.h", "__three\n");

@@ -96,7 +96,7 @@ private slots:
         const QStringList hidden {
             "sh", "-c",
             "gcc \"$@\" || exit\n"
-            "case \"$*\" in *-c*) echo >probe.o ;; *-E*) ;; *) exit 1 ;; esac",
+            "case \" $* \" in *\" -c \"*) echo >probe.o ;; *\" -E \"*) ;; *) exit 1 ;; esac",
             "sh"};
         QStringList own;
         for (const char *define :

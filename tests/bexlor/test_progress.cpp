@@ -42,8 +42,9 @@ private slots:
             const ProgressStep step(m_progress, "Step ...", [] { return QString("7"); });
             m_progress.grow();
         }
-        QCOMPARE(m_said, "Looking ... ... 120 ... 240 ... ... 360\nFound 2.\nNext.\\u202E\\u001B[2J\n"
-                         "Step ... 7\nStep ... 7\n");
+        QCOMPARE(m_said,
+                 "Looking ... ... 120 ... 240 ... ... 360\nFound 2.\nNext.\\u202E\\u001B[2J\n"
+                 "Step ... 7\nStep ... 7\n");
     }
 
     void keepsTheLinesOfSeveralThreadsWhole()
