@@ -1,7 +1,8 @@
 #include "object_file.h"
 
+#include "text_file.h"
+
 #include <QDirIterator>
-#include <QFile>
 #include <QRegularExpression>
 #include <QStringList>
 #include <algorithm>
@@ -10,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const qint64 largestObject = 64'000'000;
+const qint64 largestObject = platform::usualSizeLimit;
 
 /// The bytes in the lines "T" of an ASxxxx file, for example "T 00 00 61 62", each of which begins
 /// with an address.
@@ -90,9 +91,9 @@ QByteArray bytesLeftIn(const QString &folder, const QString &source, const QStri
     }
     QByteArray bytes;
     for (const QString &path : files) {
-        QFile file(path);
-        if (file.open(QIODevice::ReadOnly))
-            bytes += objectBytes(file.readAll()) + '\n';
+        const platform::FileContent file = platform::readFile(path, largestObject);
+        if (file.state == platform::FileContent::Whole)
+            bytes += objectBytes(file.bytes) + '\n';
     }
     return bytes;
 }

@@ -3,7 +3,6 @@
 #include "header_directories.h"
 #include "text_file.h"
 
-#include <QFile>
 #include <QRegularExpression>
 #include <algorithm>
 #include <map>
@@ -59,11 +58,8 @@ QSet<QByteArray> macrosOf(const QString &path)
         u"^[ \\t]*#[ \\t]*define[ \\t]+([A-Za-z_][A-Za-z0-9_]*)"_s,
         QRegularExpression::MultilineOption);
     QSet<QByteArray> names;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return names;
-    QRegularExpressionMatchIterator matches =
-        define.globalMatch(QString::fromLatin1(file.readAll()));
+    const QByteArray header = platform::readFile(path).bytes;
+    QRegularExpressionMatchIterator matches = define.globalMatch(QString::fromLatin1(header));
     while (matches.hasNext())
         names << matches.next().captured(1).toLatin1();
     return names;

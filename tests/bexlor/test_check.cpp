@@ -96,7 +96,7 @@ private slots:
             "'-O2', '-include', 'f.h', '-DA=1', '-D', 'B', '-MD', '-MF', 'a.d', '-o', 'a.o', '-c', "
             "'a.c']},\n"
             "{'directory': 'q', 'file': 'b.c', 'command': "
-            "'\\'c c\\' -DX=\\\\\\'y\\\\\\' \\'-DP=a b\\' --include=g.h -ob.o -- b.c'}]";
+            "'\\'c c\\' -DX=\\\\\\'y\\\\\\' \\'-DP=a b\\' --include=g.h -oprogram -- b.c'}]";
         const QString top = QDir::rootPath() + 'p';
         json.replace('\'', '"').replace("/p", top.toUtf8());
         const auto commands = parseDatabase(json, top);

@@ -69,6 +69,8 @@ private slots:
         row("MIPS", "__mips__ __ELF__", {}, big, "mips-unknown-none-elf");
         row("little-endian MIPS", "__mips64 __mips__ __ELF__", {}, little,
             "mips64el-unknown-none-elf");
+        row("little-endian MIPS of 32 bits", "__mips__ __ELF__", {}, little,
+            "mipsel-unknown-none-elf");
         row("RISC-V", "__riscv_xlen=32 __ELF__", {}, little, "riscv32-unknown-none-elf");
         row("LoongArch", "__loongarch_grlen=64 __linux__", {}, little,
             "loongarch64-unknown-linux-gnu");
