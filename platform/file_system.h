@@ -21,6 +21,9 @@ bool replaceFile(const QString &newPath, const QString &path);
 /// for programs that take it in one encoding or another.
 QString asciiPath(const QString &path);
 
+/// Whether the case of letters tells files apart.
+Qt::CaseSensitivity caseOfFileNames();
+
 /// A number for the file system on which \a path lies, links followed; nothing when the system does
 /// not tell.
 std::optional<quint64> fileSystemOf(const QString &path);

@@ -42,6 +42,11 @@ QString asciiPath(const QString &path)
     return path;
 }
 
+Qt::CaseSensitivity caseOfFileNames()
+{
+    return Qt::CaseSensitive;
+}
+
 std::optional<quint64> fileSystemOf(const QString &path)
 {
     struct stat status

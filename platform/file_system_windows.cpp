@@ -92,6 +92,11 @@ QString asciiPath(const QString &path)
     return name.isEmpty() ? path : QDir::fromNativeSeparators(withoutPrefix(name));
 }
 
+Qt::CaseSensitivity caseOfFileNames()
+{
+    return Qt::CaseInsensitive;
+}
+
 std::optional<quint64> fileSystemOf(const QString &path)
 {
     const DWORD all = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;

@@ -1,5 +1,6 @@
 #include "token_stream.h"
 
+#include "file_system.h"
 #include "text_file.h"
 
 #include <QDir>
@@ -209,7 +210,7 @@ void TokenStream::readMarker(QByteArrayView directive)
     m_isPassedOver =
         (m_passesSystemHeaders && isSystem && !m_projectFiles.contains(m_file))
         || std::any_of(m_ownHeaders.begin(), m_ownHeaders.end(), [this](const QString &folder) {
-               return m_file.startsWith(folder + QLatin1Char('/'));
+               return m_file.startsWith(folder + QLatin1Char('/'), platform::caseOfFileNames());
            });
 }
 

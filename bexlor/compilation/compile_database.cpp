@@ -1,6 +1,7 @@
 #include "compile_database.h"
 
 #include "command_line.h"
+#include "file_system.h"
 #include "path_options.h"
 #include "probe_options.h"
 
@@ -26,7 +27,8 @@ QString CompileCommand::absoluteFile() const
 
 bool CompileCommand::isNamedBy(const QString &word) const
 {
-    return CompileCommand {directory, word, {}}.absoluteFile() == absoluteFile();
+    const QString named = CompileCommand {directory, word, {}}.absoluteFile();
+    return named.compare(absoluteFile(), platform::caseOfFileNames()) == 0;
 }
 
 QStringList CompileCommand::compilingWords() const
