@@ -35,7 +35,7 @@ void print(const QString &text)
 void printOn(std::FILE *stream, const QString &lines)
 {
     for (const QString &line : lines.split(u'\n'))
-        platform::print(stream, visibleText(line) + u'\n');
+        platform::print(stream, printableText(line) + u'\n');
 }
 
 ExitStatus generate(Progress &progress, const Arguments &arguments, const QString &folder)

@@ -231,11 +231,11 @@ void SaveCompilerDetails::accept()
     const QString family = storedText(NewCmpFamEdit->text());
     const QString name = storedText(NewCmpNameEdit->text());
     const QString savedName = isKnown(family, name) ? name : withLanguage(name);
-    if (isNewEntryAccepted(family, name, savedName)) {
-        resultFamily = family;
-        resultName = savedName;
+    const bool isAccepted = isNewEntryAccepted(family, name, savedName);
+    resultFamily = family;
+    resultName = savedName;
+    if (isAccepted)
         SaveCompilerDetailsBase::accept();
-    }
 }
 
 void SaveCompilerDetails::reject()

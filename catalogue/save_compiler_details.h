@@ -16,8 +16,8 @@ public:
     QList<CompilerRecord> compilers;
     CompilerRecord currentRecord;
 
-    // The answer; empty texts until the dialog is accepted. The name ends with its language, unless
-    // it is for both.
+    // The answer, once the dialog has been closed; empty texts when it has been rejected. The name
+    // ends with its language, unless it is for both.
     QString resultFamily;
     QString resultName;
 

@@ -4,6 +4,7 @@
 #include "compiler_catalogue.h"
 #include "generator_interface.h"
 
+// The fields of one line, which the wizard tidies as it shows them.
 CompilerRecord tidied(CompilerRecord record)
 {
     for (QString *field : {&record.ExeCommand, &record.OutputFlag, &record.ObjectFlag,

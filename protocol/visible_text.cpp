@@ -44,20 +44,33 @@ bool isVisible(char32_t character)
     }
 }
 
+/// \a text with escapes for the characters that do not \a stay.
+QString escaped(const QString &text, bool (*stays)(char32_t character))
+{
+    QString result;
+    for (const char32_t character : text.toUcs4()) {
+        const int digits = QChar::requiresSurrogates(character) ? 8 : 4;
+        if (stays(character))
+            result += QChar::fromUcs4(character);
+        else
+            result += (digits == 8 ? "\\U"_L1 : "\\u"_L1)
+                    + QString::number(character, 16).toUpper().rightJustified(digits, u'0');
+    }
+    return result;
+}
+
 } // namespace
 
 QString visibleText(const QString &text)
 {
-    QString visible;
-    for (const char32_t character : text.toUcs4()) {
-        const int digits = QChar::requiresSurrogates(character) ? 8 : 4;
-        if (isVisible(character))
-            visible += QChar::fromUcs4(character);
-        else
-            visible += (digits == 8 ? "\\U"_L1 : "\\u"_L1)
-                     + QString::number(character, 16).toUpper().rightJustified(digits, u'0');
-    }
-    return visible;
+    return escaped(text, &isVisible);
+}
+
+QString printableText(const QString &text)
+{
+    return escaped(text, [](char32_t character) {
+        return isVisible(character) || QChar::category(character) == QChar::Separator_Space;
+    });
 }
 
 bool hasControlCharacter(const QString &text)

@@ -8,6 +8,9 @@
 /// and letters without a shape.
 QString visibleText(const QString &text);
 
+/// The same of a text that is printed, and perhaps copied from there: spaces of all kinds stay.
+QString printableText(const QString &text);
+
 /// Whether \a text holds a control character other than a tab: it may end a line, or a text, for
 /// another program that reads it.
 bool hasControlCharacter(const QString &text);

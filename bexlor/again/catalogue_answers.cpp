@@ -6,7 +6,6 @@
 #include "product_language.h"
 #include "record_arguments.h"
 #include "text_file.h"
-#include "visible_text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,7 +16,7 @@ QString withLines(const QString &sentence, const QStringList &lines)
 {
     QString text = sentence;
     for (const QString &line : lines)
-        text += "\n  "_L1 + visibleText(line);
+        text += "\n  "_L1 + line;
     return text;
 }
 

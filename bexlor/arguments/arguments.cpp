@@ -41,7 +41,8 @@ std::variant<UsageError, Arguments> parseArguments(const QStringList &list)
     arguments.layout.objectFlag = reader.value();
     arguments.layout.defineFlag = reader.value();
     arguments.layout.objectExtension = reader.value();
-    arguments.layout.order = parseOrderString(reader.value());
+    arguments.order = reader.value();
+    arguments.layout.order = parseOrderString(arguments.order);
     while (reader.flag(generator::headerDirectory))
         arguments.headerDirectories << reader.path();
     reader.expect(generator::personality);

@@ -32,6 +32,7 @@ struct Arguments
     bool crossCompiler = false;
     QString command; ///< the compiler command as it was passed, quotes included
     CommandLayout layout;
+    QString order; ///< of the layout, as it was passed
     QStringList headerDirectories;
     QString personality; ///< path of the file to write
     QStringList defines; ///< NAME or NAME=VALUE; without a define flag, also -DNAME and the like

@@ -46,7 +46,7 @@ QString problemWithCommand(const Arguments &arguments)
     const QList<OrderToken> &tokens = arguments.layout.order;
     if (tokens.isEmpty() || tokens.first().part != CommandPart::Command) {
         return u"The order of the compile command does not begin with the command: %1"_s.arg(
-            orderString(tokens));
+            arguments.order);
     }
     return QString();
 }

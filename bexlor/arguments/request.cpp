@@ -149,7 +149,8 @@ QString help()
                     source; for example "%c %o %e %d%j %s "
   -i DIRECTORY      that holds the compiler's headers or programs
   -op PERSONALITY   the file to write
-  -xd DEFINES       NAME or NAME=VALUE, separated by commas
+  -xd DEFINES       NAME or NAME=VALUE, separated by commas; where there is no define flag,
+                    those that bring their own, such as -DNAME
   -xs SWITCHES      added to the command, separated by commas
   -tpl FILE         of options that override what is learned
   -fi FILE          that is included before every source
@@ -173,7 +174,8 @@ VS Code, or all facts as JSON.
 
 The exit status is 0 when it is done; 1 when a step failed or clang rejects what the compiler
 accepts; 2 for a wrong command line; 3 when a check or an export lacks something that it
-needs, or what was to be verified has changed.)");
+needs, the compiler accepts nothing that was to be checked, or what was to be verified has
+changed.)");
 }
 
 Request parseRequest(const QStringList &list)

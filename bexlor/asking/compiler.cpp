@@ -113,8 +113,8 @@ Compiler findCompiler(const Arguments &arguments)
     Compiler compiler;
     compiler.layout = arguments.layout;
     compiler.defines = arguments.defines;
-    const QStringList unnamed = unnamedDefines(arguments);
-    compiler.defines.removeIf([&](const QString &define) { return unnamed.contains(define); });
+    if (arguments.layout.defineFlag.isEmpty())
+        compiler.defines.removeIf([](const QString &define) { return !bringsOwnFlag(define); });
     compiler.isCpp = arguments.isCpp;
     compiler.isCross = arguments.crossCompiler;
     QStringList words = commandWords(arguments.command);

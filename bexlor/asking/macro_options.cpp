@@ -1,5 +1,6 @@
 #include "macro_options.h"
 
+#include <QFileInfo>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
@@ -9,13 +10,14 @@ std::optional<MacroOption> macroOptionAt(const QStringList &words, qsizetype ind
 {
     static const QRegularExpression apart(
         u"^(?:[-/][DU]|--?define(?:-macro)?|--undef(?:ine-macro)?)$"_s);
+    // "/DNAME", but no path such as "/Users/x".
     static const QRegularExpression joined(
-        u"^(?:[-/][DU]|--?define(?:-macro)?=|--undef(?:ine-macro)?=|-Wp,-[DU])(.+)$"_s);
+        u"^(?:-[DU]|/[DU](?=[A-Za-z_$][\\w$]*(?:$|[=#(]))|--?define(?:-macro)?=|--undef(?:ine-macro)?=|-Wp,-[DU])(.+)$"_s);
     const QString &word = words[index];
     if (word.contains(apart) || (!defineFlag.isEmpty() && word == defineFlag))
         return index + 1 < words.size() ? MacroOption {words[index + 1], 2} : MacroOption();
     const QRegularExpressionMatch match = joined.match(word);
-    if (match.hasMatch())
+    if (match.hasMatch() && !(word.startsWith(u'/') && QFileInfo::exists(word)))
         return MacroOption {match.captured(1)};
     if (!defineFlag.isEmpty() && word.startsWith(defineFlag))
         return MacroOption {word.mid(defineFlag.size())};

@@ -77,13 +77,11 @@ QStringList decidingWords(const CompileCommand &command, const CommandLayout &la
     return withAbsolutePaths(program + deciding, layout, command.directory);
 }
 
-/// The words of \a switches, which no compile command names, that decide macros.
-QStringList decidingSwitches(const QStringList &switches, const QString &objectFlag)
+/// The options of \a words, which start the compiler here, that decide macros.
+QStringList decidingOptions(const QStringList &words, const CommandLayout &layout)
 {
-    QStringList words;
-    for (const QString &item : switches)
-        words << decidingWords(splitCommand(item), objectFlag);
-    return words;
+    const QStringList deciding = decidingWords({QDir::currentPath(), {}, words}, layout);
+    return deciding.sliced(firstOption(deciding));
 }
 
 /// The words by which \a compiler is told of macros.
@@ -180,11 +178,13 @@ CommandDifferences::CommandDifferences(const Personality &personality, const Com
                                        const QString &source)
     : m_personality(personality), m_compiler(compiler), m_source(source)
 {
-    const QStringList words =
-        decidingWords({QFileInfo(source).path(), {}, compiler.command}, compiler.layout);
-    m_switches = decidingSwitches(personality.switches, compiler.layout.objectFlag);
-    const qsizetype start = firstOption(words);
-    m_ownOptions = words.mid(start, words.size() - start - m_switches.size());
+    QStringList switches = compiler.command.first(std::min<qsizetype>(compiler.command.size(), 1));
+    for (const QString &item : personality.switches)
+        switches << splitCommand(item);
+    m_switches = decidingOptions(switches, compiler.layout);
+    // They stand behind the command's own.
+    const QStringList options = decidingOptions(compiler.command, compiler.layout);
+    m_ownOptions = options.first(options.size() - m_switches.size());
 }
 
 QList<Macro> CommandDifferences::macrosUnder(const QStringList &command)

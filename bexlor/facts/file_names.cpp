@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Upper case tells C++ from C on Unix.
+// Upper case tells sources of C++ from those of C on Unix; headers of either were named on DOS.
 const struct Extension
 {
     QLatin1StringView text;
@@ -17,7 +17,7 @@ const struct Extension
     {"c"_L1, true, false, false},   {"C"_L1, false, true, false},   {"cc"_L1, false, true, false},
     {"cp"_L1, false, true, false},  {"cpp"_L1, false, true, false}, {"CPP"_L1, false, true, false},
     {"cxx"_L1, false, true, false}, {"c++"_L1, false, true, false}, {"h"_L1, true, true, true},
-    {"H"_L1, false, true, true},    {"hh"_L1, false, true, true},   {"hpp"_L1, false, true, true},
+    {"H"_L1, true, true, true},     {"hh"_L1, false, true, true},   {"hpp"_L1, false, true, true},
     {"hxx"_L1, false, true, true},  {"h++"_L1, false, true, true},
 };
 

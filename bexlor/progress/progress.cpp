@@ -31,7 +31,7 @@ void Progress::say(const QString &line)
 {
     const std::scoped_lock lock(m_mutex);
     endLine();
-    m_write(visibleText(line) + u'\n');
+    m_write(printableText(line) + u'\n');
 }
 
 void Progress::begin(const QString &text, const State &state)

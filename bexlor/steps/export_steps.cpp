@@ -87,11 +87,12 @@ ExitStatus writeForClang(Progress &progress, const ExportRequest &request,
         OptionsForClang forClang({content, project->compiler, *source}, accepted);
         const QByteArray database = compileCommands(project->commands, project->clang.program,
                                                     request.personality, forClang);
+        const ExitStatus status = write(progress, request.output, database);
         const QString remark = forClang.remarkOnTypes();
         // The standard output may be the database itself.
         if (!remark.isEmpty() && !request.output.isEmpty())
             progress.say(remark);
-        return write(progress, request.output, database);
+        return status;
     }
     const CompileCommand ownCommand {folder, {}, project->compiler.command};
     for (const CompileCommand &command : project->commands + QList {ownCommand})

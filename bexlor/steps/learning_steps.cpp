@@ -4,7 +4,6 @@
 #include "clang.h"
 #include "probe_steps.h"
 #include "tools_and_files.h"
-#include "visible_text.h"
 
 #include <QFileInfo>
 

@@ -118,7 +118,7 @@ private slots:
         row("nothing odd", "cc", 2, {"-xs", "-a\t-b", "-tpl", "..\\own\\..\\t"}, "");
         row("flags of a DOS tradition", "/Fo:", 3, none, "");
         row("nothing to start", "\" \"", 2, none, "There is no compiler command");
-        row("order without the command", "%o%e %s ", 7, none, order);
+        row("order without the command", "odd", 7, none, order + ": odd");
         row("command behind another token", "%j %c %s ", 7, none, order);
         row("path behind a flag", "-o/etc/x", 3, none, "The output flag holds a path");
         row("drive behind a flag", "-oC:", 3, none, "The output flag holds a path");

@@ -394,8 +394,9 @@ private slots:
                                                    ";; *\" -dM \"*) echo >> \"$0.asked\" ;; esac\n"
                                                    "exec gcc \"$@\"");
         workshop.write("t.p_c", "-D__pic__=7\n");
-        const ProgramRun made = workshop.generate(
-            "kov", '"' + compiler + "\" -O1", {"-xd", "N=1", "-xs", "-pthread", "-tpl", "t.p_c"});
+        const ProgramRun made =
+            workshop.generate("kov", '"' + compiler + "\" -O1",
+                              {"-xd", "N=1", "-xs", "-pthread,-MMD", "-tpl", "t.p_c"});
         QVERIFY2(made.succeeded(), made.output);
         QFile::remove(compiler + ".asked");
         QByteArray json;
@@ -406,7 +407,7 @@ private slots:
                  {"-O2 -U__OPTIMIZE__", "!defined __OPTIMIZE__ && N == 1 && defined _REENTRANT"},
                  {"-O0", "N == 1"},
                  {"-m32", "__SIZEOF_POINTER__ == 4 && defined __i386__ && !defined __x86_64__"},
-                 {"-fPIC", "__PIC__ == 2"},
+                 {"-fPIC --sysroot /Users/x", "__PIC__ == 2"},
              }) {
             const QByteArray name = QByteArray::number(json.size()) + ".c";
             workshop.write(name, QByteArray("#if !(") + condition + ")\n#error\n#endif\n");

@@ -154,7 +154,7 @@ private slots:
             return QDir(folder.path()).canonicalPath() + '/' + name;
         };
         for (const char *file :
-             {"intrinsics/immintrin.h", "user/a.hpp", "searched/a.h", "stand-in/a.h"})
+             {"intrinsics/immintrin.h", "user/a.hpp", "searched/A.H", "stand-in/a.h"})
             writeTestFile(at(file));
         QDir(folder.path()).mkdir("empty");
         Arguments arguments;

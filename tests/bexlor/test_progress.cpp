@@ -37,13 +37,13 @@ private slots:
             m_progress.say("Found 2.");
             m_progress.grow();
         }
-        m_progress.say("Next.\u202e\x1b[2J");
+        m_progress.say("Next.\u3000\u202e\x1b[2J");
         for (int i = 0; i < 2; ++i) {
             const ProgressStep step(m_progress, "Step ...", [] { return QString("7"); });
             m_progress.grow();
         }
         QCOMPARE(m_said,
-                 "Looking ... ... 120 ... 240 ... ... 360\nFound 2.\nNext.\\u202E\\u001B[2J\n"
+                 "Looking ... ... 120 ... 240 ... ... 360\nFound 2.\nNext.\u3000\\u202E\\u001B[2J\n"
                  "Step ... 7\nStep ... 7\n");
     }
 

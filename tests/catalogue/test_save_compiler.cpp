@@ -150,8 +150,8 @@ private slots:
         QCOMPARE(messages, QStringList());
         QCOMPARE(dialog.isVisible(), result.isEmpty());
         if (result.isEmpty()) {
-            QVERIFY(dialog.resultFamily.isEmpty() && dialog.resultName.isEmpty());
             dialog.buttonCancel->click();
+            QVERIFY(dialog.resultFamily.isEmpty() && dialog.resultName.isEmpty());
         } else {
             QCOMPARE(dialog.resultFamily + '/' + dialog.resultName, result);
         }
