@@ -30,6 +30,10 @@ private slots:
         user.type(user->CmpDefFlagEdit, "-D");
         user.type(user->CmpObjExtFlagEdit, "o ");
         QCOMPARE(user->toCommaList("A\nB=1"), "A,B=1");
+        const QString order = user->commandOrderString();
+        user->applyOrderString("%s %c ");
+        QCOMPARE(user->commandOrderString(), "%s %c ");
+        user->applyOrderString(order);
         user.press(QWizard::NextButton);
         user->CmpHdrDirListBox->addItems({"\\inc one", "\\größe"});
         user.press(QWizard::NextButton);

@@ -395,7 +395,7 @@ private slots:
                                                    "exec gcc \"$@\"");
         workshop.write("t.p_c", "-D__pic__=7\n");
         const ProgramRun made =
-            workshop.generate("kov", '"' + compiler + "\" -O1",
+            workshop.generate("kov", '"' + compiler + "\" -O1 -ansi",
                               {"-xd", "N=1", "-xs", "-pthread,-MMD", "-tpl", "t.p_c"});
         QVERIFY2(made.succeeded(), made.output);
         QFile::remove(compiler + ".asked");
@@ -428,7 +428,7 @@ private slots:
         QVERIFY2(exported.output.contains("with their options: 1 (odd compiler -m32)"),
                  exported.output);
         const QString database = workshop.read("for_clang.json");
-        QVERIFY2(database.contains("\"-U__PIE__\"")
+        QVERIFY2(database.contains("\"-U__PIE__\"") && database.contains("\"-std=gnu17\"")
                      && !database.contains("__pic__"), // which the template settles
                  qPrintable(database));
     }
