@@ -97,9 +97,10 @@ private slots:
             "-m32",
             "-include a.h=-include a.h|-imacros b.h=-imacros b.h|--include c.h=-include c.h|"
             "--preinclude d.h=-include d.h|/FI e.h=-include e.h");
-        row("joined", "-includea.h -imacrosb.h --include=c.h --imacros=d.h -preinclude=e.h /FIf.h",
-            "",
-            "-includea.h=-include a.h|-imacrosb.h=-imacros b.h|--include=c.h=-include c.h|"
+        row("joined",
+            "-includea.h -imacrosb.h --include=imacros.h --imacros=d.h -preinclude=e.h /FIf.h", "",
+            "-includea.h=-include a.h|-imacrosb.h=-imacros b.h|--include=imacros.h=-include "
+            "imacros.h|"
             "--imacros=d.h=-imacros d.h|-preinclude=e.h=-include e.h|/FIf.h=-include f.h");
         row("others", "-include-pch a --include-dir b --include-directory=c -include",
             "-include-pch a --include-dir b --include-directory=c -include", "");
@@ -113,6 +114,22 @@ private slots:
         for (const IncludedFile &file : compiler.includedFirst)
             included << file.words.join(' ') + '=' + file.option + ' ' + file.file;
         QTEST(included.join('|'), "included");
+    }
+
+    void namesDefines()
+    {
+        Arguments arguments;
+        arguments.command = "cc";
+        arguments.defines = QStringList {"A=1", "-DB=2", "/DC"};
+        arguments.layout.order = parseOrderString("%c %d%s ");
+        QCOMPARE(unnamedDefines(arguments), QStringList {"A=1"});
+        const Compiler compiler = findCompiler(arguments);
+        QCOMPARE(probeCommand(compiler, "x.c", {}).mid(1).join(' '), "-DB=2 /DC x.c");
+        QCOMPARE(commandWithDefines(compiler).mid(1).join(' '), "-DB=2 /DC");
+        arguments.layout.defineFlag = "-d";
+        arguments.defines = QStringList {"A=1"};
+        QVERIFY(unnamedDefines(arguments).isEmpty());
+        QCOMPARE(commandWithDefines(findCompiler(arguments)).mid(1).join(' '), "-DA=1");
     }
 
     void ordersTheCommand_data()

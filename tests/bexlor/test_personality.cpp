@@ -154,13 +154,14 @@ private slots:
             return QDir(folder.path()).canonicalPath() + '/' + name;
         };
         for (const char *file :
-             {"intrinsics/immintrin.h", "user/a.hpp", "searched/A.H", "stand-in/a.h"})
+             {"intrinsics/immintrin.h", "user/a.hpp", "dos/A.H", "searched/a.h", "stand-in/a.h"})
             writeTestFile(at(file));
         QDir(folder.path()).mkdir("empty");
         Arguments arguments;
         arguments.isCpp = true;
         arguments.substituteHeaders = at("stand-in");
-        arguments.headerDirectories = QStringList {at("searched"), at("user"), at("empty")};
+        arguments.headerDirectories =
+            QStringList {at("searched"), at("user"), at("dos"), at("empty")};
         Facts facts;
         facts.searchPath = {{at("own"), at("intrinsics"), at("searched")}, {at("quoted")}};
         CommandParts parts;
@@ -173,16 +174,16 @@ private slots:
         QCOMPARE(
             shown(),
             "-nostdlibinc\n-D_GCC_NEXT_LIMITS_H=\n-isystem stand-in\n-iquote quoted\n-isystem own\n"
-            "-idirafter intrinsics\n-idirafter searched\n-idirafter user");
+            "-idirafter intrinsics\n-idirafter searched\n-idirafter user\n-idirafter dos");
         // What the command names by -I, but for what the compiler has kept in its own path.
         parts.includeDirectories = QStringList {at("user"), at("own"), at("searched")};
         QCOMPARE(shown(),
                  "-nostdlibinc\n-D_GCC_NEXT_LIMITS_H=\n-I stand-in\n-iquote quoted\n-I own\n"
-                 "-idirafter intrinsics\n-idirafter searched\n-idirafter user");
+                 "-idirafter intrinsics\n-idirafter searched\n-idirafter user\n-idirafter dos");
         facts.macros.known = {{"__clang__", "1"}};
         QVERIFY(shown().startsWith("-nostdinc\n") && shown().contains("-isystem intrinsics"));
         arguments.isCpp = false;
-        QVERIFY(!shown().contains("user"));
+        QVERIFY(!shown().contains("user") && shown().contains("dos"));
     }
 };
 
