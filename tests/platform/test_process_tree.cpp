@@ -80,7 +80,7 @@ private slots:
         const auto areStarted = [&] {
             return QFile::exists(folder.filePath("beat")) && run.output.size() >= 1'000'000;
         };
-        for (int limit = 1500; limit < patience && !areStarted(); limit *= 2)
+        for (int limit = 300; limit < patience && !areStarted(); limit *= 2)
             run = platform::runProgram({standIn}, folder.path(), limit);
         QCOMPARE(run.ending, platform::ProgramRun::TimedOut);
         QCOMPARE(run.output.size(), 1'000'000);
