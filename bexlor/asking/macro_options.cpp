@@ -12,7 +12,8 @@ std::optional<MacroOption> macroOptionAt(const QStringList &words, qsizetype ind
         u"^(?:[-/][DU]|--?define(?:-macro)?|--undef(?:ine-macro)?)$"_s);
     // "/DNAME", but no path such as "/Users/x".
     static const QRegularExpression joined(
-        u"^(?:-[DU]|/[DU](?=[A-Za-z_$][\\w$]*(?:$|[=#(]))|--?define(?:-macro)?=|--undef(?:ine-macro)?=|-Wp,-[DU])(.+)$"_s);
+        u"^(?:-[DU]|/[DU](?=[A-Za-z_$][\\w$]*(?:$|[=#(]))|--?define(?:-macro)?=|"
+        "--undef(?:ine-macro)?=|-Wp,-[DU])(.+)$"_s);
     const QString &word = words[index];
     if (word.contains(apart) || (!defineFlag.isEmpty() && word == defineFlag))
         return index + 1 < words.size() ? MacroOption {words[index + 1], 2} : MacroOption();

@@ -182,9 +182,9 @@ CommandDifferences::CommandDifferences(const Personality &personality, const Com
     for (const QString &item : personality.switches)
         switches << splitCommand(item);
     m_switches = decidingOptions(switches, compiler.layout);
-    // They stand behind the command's own.
-    const QStringList options = decidingOptions(compiler.command, compiler.layout);
-    m_ownOptions = options.first(options.size() - m_switches.size());
+    // They stand behind the command's own, the last of which may have taken one for its value.
+    m_ownOptions = decidingOptions(compiler.command, compiler.layout);
+    m_ownOptions.resize(std::max<qsizetype>(m_ownOptions.size() - m_switches.size(), 0));
 }
 
 QList<Macro> CommandDifferences::macrosUnder(const QStringList &command)

@@ -36,7 +36,7 @@ QStringList CompileCommand::compilingWords() const
     QStringList compiling = withoutOtherPurposes(withoutResponseFiles(words, directory));
     if (compiling.isEmpty())
         compiling = words; // a response file in which there is nothing
-    if (QDir::fromNativeSeparators(compiling.first()).contains(u'/'))
+    if (QDir::fromNativeSeparators(compiling.value(0)).contains(u'/'))
         compiling.first() = QDir(directory).absoluteFilePath(compiling.first());
     return compiling;
 }

@@ -71,6 +71,26 @@ private slots:
         QVERIFY2(check.output.contains("a.c: same\n"), check.output);
     }
 
+    void readsAnswersOfAnyKind_data()
+    {
+        const Columns<QByteArray> row("command");
+        row("a switch taken for a value", "arm-none-eabi-gcc -MF");
+        row("nothing in a response file", "@empty.rsp");
+    }
+    void readsAnswersOfAnyKind()
+    {
+        QFETCH(QByteArray, command);
+        writeTestFile(m_folder.filePath("empty.rsp"), "");
+        writeTestFile(m_folder.filePath("odd.p_c"),
+                      read("arm.p_c")
+                          .replace("\"arm-none-eabi-gcc -fno-ipa-ra\"", '"' + command + '"')
+                          .replace("\"-op\",\"\"", "\"-op\",\"\",\"-xs\",\"-pthread\"")
+                          .replace("\n#: answers", "\n#: switch -pthread\n#: answers"));
+        const ProgramRun made =
+            run({GENERATOR, "export", "odd.p_c", "compile-commands", "all.json"});
+        QVERIFY2(made.succeeded() && made.output.contains("odd.p_c"), made.output);
+    }
+
     void namesWhatClangdRemoves()
     {
         const ProgramRun made = exportTo({"clangd", "all.json"});
