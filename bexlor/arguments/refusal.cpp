@@ -1,9 +1,9 @@
 #include "refusal.h"
 
-#include "generator_interface.h"
 #include "order_tokens.h"
 #include "quoting.h"
 #include "typed_command.h"
+#include "unseen_files.h"
 #include "visible_text.h"
 
 #include <QDir>
@@ -24,18 +24,6 @@ const struct Part
     {"object flag"_L1, &CommandLayout::objectFlag},
     {"define flag"_L1, &CommandLayout::defineFlag},
     {"object file extension"_L1, &CommandLayout::objectExtension},
-};
-
-const struct NamedFile
-{
-    QLatin1StringView name;
-    QString Arguments::*path;
-    QLatin1StringView folder;
-} namedFiles[] = {
-    {"template"_L1, &Arguments::templateFile, generator::templateFolder},
-    {"force-include file"_L1, &Arguments::forceIncludeFile, generator::forceIncludeFolder},
-    {"folder of substitute headers"_L1, &Arguments::substituteHeaders,
-     generator::substituteHeadersFolder},
 };
 
 QString problemWithCommand(const Arguments &arguments)
@@ -89,7 +77,7 @@ bool leavesFolder(const QString &path, QLatin1StringView folder)
 
 QString problemWithFiles(const Arguments &arguments)
 {
-    for (const NamedFile &file : namedFiles) {
+    for (const UnseenFile &file : unseenFiles) {
         const QString &path = arguments.*file.path;
         if (leavesFolder(path, file.folder)) {
             return u"The %1 does not lie in the folder %2: %3"_s.arg(file.name, file.folder, path);

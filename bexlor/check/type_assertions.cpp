@@ -1,5 +1,7 @@
 #include "type_assertions.h"
 
+#include "type_measures.h"
+
 namespace {
 
 const QByteArray start =
@@ -35,13 +37,10 @@ QByteArray nameOf(QByteArray type)
 
 QByteArray basicAssertions(const Type &type)
 {
-    const QByteArray name = nameOf(type.name), structure = "struct calyx_behind_char_" + name;
-    const QByteArray member =
-        type.name.endsWith("(void)") ? "void (*member)(void)" : type.name + " member";
-    return structure + " { char before; " + member + "; };\n"
-         + sizeAssertion(name, type.name, type.size)
-         + assertion("alignment_of_" + name, "sizeof(" + structure + ") - sizeof(" + type.name
-                                                 + ") == " + QByteArray::number(type.alignment));
+    const QByteArray name = nameOf(type.name), structure = "calyx_behind_char_" + name;
+    return structureBehindChar(structure, type.name) + sizeAssertion(name, type.name, type.size)
+         + assertion("alignment_of_" + name, alignmentIn(structure, type.name)
+                                                 + " == " + QByteArray::number(type.alignment));
 }
 
 QByteArray signAssertion(const QByteArray &type, bool isUnsigned)
@@ -88,11 +87,11 @@ QByteArray typeAssertions(const Facts &facts, bool isCpp)
     if (types.charIsUnsigned)
         source += signAssertion("char", *types.charIsUnsigned);
     if (types.smallEnumSize != 0) {
-        source += "enum calyx_enumeration { CALYX_SMALL };\n"
+        source += smallEnumeration("calyx_enumeration")
                 + sizeAssertion("enumeration", "enum calyx_enumeration", types.smallEnumSize);
     }
     if (types.bitFieldSize != 0) {
-        source += "struct calyx_bit_field { char before; int member : 4; };\n"
+        source += bitFieldStructure("calyx_bit_field")
                 + sizeAssertion("bit_field", "struct calyx_bit_field", types.bitFieldSize);
     }
     source += byteOrderAssertion(facts);

@@ -2,6 +2,7 @@
 
 #include "integer_types.h"
 #include "probe_line.h"
+#include "type_measures.h"
 
 namespace {
 
@@ -14,12 +15,6 @@ QList<QByteArray> namesOfIntegerTypes()
     for (const IntegerType &type : integerTypes())
         names << type.name;
     return names;
-}
-
-/// A member of type \a type and the given name.
-QByteArray declared(const QByteArray &type, const QByteArray &name)
-{
-    return type.endsWith("(*)(void)") ? "void (*" + name + ")(void)" : type + ' ' + name;
 }
 
 /// What has been read back of an integer type.
@@ -150,7 +145,7 @@ std::optional<bool> charIsUnsigned(const Questions &questions, const QList<Shape
 /// The name of the structure whose only members are a character and a basic type.
 QByteArray structureOf(const QByteArray &type)
 {
-    return "struct calyx_" + QByteArray::number(basicTypes.indexOf(type)) + 's';
+    return "calyx_" + QByteArray::number(basicTypes.indexOf(type)) + 's';
 }
 
 /// Rejected, with a \a name of its own, if \a expression is not \a value.
@@ -170,10 +165,8 @@ QList<Type> confirmed(const Questions &questions, const QByteArray &prelude,
     QList<QByteArray> assertions;
     for (const Type &type : types) {
         const QByteArray number = QByteArray::number(assertions.size());
-        const QByteArray size = "sizeof(" + type.name + ')';
-        assertions << assertion(number + 'a', size, type.size)
-                          + assertion(number + 'b',
-                                      "sizeof(" + structureOf(type.name) + ")-" + size,
+        assertions << assertion(number + 'a', "sizeof(" + type.name + ')', type.size)
+                          + assertion(number + 'b', alignmentIn(structureOf(type.name), type.name),
                                       type.alignment);
     }
     const QList<bool> isConfirmed = questions.accepted(prelude, assertions);
@@ -181,31 +174,26 @@ QList<Type> confirmed(const Questions &questions, const QByteArray &prelude,
     return isConfirmed.value(0) ? selected(types, isConfirmed) : types;
 }
 
-// In some compilers the bits lie beside the character, in others in an int of their own.
-const QByteArray bitFieldStructure = "struct calyx_b { char c; int b : 4; };\n";
-
 /// Measures those of the basic types that the compiler has, and what it makes of a bit-field.
 void measureTypes(const Questions &questions, TypeFacts &types)
 {
-    // Where a member lies behind a single character tells its alignment.
+    const QByteArray bitFields = bitFieldStructure("calyx_b");
     QList<QByteArray> structures;
-    for (qsizetype i = 0; i < basicTypes.size(); ++i) {
-        structures << structureOf(basicTypes[i]) + " { char c; " + declared(basicTypes[i], "t")
-                          + "; };\n";
-    }
-    const QList<bool> isKnown = questions.accepted({}, structures + QList {bitFieldStructure});
+    for (const QByteArray &type : basicTypes)
+        structures << structureBehindChar(structureOf(type), type);
+    const QList<bool> isKnown = questions.accepted({}, structures + QList {bitFields});
     QByteArray prelude;
     QList<QByteArray> names, expressions;
     for (qsizetype i = 0; i < basicTypes.size(); ++i) {
         if (!isKnown[i])
             continue;
-        const QByteArray size = "sizeof(" + basicTypes[i] + ')';
         prelude += structures[i];
         names << basicTypes[i];
-        expressions << size << "sizeof(" + structureOf(basicTypes[i]) + ")-" + size;
+        expressions << "sizeof(" + basicTypes[i] + ')'
+                    << alignmentIn(structureOf(basicTypes[i]), basicTypes[i]);
     }
     if (isKnown.last()) {
-        prelude += bitFieldStructure;
+        prelude += bitFields;
         expressions << "sizeof(struct calyx_b)";
     }
     const QList<std::optional<int>> values = questions.numbers(prelude, expressions);
@@ -228,7 +216,7 @@ TypeFacts learnTypes(const Questions &questions)
     const QList<Shape> shapes = shapesOf(questions, {}, namesOfIntegerTypes());
     types.charIsUnsigned = charIsUnsigned(questions, shapes);
     types.smallEnumSize =
-        questions.numbers("enum calyx_enum { CALYX_A };\n", {"sizeof(enum calyx_enum)"})
+        questions.numbers(smallEnumeration("calyx_enum"), {"sizeof(enum calyx_enum)"})
             .first()
             .value_or(0);
     types.byteOrder = byteOrder(questions);

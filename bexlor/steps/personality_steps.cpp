@@ -7,6 +7,7 @@
 #include "refusal.h"
 #include "text_file.h"
 #include "tools_and_files.h"
+#include "unseen_files.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -14,6 +15,18 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// The template of \a arguments, empty if they name none; nothing when it cannot be read.
+std::optional<QByteArray> readTemplate(const Arguments &arguments)
+{
+    if (arguments.templateFile.isEmpty())
+        return QByteArray();
+    const platform::FileContent file = platform::readFile(arguments.templateFile);
+    if (file.state != platform::FileContent::Whole)
+        return {};
+    // Clang reads it in UTF-8.
+    return platform::decodedText(file.bytes).toUtf8();
+}
 
 QString templateUnreadable(const Arguments &arguments)
 {
@@ -25,15 +38,13 @@ QString problemWith(const Arguments &arguments)
 {
     if (const QString reason = refusalReason(arguments); !reason.isEmpty())
         return reason;
-    if (!arguments.templateFile.isEmpty() && !platform::readTextFile(arguments.templateFile))
-        return templateUnreadable(arguments);
-    if (!arguments.forceIncludeFile.isEmpty() && !QFileInfo(arguments.forceIncludeFile).isFile())
-        return u"The force-include file does not exist: %1"_s.arg(arguments.forceIncludeFile);
-    if (!arguments.substituteHeaders.isEmpty() && !QFileInfo(arguments.substituteHeaders).isDir()) {
-        return u"The folder of substitute headers does not exist: %1"_s.arg(
-            arguments.substituteHeaders);
+    for (const UnseenFile &file : unseenFiles) {
+        const QString &path = arguments.*file.path;
+        const QFileInfo info(path);
+        if (!path.isEmpty() && !(file.isFolder ? info.isDir() : info.isFile()))
+            return u"The %1 does not exist: %2"_s.arg(file.name, path);
     }
-    return QString();
+    return readTemplate(arguments) ? QString() : templateUnreadable(arguments);
 }
 
 } // namespace
@@ -45,14 +56,9 @@ std::optional<Arguments> checkArguments(Progress &progress, const Arguments &arg
         progress.say(problem);
         return {};
     }
-    const std::pair<QLatin1StringView, QString> unseen[] = {
-        {"Template"_L1, arguments.templateFile},
-        {"Force-include file"_L1, arguments.forceIncludeFile},
-        {"Substitute headers"_L1, arguments.substituteHeaders},
-    };
-    for (const auto &[name, path] : unseen) {
-        if (!path.isEmpty())
-            progress.say(name + ": "_L1 + path);
+    for (const UnseenFile &file : unseenFiles) {
+        if (const QString &path = arguments.*file.path; !path.isEmpty())
+            progress.say(u"Uses the %1: %2"_s.arg(file.name, path));
     }
     if (const QStringList unnamed = unnamedDefines(arguments); !unnamed.isEmpty()) {
         progress.say(u"Without a define flag the compiler cannot be told of: %1"_s.arg(
@@ -80,17 +86,15 @@ bool checkDestination(Progress &progress, const QString &path)
 std::optional<QByteArray> textOfPersonality(Progress &progress, const Arguments &arguments,
                                             const Compiler &compiler, const Facts &facts)
 {
-    const platform::FileContent templateFile = platform::readFile(arguments.templateFile);
-    if (!arguments.templateFile.isEmpty() && templateFile.state != platform::FileContent::Whole) {
+    const std::optional<QByteArray> templateText = readTemplate(arguments);
+    if (!templateText) {
         progress.say(templateUnreadable(arguments));
         return {};
     }
-    // Clang reads it in UTF-8.
-    const QByteArray templateText = platform::decodedText(templateFile.bytes).toUtf8();
     CommandParts parts {compiler.command, includeDirectories(compiler.command), {}};
     for (const IncludedFile &included : compiler.includedFirst)
         parts.includedFirst.append({included.option.toUtf8(), included.file.toUtf8()});
-    const Personality personality = composePersonality(arguments, facts, parts, templateText);
+    const Personality personality = composePersonality(arguments, facts, parts, *templateText);
     for (const QString &option : personality.lacking)
         progress.say(u"Clang has no option like the compiler's %1."_s.arg(option));
     for (const QString &line : differenceSentences(facts.types, personality.typesOfClang))

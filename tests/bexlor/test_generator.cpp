@@ -191,7 +191,8 @@ private slots:
         said.replace(QDir(workshop.folder.path()).canonicalPath(), "$")
             .remove(QRegularExpression("(?<=\\.\\.\\.)( [.0-9]+| of| files?)+"))
             .replace(QRegularExpression("\\d+ "), "N ");
-        QCOMPARE(said, "Template: t.p_c\nForce-include file: b.h\nSubstitute headers: -op\n"
+        QCOMPARE(said, "Uses the template: t.p_c\nUses the force-include file: b.h\n"
+                       "Uses the folder of substitute headers: -op\n"
                        "Compiling a first probe ...\n"
                        "Compiling what the command includes first ...\n"
                        "Compiling control probes ...\n"

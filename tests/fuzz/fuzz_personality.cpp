@@ -1,7 +1,7 @@
 // A personality of any bytes is read, written and read again. Words that Bexlor would not write may
 // be others the first time. The answers in it are taken apart, and what differs is told.
 
-#include "again.h"
+#include "changes.h"
 #include "refusal.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const char *data, std::size_t size)

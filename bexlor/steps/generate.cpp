@@ -1,5 +1,7 @@
-#include "make_personality.h"
+#include "generate.h"
 
+#include "changes.h"
+#include "check_steps.h"
 #include "compiler_names.h"
 #include "learning_steps.h"
 #include "personality_steps.h"
@@ -8,6 +10,13 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// A personality, and the compiler as it has turned out to be called.
+struct MadePersonality
+{
+    QByteArray text;
+    Compiler compiler;
+};
 
 /// Asks the compiler of \a runner for all facts, with \a folder for temporary files. Nothing when a
 /// step fails.
@@ -53,8 +62,8 @@ std::optional<Facts> learn(Progress &progress, ProbeRunner &runner, const Argume
     return facts;
 }
 
-} // namespace
-
+/// Takes the steps from the first probe to the text of the personality that \a arguments, which can
+/// be used, ask for. Nothing when one fails.
 std::optional<MadePersonality> makePersonality(Progress &progress, const Arguments &arguments,
                                                const QString &folder, const QString &logFolder)
 {
@@ -65,4 +74,38 @@ std::optional<MadePersonality> makePersonality(Progress &progress, const Argumen
     const Compiler &compiler = runner.compiler();
     const auto text = textOfPersonality(progress, arguments, compiler, *facts);
     return text ? std::optional(MadePersonality {*text, compiler}) : std::nullopt;
+}
+
+} // namespace
+
+ExitStatus generate(Progress &progress, const Arguments &arguments, const QString &folder)
+{
+    removeLogs();
+    const std::optional<Arguments> usable = checkArguments(progress, arguments);
+    if (!usable || !checkDestination(progress, usable->personality))
+        return ExitStatus::Failed;
+    const std::optional<MadePersonality> made = makePersonality(progress, *usable, folder, u"."_s);
+    if (!made || !writePersonality(progress, arguments.personality, made->text))
+        return ExitStatus::Failed;
+    checkHeaders(progress, made->compiler, arguments.personality, made->text, folder);
+    return arguments.checksTypes
+             ? checkTypes(progress, made->compiler, arguments.personality, made->text, folder)
+             : ExitStatus::Done;
+}
+
+ExitStatus verify(Progress &progress, const Arguments &arguments, const QByteArray &earlier,
+                  const QString &folder)
+{
+    const std::optional<Arguments> usable = checkArguments(progress, arguments);
+    const std::optional<MadePersonality> made =
+        usable ? makePersonality(progress, *usable, folder, folder) : std::nullopt;
+    if (!made)
+        return ExitStatus::Failed;
+    const QStringList changes = changesBetween(earlier, made->text);
+    for (const QString &change : changes)
+        progress.say(change);
+    if (!changes.isEmpty())
+        return ExitStatus::Missing;
+    progress.say(u"Nothing has changed."_s);
+    return ExitStatus::Done;
 }
