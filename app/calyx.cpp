@@ -89,3 +89,10 @@ Answers Calyx::currentAnswers() const
 {
     return answersOn(*this, answers);
 }
+
+void Calyx::changeAnswers(const std::function<void(Answers &)> &change, AnswerField::Role shown)
+{
+    answers = currentAnswers();
+    change(answers);
+    showAnswers(answers, *this, shown);
+}

@@ -1,10 +1,12 @@
 #pragma once
 
-#include "answers.h"
+#include "answer_table.h"
 #include "calyx_base.h"
 #include "catalogue_file.h"
 #include "compiler_menu.h"
 #include "sub_popup_menu.h"
+
+#include <functional>
 
 class GeneratorRun;
 
@@ -145,6 +147,8 @@ private:
     void installFilters();
     /// The answers with what the pages hold now.
     Answers currentAnswers() const;
+    /// Takes the answers from the pages, lets \a change work on them, and shows those of a role.
+    void changeAnswers(const std::function<void(Answers &)> &change, AnswerField::Role shown);
 
     // calyx_navigation.cpp
     void connectSideBar();

@@ -91,17 +91,14 @@ void Calyx::fillFrom(const CompilerRecord &record)
     CrossCmpCheckBox->setChecked(chosen.crossCompiler);
     CrossCmpCheckBox_clicked();
 
-    answers = currentAnswers();
-    applyRecord(record, answers);
-    showAnswers(answers, *this, AnswerField::Recorded);
+    changeAnswers([&record](Answers &changed) { applyRecord(record, changed); },
+                  AnswerField::Recorded);
     updateCommandPreview();
 }
 
 void Calyx::resetCompilerFields()
 {
-    answers = currentAnswers();
-    resetCompiler(answers);
-    showAnswers(answers, *this, AnswerField::Reset);
+    changeAnswers(&resetCompiler, AnswerField::Reset);
 }
 
 void Calyx::AddCompilerBtn_clicked()

@@ -60,9 +60,8 @@ QString Calyx::commandOrderString() const
 
 void Calyx::applyOrderString(const QString &order)
 {
-    answers = currentAnswers();
-    ::applyOrderString(answers, order);
-    showAnswers(answers, *this, AnswerField::InCommand);
+    changeAnswers([&order](Answers &changed) { ::applyOrderString(changed, order); },
+                  AnswerField::InCommand);
 }
 
 QString Calyx::toCommaList(QString text)
@@ -103,9 +102,7 @@ void Calyx::moveOrderItem(int distance)
 
 void Calyx::buildReview()
 {
-    answers = currentAnswers();
-    tidy(answers);
-    showAnswers(answers, *this, AnswerField::Tidied);
+    changeAnswers(&tidy, AnswerField::Tidied);
     updateCommandPreview();
     DetailsText->setReview(reviewText(answers, AnswerField::Shown));
     detailsText = reviewText(answers, AnswerField::Kept);

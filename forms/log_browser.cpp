@@ -7,6 +7,7 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextLayout>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -96,7 +97,6 @@ void LogBrowser::setText(const QString &text)
     m_lineIsUnfinished = false;
     m_text.clear();
     m_kept.reset();
-    m_isKept = true;
     m_hidden = 0;
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     document()->setDocumentLayout(nullptr); // the toolkit's own, which stays quick
@@ -159,13 +159,13 @@ void LogBrowser::keep(const QString &text)
 {
     if (!m_kept && m_text.size() + text.size() > longestInMemory) {
         m_kept = std::make_unique<QTemporaryFile>();
-        m_isKept = m_kept->open() && writeAll(*m_kept, m_text.toLocal8Bit());
-        m_text.clear();
+        m_kept->open();
+        keep(std::exchange(m_text, {}));
     }
-    if (m_kept)
-        m_isKept = m_isKept && writeAll(*m_kept, text.toLocal8Bit());
-    else
+    if (!m_kept)
         m_text += text;
+    else if (m_kept->isOpen() && !writeAll(*m_kept, text.toLocal8Bit()))
+        m_kept->close();
 }
 
 void LogBrowser::showEndOnly()
@@ -178,11 +178,12 @@ void LogBrowser::showEndOnly()
     // Without the scroll bar, and with it again, all would be laid out once more.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     clear();
+    const bool isKept = !m_kept || m_kept->isOpen();
     QTextCursor(document())
         .insertText(
             u"[%1 million older characters are not shown; %2]\n"_s
                 .arg(double(m_hidden) / 1e6, 0, 'f', 1)
-                .arg(m_isKept ? "a saved log has them."_L1 : "there was no room to keep them."_L1)
+                .arg(isKept ? "a saved log has them."_L1 : "there was no room to keep them."_L1)
             + rest);
 }
 
@@ -190,7 +191,7 @@ bool LogBrowser::save(QIODevice &device) const
 {
     if (!m_kept)
         return writeAll(device, m_text.toLocal8Bit());
-    if (!m_isKept || !m_kept->flush())
+    if (!m_kept->isOpen() || !m_kept->flush())
         return writeAll(device, toPlainText().toLocal8Bit());
     QFile file(m_kept->fileName());
     if (!file.open(QIODevice::ReadOnly))

@@ -39,7 +39,7 @@ private:
 
     bool m_lineIsUnfinished = false;
     QString m_text;                         ///< the whole text as it came, while it is not long
-    std::unique_ptr<QTemporaryFile> m_kept; ///< and then, in the local encoding
-    bool m_isKept = true;                   ///< not when there was no room for it
+    std::unique_ptr<QTemporaryFile> m_kept; ///< and then, in the local encoding; closed when there
+                                            ///< was no room for it
     qint64 m_hidden = 0;                    ///< characters that are no longer shown
 };

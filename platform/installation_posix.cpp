@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QStandardPaths>
+#include <algorithm>
 #include <unistd.h>
 #include <vector>
 
@@ -30,10 +31,9 @@ std::optional<int> continueAs(const QString &program, const QStringList &argumen
     QList<QByteArray> words {QFile::encodeName(program)};
     for (const QString &argument : arguments)
         words << argument.toLocal8Bit();
-    std::vector<char *> pointers;
-    for (QByteArray &word : words)
-        pointers.push_back(word.data());
-    pointers.push_back(nullptr);
+    std::vector<char *> pointers(words.size() + 1); // the last one is null
+    std::transform(words.begin(), words.end(), pointers.begin(),
+                   [](QByteArray &word) { return word.data(); });
     // The same process, so that signals, the session and the exit status are the wizard's.
     if (QDir::setCurrent(workingDirectory))
         execv(pointers.front(), pointers.data());

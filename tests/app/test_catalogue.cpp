@@ -165,13 +165,16 @@ private slots:
         QVERIFY(user->DetailsText->toPlainText().endsWith(
             "\nCompiler Saved: a - C\nCompiler Saved: dd - C++"));
 
+        // Another wizard's family shows although nothing is saved.
+        saved.families << "Theirs";
+        folder.write("bin/compilers.txt", catalogueText(saved));
         const CompilerCatalogue before = saved;
         saved = save([](SaveCompilerDetails &dialog) {
             QCOMPARE(dialog.ExstCmpNameComboBox->currentText(), "dd - C++");
             dialog.buttonCancel->click();
         });
         QCOMPARE(saved, before);
-        QCOMPARE(user->ExeCommandBtn->menu()->actions().size(), 2);
+        QCOMPARE(user->ExeCommandBtn->menu()->actions().size(), 3);
         // It is the chosen one now, and does not go with the product.
         QVERIFY(!messageOf([&] { user->KOVRadioButton->click(); }).isEmpty());
 

@@ -38,7 +38,7 @@ private slots:
         row("what may be written", "-oodd -oddodd --odd odd --odd=odd",
             "-oodd -oddodd --odd odd --odd=odd");
         row("response file", "@words.rsp -g", "-I$/inc -DA=b c.h -g");
-        row("response file of a GNU compiler", "@gnu.rsp", "-DA=b c -DC=\"x\" -Id\\e");
+        row("response file of a GNU compiler", "@gnu.rsp", "-Id\\e -DA=b c -DC=\"x\"");
         row("response file without a mark", "@half.rsp", "@$/half.rsp");
         row("response files without an end", "@loop.rsp",
             QString("@$/loop.rsp ").repeated(200 * 3 + 1).trimmed());
@@ -52,7 +52,7 @@ private slots:
         for (const char *name : {"run.py", "odd", "c.h"})
             writeTestFile(folder.filePath(name));
         writeTestFile(folder.filePath("words.rsp"), "-Iinc\n\"-DA=b c.h\" -MF d");
-        writeTestFile(folder.filePath("gnu.rsp"), "'-DA=b c' -DC=\\\"x\\\" -Id\\e");
+        writeTestFile(folder.filePath("gnu.rsp"), "-Id\\e '-DA=b c' -DC=\\\"x\\\"");
         writeTestFile(folder.filePath("loop.rsp"), "@loop.rsp @loop.rsp @loop.rsp @loop.rsp");
         writeTestFile(folder.filePath("half.rsp"), "\"-DA");
         QDir::setCurrent(folder.path());

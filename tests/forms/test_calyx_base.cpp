@@ -72,7 +72,7 @@ bool isComplete(const QWidget *widget)
     if (const auto *label = qobject_cast<const QLabel *>(widget))
         return shows(label->text(), label->pixmap()) || label->objectName().endsWith("ErrorLabel");
     if (const auto *button = qobject_cast<const QPushButton *>(widget))
-        return shows(button->text(), button->icon())
+        return shows(button->text(), button->icon()) && button->shortcut().isEmpty()
             && button->palette().color(button->backgroundRole()) == Qt::white;
     return !qobject_cast<const QLineEdit *>(widget) || !widget->toolTip().isEmpty();
 }
@@ -232,6 +232,8 @@ private slots:
         box->setTitle("       " + sign + "   ");
         QVERIFY(darkHeight(alone) > 8);
         QCOMPARE(darkHeight(box->grab(QRect(27, 0, 30, 19)).toImage()), darkHeight(alone));
+        const QImage edge = box->grab(QRect(0, 40, 4, 40)).toImage();
+        QVERIFY(edge.pixel(0, 20) != edge.pixel(3, 20)); // the frame
     }
 
     void canBeReadUnderEveryPalette_data()

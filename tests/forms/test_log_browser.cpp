@@ -84,16 +84,21 @@ private slots:
 
     void savesAllThatCame_data()
     {
-        const Columns<QString, int, bool> row("piece", "pieces", "showsAll");
-        row("a long line", QString("0123456789").repeated(1000), 3, true);
-        row("a long text", QString("a line of a long text\n").repeated(1000), 60, true);
-        row("more than can be shown", QString("\n").repeated(20'000), 100, false);
+        const Columns<QString, int, bool, bool> row("piece", "pieces", "showsAll", "hasRoom");
+        const QString longText = QString("a line of a long text\n").repeated(1000);
+        row("a long line", QString("0123456789").repeated(1000), 3, true, true);
+        row("a long text", longText, 60, true, true);
+        row("more than can be shown", QString("\n").repeated(20'000), 100, false, true);
+        row("without room for a file", longText, 60, true, false);
     }
     void savesAllThatCame()
     {
         QFETCH(QString, piece);
         QFETCH(int, pieces);
         QFETCH(bool, showsAll);
+        QFETCH(bool, hasRoom);
+        // Temporary files are called after it.
+        QCoreApplication::setApplicationName(hasRoom ? "test" : "no folder/test");
         ShownBrowser browser;
         browser.setText("first\n");
         for (int i = 0; i < pieces; ++i)

@@ -2,6 +2,7 @@
 // be others the first time. The answers in it are taken apart, and what differs is told.
 
 #include "changes.h"
+#include "personality.h"
 #include "refusal.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const char *data, std::size_t size)

@@ -96,6 +96,17 @@ private slots:
         QVERIFY(run.succeeded());
         QCOMPARE(run.output.trimmed(), "end");
         QTRY_VERIFY_WITH_TIMEOUT(hasStopped(folder.filePath("beat")), patience);
+
+        qputenv("STAND_IN", "child another\nwait never");
+        QProcess process;
+        process.setWorkingDirectory(folder.path());
+        {
+            platform::ProcessTree tree(process);
+            QVERIFY(tree.start({standIn}));
+            QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(folder.filePath("another")), patience);
+        }
+        QTRY_VERIFY_WITH_TIMEOUT(hasStopped(folder.filePath("another")), patience);
+        process.waitForFinished();
     }
 
     void endsWithTheProgramThatStartedIt()

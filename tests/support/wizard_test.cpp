@@ -191,6 +191,8 @@ QString withFileDialog(const std::function<void()> &action, const QString &path)
     withDialog(action, [&](QWidget *widget) {
         auto *dialog = qobject_cast<QFileDialog *>(widget);
         folder = dialog->directory().path();
+        const bool asksForFolder = dialog->fileMode() == QFileDialog::Directory;
+        QCOMPARE(dialog->testOption(QFileDialog::ShowDirsOnly), asksForFolder);
         const bool isFolder = QFileInfo(path).isDir();
         if (isFolder)
             dialog->setDirectory(path);
