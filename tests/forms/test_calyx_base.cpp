@@ -158,6 +158,8 @@ private slots:
                          && widget->dynamicPropertyNames().isEmpty(),
                      qPrintable(widget->objectName()));
         }
+        for (const auto which : {QWizard::BackButton, QWizard::NextButton, QWizard::CancelButton})
+            QCOMPARE(forms.user->button(which)->palette().color(QPalette::Button), Qt::white);
         QStringList titles {""};
         for (const QGroupBox *box : forms.all<QGroupBox>())
             titles << box->title();

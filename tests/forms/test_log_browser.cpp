@@ -106,6 +106,8 @@ private slots:
         browser.append("last");
         QBuffer saved;
         QVERIFY(saved.open(QIODevice::WriteOnly) && browser.save(saved));
+        QBuffer closed;
+        QVERIFY(!browser.save(closed));
         const QByteArray all = "first\n" + piece.repeated(pieces).toLocal8Bit();
         QVERIFY(saved.data().startsWith(all.chopped(1)) && saved.data().endsWith("last"));
         QVERIFY(saved.size() - all.size() <= 5);
