@@ -192,7 +192,9 @@ private slots:
                 if (!page->isAncestorOf(stop) || !(stop->focusPolicy() & Qt::TabFocus))
                     continue;
                 const QRect place(stop->mapTo(page, QPoint()), stop->size());
-                QVERIFY2(place.top() > previous.top() || place.left() > previous.right(),
+                const bool leavesSideBar = previous.left() >= 560 && place.left() < 560;
+                QVERIFY2((place.top() > previous.top() && !leavesSideBar)
+                             || place.left() > previous.right(),
                          qPrintable(stop->objectName()));
                 previous = place;
             }
