@@ -79,8 +79,8 @@ QString problemWithFiles(const Arguments &arguments)
 {
     for (const UnseenFile &file : unseenFiles) {
         const QString &path = arguments.*file.path;
-        if (leavesFolder(path, file.folder)) {
-            return u"The %1 does not lie in the folder %2: %3"_s.arg(file.name, file.folder, path);
+        if (leavesFolder(path, file.home)) {
+            return u"The %1 does not lie in the folder %2: %3"_s.arg(file.name, file.home, path);
         }
         if (!path.isEmpty() && !mayStandInPersonality(path)) {
             return u"The name of the %1 holds a control character: %2"_s.arg(file.name, path);

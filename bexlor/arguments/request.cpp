@@ -37,7 +37,7 @@ Request parseEntry(ArgumentReader &reader)
 
 Request parseCheck(ArgumentReader &reader)
 {
-    CheckRequest request {reader.wholePath(), {}, u"-E"_s, u"clang"_s, {}};
+    CheckRequest request {reader.wholePath(), {}, u"-E"_s, usualClang, {}};
     do {
         if (reader.flag("--json"_L1))
             request.jsonFile = reader.wholePath();
@@ -73,7 +73,7 @@ Request parseExport(ArgumentReader &reader)
 {
     ExportRequest request;
     request.personality = reader.wholePath();
-    request.clang = u"clang"_s;
+    request.clang = usualClang;
     const FormatWord *format =
         std::find_if(std::begin(formatWords), std::end(formatWords),
                      [&reader](const FormatWord &row) { return reader.flag(row.word); });

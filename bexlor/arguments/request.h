@@ -7,6 +7,9 @@
 // What a command line may ask for. Paths are the host's, and whole where another working directory
 // is entered before they are used.
 
+/// The clang that is meant where none is named.
+inline constexpr QLatin1StringView usualClang("clang");
+
 /// To generate a personality once more.
 struct AgainRequest
 {

@@ -8,8 +8,8 @@ struct UnseenFile
 {
     QLatin1StringView name;
     QString Arguments::*path;
-    QLatin1StringView folder; ///< that it belongs in, beside the working directory
-    bool isFolder;
+    QLatin1StringView home; ///< the folder that it belongs in, beside the working directory
+    bool isFolder;          ///< and no file itself
 };
 
 inline constexpr UnseenFile unseenFiles[] = {

@@ -5,7 +5,7 @@
 
 #include <functional>
 
-/// Gets what its work is said to, and a folder for temporary files.
+/// Work that reports to \a progress and has \a folder for temporary files.
 using Work = std::function<ExitStatus(Progress &progress, const QString &folder)>;
 
 /// Does \a work, and removes the folder and all programs that it has left behind, however this

@@ -208,7 +208,7 @@ ExitStatus checkWithPersonality(Progress &progress, const CheckRequest &request,
 void checkHeaders(Progress &progress, const Compiler &compiler, const QString &personality,
                   const QByteArray &text, const QString &folder)
 {
-    const std::optional<Clang> clang = findClang(u"clang"_s);
+    const std::optional<Clang> clang = findClang(usualClang);
     if (!clang)
         return;
     const Personality content = parsePersonality(text);
@@ -242,10 +242,10 @@ ExitStatus checkTypes(Progress &progress, const Compiler &compiler, const QStrin
     const Personality content = parsePersonality(text);
     const QByteArray source = typeAssertions(content.facts, compiler.isCpp);
     if (!platform::writeFile(file, source)) {
-        progress.say(u"The assertions cannot be written: %1"_s.arg(file));
+        progress.say(notWritten(u"assertions"_s, file));
         return ExitStatus::Failed;
     }
-    const std::optional<Clang> clang = findClang(progress, u"clang"_s);
+    const std::optional<Clang> clang = findClang(progress, usualClang);
     if (!clang)
         return ExitStatus::Missing;
     const Checking checking {.clang = *clang,

@@ -2,10 +2,13 @@
 
 #include "changes.h"
 #include "check_steps.h"
+#include "compiler.h"
 #include "compiler_names.h"
 #include "learning_steps.h"
 #include "personality_steps.h"
 #include "probe_steps.h"
+
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -85,11 +88,11 @@ ExitStatus generate(Progress &progress, const Arguments &arguments, const QStrin
     if (!usable || !checkDestination(progress, usable->personality))
         return ExitStatus::Failed;
     const std::optional<MadePersonality> made = makePersonality(progress, *usable, folder, u"."_s);
-    if (!made || !writePersonality(progress, arguments.personality, made->text))
+    if (!made || !writePersonality(progress, usable->personality, made->text))
         return ExitStatus::Failed;
-    checkHeaders(progress, made->compiler, arguments.personality, made->text, folder);
-    return arguments.checksTypes
-             ? checkTypes(progress, made->compiler, arguments.personality, made->text, folder)
+    checkHeaders(progress, made->compiler, usable->personality, made->text, folder);
+    return usable->checksTypes
+             ? checkTypes(progress, made->compiler, usable->personality, made->text, folder)
              : ExitStatus::Done;
 }
 

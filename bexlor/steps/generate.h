@@ -11,7 +11,7 @@
 /// the working directory.
 ExitStatus generate(Progress &progress, const Arguments &arguments, const QString &folder);
 
-/// Writes nothing, but says in which lines the personality that \a arguments ask for would differ
-/// from the \a earlier one; Missing when there are any.
+/// Writes nothing, no logs either, but says in which lines the personality that \a arguments ask
+/// for would differ from the \a earlier one; Missing when there are any.
 ExitStatus verify(Progress &progress, const Arguments &arguments, const QByteArray &earlier,
                   const QString &folder);

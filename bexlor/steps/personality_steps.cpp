@@ -41,8 +41,12 @@ QString problemWith(const Arguments &arguments)
     for (const UnseenFile &file : unseenFiles) {
         const QString &path = arguments.*file.path;
         const QFileInfo info(path);
-        if (!path.isEmpty() && !(file.isFolder ? info.isDir() : info.isFile()))
+        if (path.isEmpty() || (file.isFolder ? info.isDir() : info.isFile()))
+            continue;
+        if (!info.exists())
             return u"The %1 does not exist: %2"_s.arg(file.name, path);
+        return u"The %1 is no %2: %3"_s.arg(file.name, file.isFolder ? u"folder"_s : u"file"_s,
+                                            path);
     }
     return readTemplate(arguments) ? QString() : templateUnreadable(arguments);
 }

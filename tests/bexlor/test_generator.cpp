@@ -645,7 +645,8 @@ private slots:
     {
         const Columns<QString, QStringList, QByteArray> row("command", "more", "says");
         for (const char *option : {"-tpl", "-fi", "-sub"})
-            row(option, "tcc", {option, "nowhere"}, "nowhere");
+            row(option, "tcc", {option, "nowhere"}, " does not exist: nowhere");
+        row("a file for a folder", "tcc", {"-sub", "nowhere.txt"}, " is no folder: nowhere.txt");
         row("a define that is a path", "tcc", {"-xd", "/nowhere"},
             "not begin with a name: /nowhere");
         row("no compiler", "no-such-compiler", {}, "could not be started");
@@ -664,6 +665,7 @@ private slots:
         QFETCH(QByteArray, says);
         const Workshop workshop;
         workshop.write("compile.bat", "of an earlier run");
+        workshop.write("nowhere.txt", "");
         qputenv("BEXLOR_LEARN_ONLY", "1");
         const QString odd = workshop.compiler("exec tcc \"$@\"");
         const ProgramRun run = workshop.generate("kov", command == "odd" ? odd : command, more);

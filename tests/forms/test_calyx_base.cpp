@@ -192,7 +192,8 @@ private slots:
                 if (!page->isAncestorOf(stop) || !(stop->focusPolicy() & Qt::TabFocus))
                     continue;
                 const QRect place(stop->mapTo(page, QPoint()), stop->size());
-                const bool leavesSideBar = previous.left() >= 560 && place.left() < 560;
+                const int sideBar = 560;
+                const bool leavesSideBar = previous.left() >= sideBar && place.left() < sideBar;
                 QVERIFY2((place.top() > previous.top() && !leavesSideBar)
                              || place.left() > previous.right(),
                          qPrintable(stop->objectName()));
@@ -287,6 +288,7 @@ private slots:
             edit->setCursorPosition(1);
             edit->paste();
             QCOMPARE(edit->text(), '<' + held + '>');
+            QCOMPARE(edit->cursorPosition(), 1 + held.size());
             edit->setText('\n' + pasted);
             QCOMPARE(edit->text(), held);
         }

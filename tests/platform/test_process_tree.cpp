@@ -96,16 +96,21 @@ private slots:
         QVERIFY(run.succeeded());
         QCOMPARE(run.output.trimmed(), "end");
         QTRY_VERIFY_WITH_TIMEOUT(hasStopped(folder.filePath("beat")), patience);
+    }
 
-        qputenv("STAND_IN", "child another\nwait never");
+    void endsWithItsOwner()
+    {
+        const QTemporaryDir folder;
+        const QString beat = folder.filePath("beat");
+        qputenv("STAND_IN", "child beat\nwait never");
         QProcess process;
         process.setWorkingDirectory(folder.path());
         {
             platform::ProcessTree tree(process);
             QVERIFY(tree.start({standIn}));
-            QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(folder.filePath("another")), patience);
+            QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(beat), patience);
         }
-        QTRY_VERIFY_WITH_TIMEOUT(hasStopped(folder.filePath("another")), patience);
+        QTRY_VERIFY_WITH_TIMEOUT(hasStopped(beat), patience);
         process.waitForFinished();
     }
 

@@ -179,8 +179,8 @@ QString messageOf(const std::function<void()> &action)
     withDialog(action, [&text](QWidget *widget) {
         auto *box = qobject_cast<QMessageBox *>(widget);
         text = box->text();
-        QVERIFY(!box->windowIcon().isNull());
         box->done(QMessageBox::Ok);
+        QVERIFY(!box->windowIcon().isNull() && !box->windowTitle().isEmpty());
     });
     return text;
 }
@@ -191,14 +191,14 @@ QString withFileDialog(const std::function<void()> &action, const QString &path)
     withDialog(action, [&](QWidget *widget) {
         auto *dialog = qobject_cast<QFileDialog *>(widget);
         folder = dialog->directory().path();
-        const bool asksForFolder = dialog->fileMode() == QFileDialog::Directory;
-        QCOMPARE(dialog->testOption(QFileDialog::ShowDirsOnly), asksForFolder);
         const bool isFolder = QFileInfo(path).isDir();
         if (isFolder)
             dialog->setDirectory(path);
         dialog->findChild<QLineEdit *>("fileNameEdit")->setText(isFolder ? QString() : path);
         QDialog *anyDialog = dialog;
         path.isEmpty() ? anyDialog->reject() : anyDialog->accept();
+        const bool asksForFolder = dialog->fileMode() == QFileDialog::Directory;
+        QCOMPARE(dialog->testOption(QFileDialog::ShowDirsOnly), asksForFolder);
     });
     return folder;
 }

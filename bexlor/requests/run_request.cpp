@@ -1,10 +1,15 @@
+#include "run_request.h"
+
 #include "again.h"
+#include "catalogue_answers.h"
 #include "check_steps.h"
+#include "console.h"
 #include "export_steps.h"
 #include "generate.h"
 #include "printing.h"
-#include "requests.h"
 #include "workshop.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -31,7 +36,24 @@ void enterFolder(Progress &progress, const EarlierPersonality &earlier)
         progress.say(*remark);
 }
 
-} // namespace
+// run() does the one thing that it is given.
+
+ExitStatus run(const Arguments &arguments)
+{
+    return inWorkshop([&arguments](Progress &progress, const QString &folder) {
+        return generate(progress, arguments, folder);
+    });
+}
+
+ExitStatus run(const EntryRequest &request)
+{
+    const auto answers = answersOfEntry(request.name, request.catalogue, request.personality);
+    if (const auto *problem = std::get_if<QString>(&answers)) {
+        printLines(stdout, *problem);
+        return ExitStatus::Failed;
+    }
+    return run(std::get<Arguments>(answers));
+}
 
 ExitStatus run(const AgainRequest &request)
 {
@@ -64,4 +86,42 @@ ExitStatus run(const ExportRequest &request)
             enterFolderOf(earlier);
             return exportPersonality(progress, request, earlier.arguments, earlier.content, folder);
         });
+}
+
+ExitStatus run(const HelpRequest &)
+{
+    platform::print(stdout, help() + u'\n');
+    return ExitStatus::Done;
+}
+
+ExitStatus run(const VersionRequest &)
+{
+    platform::print(stdout, u"Bexlor " BEXLOR_VERSION "\n"_s);
+    return ExitStatus::Done;
+}
+
+ExitStatus run(const UsageError &error)
+{
+    printLines(stderr, error.sentence + u'\n' + usage());
+    return ExitStatus::Usage;
+}
+
+/// Unlike std::visit() this throws nothing.
+template <typename... Wanted>
+ExitStatus runOneOf(const std::variant<Wanted...> &request)
+{
+    ExitStatus status = ExitStatus::Usage;
+    const auto runIf = [&status](const auto *wanted) {
+        if (wanted)
+            status = run(*wanted);
+    };
+    (runIf(std::get_if<Wanted>(&request)), ...);
+    return status;
+}
+
+} // namespace
+
+ExitStatus runRequest(const Request &request)
+{
+    return runOneOf(request);
 }

@@ -1,0 +1,1 @@
+// Nothing but the headers that are compiled before it.
