@@ -159,8 +159,9 @@ void LogBrowser::keep(const QString &text)
 {
     if (!m_kept && m_text.size() + text.size() > longestInMemory) {
         m_kept = std::make_unique<QTemporaryFile>();
-        m_kept->open();
-        keep(std::exchange(m_text, {}));
+        const QString before = std::exchange(m_text, {});
+        if (m_kept->open())
+            keep(before);
     }
     if (!m_kept)
         m_text += text;
