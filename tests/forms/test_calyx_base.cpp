@@ -131,7 +131,7 @@ private slots:
             QCOMPARE(hiddenOf(named(user->currentPage())), "");
             QRegion decoration;
             for (const QWidget *part : user->currentPage()->findChildren<QWidget *>(
-                     QRegularExpression("^(line1|pixmapLabel[35])")))
+                     QRegularExpression("^(line1|pixmapLabel[35]|P[0-4]_)")))
                 decoration += part->geometry();
             if (id == 0)
                 decorationOfFirst = decoration;
